@@ -1,0 +1,60 @@
+// What the measuring loop times: a contestant is a name, a role and a function that makes calls.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace haldgen::bench {
+
+/// The buffers that consecutive calls of one slice use: pair k is `src + k * src_stride` and
+/// `dst + k * dst_stride` (strides in bytes), and after pair `pairs - 1` comes pair 0 again. One
+/// pair means that every call uses the same two buffers.
+struct Walk {
+  const std::byte* src;
+  std::byte* dst;
+  std::ptrdiff_t src_stride;
+  std::ptrdiff_t dst_stride;
+  int pairs;
+};
+
+/// Makes `calls` calls along the walk. The only thing that is ever timed, so whatever is not part
+/// of a call happens when the slice is made.
+using Slice = std::function<void(const Walk& walk, std::int64_t calls)>;
+
+enum class Role {
+  subject,      ///< the kernel that all others are compared with
+  variant,      ///< another build of it
+  peer,         ///< another library at its best
+  narrow_peer,  ///< another library held to the vector width of the subject
+  calibration,  ///< what the machine needs for a call or an addition
+};
+
+struct Contestant {
+  std::string name;
+  Role role;
+  Slice slice;
+};
+
+/// Body of a slice: `call(src, dst)` for each step of the walk. A template, so that all that
+/// stands between the loop and the function under test is the call itself.
+template <class Call>
+void walk_calls(const Walk& walk, std::int64_t calls, const Call& call) {
+  const std::byte* src = walk.src;
+  std::byte* dst = walk.dst;
+  int pair = 0;
+  for (std::int64_t i = 0; i < calls; ++i) {
+    call(src, dst);
+    if (++pair == walk.pairs) {
+      pair = 0;
+      src = walk.src;
+      dst = walk.dst;
+    } else {
+      src += walk.src_stride;
+      dst += walk.dst_stride;
+    }
+  }
+}
+
+}  // namespace haldgen::bench

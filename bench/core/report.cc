@@ -1,0 +1,270 @@
+// From samples to figures.
+#include "bench/core/report.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+
+#include "bench/core/chart.h"
+
+namespace haldgen::bench {
+namespace {
+
+constexpr std::array statistics = {Statistic::median, Statistic::minimum};
+constexpr std::array modes = {Mode::hot, Mode::ring};
+
+std::optional<double> quotient(std::optional<double> a, std::optional<double> b) {
+  if (!a || !b) return std::nullopt;
+  return *a / *b;
+}
+
+struct Column {
+  std::string name;
+  Role role;
+};
+
+/// The contestants of all measurements, in the order in which they first occur.
+std::vector<Column> contestant_columns(const std::vector<Measurement>& measurements) {
+  std::vector<Column> columns;
+  for (const Measurement& measurement : measurements) {
+    for (const Series& series : measurement.series) {
+      const bool known = std::any_of(columns.begin(), columns.end(), [&](const Column& column) {
+        return column.name == series.name;
+      });
+      if (!known) columns.push_back({series.name, series.role});
+    }
+  }
+  std::stable_sort(columns.begin(), columns.end(),
+                   [](const Column& a, const Column& b) { return a.role < b.role; });
+  return columns;
+}
+
+bool has_own_ratio(const Column& column) {
+  return column.role == Role::variant || column.role == Role::narrow_peer;
+}
+
+std::vector<std::string> header(const std::vector<Column>& columns) {
+  std::vector<std::string> names = {"family", "type", "length"};
+  for (const Column& column : columns) names.push_back(column.name);
+  names.insert(names.end(), {"best_peer", "/best"});
+  for (const Column& column : columns) {
+    if (has_own_ratio(column)) names.push_back("/" + column.name);
+  }
+  names.insert(names.end(), {"bound", "/bound"});
+  return names;
+}
+
+std::vector<std::string> row(const Figures& figures, const std::vector<Column>& columns,
+                             int extra_decimals) {
+  const Measurement& measurement = *figures.measurement;
+  std::vector<std::string> cells = {measurement.family, measurement.type,
+                                    std::to_string(measurement.length)};
+  for (const Column& column : columns) {
+    // The time of one addition is a fraction of a clock cycle.
+    const int decimals = (column.name == vector_add_name ? 3 : 2) + extra_decimals;
+    cells.push_back(cell(figures.time(column.name), decimals));
+  }
+  cells.push_back(figures.best_peer.empty() ? "-" : figures.best_peer);
+  cells.push_back(cell(figures.best_ratio, 3 + extra_decimals));
+  for (const Column& column : columns) {
+    if (has_own_ratio(column)) {
+      cells.push_back(cell(figures.ratio_to(column.name), 3 + extra_decimals));
+    }
+  }
+  cells.push_back(cell(figures.bound, 2 + extra_decimals));
+  cells.push_back(cell(figures.bound_ratio, 3 + extra_decimals));
+  return cells;
+}
+
+/// A set of lengths that the summary looks at.
+struct Group {
+  const char* name;
+  bool (*contains)(int length);
+};
+
+constexpr std::array groups = {
+    Group{"8,16,32,64", [](int n) { return n == 8 || n == 16 || n == 32 || n == 64; }},
+    Group{"6..64", [](int n) { return 6 <= n && n <= 64; }},
+};
+
+using Ratio = std::function<std::optional<double>(const Figures&)>;
+
+struct Mean {
+  std::string geometric = "-";
+  std::string worst = "-";
+};
+
+Mean mean_of(const std::vector<Figures>& members, const Ratio& ratio) {
+  std::vector<double> values;
+  const Measurement* worst = nullptr;
+  double largest = 0;
+  for (const Figures& figures : members) {
+    const std::optional<double> value = ratio(figures);
+    if (!value) continue;
+    values.push_back(*value);
+    if (*value <= largest) continue;
+    largest = *value;
+    worst = figures.measurement;
+  }
+  if (values.empty()) return {};
+  return {cell(geometric_mean(values), 3),
+          cell(largest, 3) + " at " + worst->type + "/" + std::to_string(worst->length)};
+}
+
+std::vector<Figures> select(const std::vector<Measurement>& measurements, Statistic statistic,
+                            const std::function<bool(const Measurement&)>& wanted) {
+  std::vector<Figures> selected;
+  for (const Measurement& measurement : measurements) {
+    if (wanted(measurement)) selected.emplace_back(measurement, statistic);
+  }
+  return selected;
+}
+
+std::vector<std::string> distinct(const std::vector<Measurement>& measurements,
+                                  std::string Measurement::*field) {
+  std::vector<std::string> values;
+  for (const Measurement& measurement : measurements) {
+    const std::string& value = measurement.*field;
+    if (std::find(values.begin(), values.end(), value) == values.end()) values.push_back(value);
+  }
+  return values;
+}
+
+}  // namespace
+
+Figures::Figures(const Measurement& source, Statistic which)
+    : measurement(&source), statistic(which) {
+  std::optional<double> best;
+  for (const Series& series : source.series) {
+    const double value = evaluate(which, series.samples);
+    if (series.role == Role::subject) subject = value;
+    if (series.role == Role::peer && (!best || value < *best)) {
+      best = value;
+      best_peer = series.name;
+    }
+  }
+  best_ratio = quotient(subject, best);
+  const std::optional<double> call = time(null_call_name);
+  const std::optional<double> addition = time(vector_add_name);
+  if (source.vector_additions && call && addition) {
+    bound = *call + *source.vector_additions * *addition;
+  }
+  bound_ratio = quotient(subject, bound);
+}
+
+std::optional<double> Figures::time(const std::string& contestant) const {
+  for (const Series& series : measurement->series) {
+    if (series.name == contestant) return evaluate(statistic, series.samples);
+  }
+  return std::nullopt;
+}
+
+std::optional<double> Figures::ratio_to(const std::string& contestant) const {
+  return quotient(subject, time(contestant));
+}
+
+Table figures_table(const std::vector<Measurement>& measurements, Mode mode, Statistic statistic) {
+  const std::vector<Column> columns = contestant_columns(measurements);
+  Table table{header(columns), {}};
+  for (const Figures& figures :
+       select(measurements, statistic, [&](const Measurement& m) { return m.mode == mode; })) {
+    table.rows.push_back(row(figures, columns, 0));
+  }
+  return table;
+}
+
+Table long_table(const std::vector<Measurement>& measurements) {
+  const std::vector<Column> columns = contestant_columns(measurements);
+  Table table{header(columns), {}};
+  table.header.insert(table.header.begin(), {"mode", "statistic"});
+  for (const Mode mode : modes) {
+    for (const Statistic statistic : statistics) {
+      for (const Figures& figures :
+           select(measurements, statistic, [&](const Measurement& m) { return m.mode == mode; })) {
+        std::vector<std::string> cells = row(figures, columns, 2);
+        cells.insert(cells.begin(), {std::string(name(mode)), std::string(name(statistic))});
+        table.rows.push_back(std::move(cells));
+      }
+    }
+  }
+  return table;
+}
+
+Table summary_table(const std::vector<Measurement>& measurements) {
+  std::vector<std::pair<std::string, Ratio>> ratios = {
+      {"/best", [](const Figures& f) { return f.best_ratio; }}};
+  for (const Column& column : contestant_columns(measurements)) {
+    if (!has_own_ratio(column)) continue;
+    ratios.emplace_back("/" + column.name,
+                        [name = column.name](const Figures& f) { return f.ratio_to(name); });
+  }
+  ratios.emplace_back("/bound", [](const Figures& f) { return f.bound_ratio; });
+
+  Table table{{"mode", "statistic", "family", "lengths", "type", "kernels"}, {}};
+  for (const auto& [title, ratio] : ratios) {
+    table.header.insert(table.header.end(), {title, "worst " + title});
+  }
+  std::vector<std::string> types = distinct(measurements, &Measurement::type);
+  if (types.size() > 1) types.push_back("all");
+
+  const auto add_row = [&](Mode mode, Statistic statistic, const std::string& family,
+                           const Group& group, const std::string& type) {
+    const std::vector<Figures> members = select(measurements, statistic, [&](const Measurement& m) {
+      return m.mode == mode && m.family == family && group.contains(m.length) &&
+             (type == "all" || m.type == type);
+    });
+    if (members.empty()) return;
+    std::vector<std::string> cells = {
+        std::string(name(mode)),       std::string(name(statistic)), family, group.name, type,
+        std::to_string(members.size())};
+    for (const auto& [title, ratio] : ratios) {
+      const Mean mean = mean_of(members, ratio);
+      cells.insert(cells.end(), {mean.geometric, mean.worst});
+    }
+    table.rows.push_back(std::move(cells));
+  };
+
+  for (const Mode mode : modes) {
+    for (const Statistic statistic : statistics) {
+      for (const std::string& family : distinct(measurements, &Measurement::family)) {
+        for (const Group& group : groups) {
+          for (const std::string& type : types) add_row(mode, statistic, family, group, type);
+        }
+      }
+    }
+  }
+  return table;
+}
+
+void write_picture(std::ostream& out, const std::vector<Measurement>& measurements,
+                   const std::string& family, Mode mode) {
+  constexpr std::array colours = {"#0b6fa4", "#c2410c", "#3f7d20", "#7c3aed"};
+  Chart chart{family + ", " + std::string(name(mode)) +
+                  " buffers: median time over that of the peer (below 1 is faster than it)",
+              "length",
+              "ratio",
+              1.0,
+              {}};
+  std::size_t colour = 0;
+  for (const std::string& type : distinct(measurements, &Measurement::type)) {
+    Line best{type + " / best peer", colours[colour], false, {}};
+    Line narrow{type + " / peer held to 128 bits", colours[colour], true, {}};
+    colour = (colour + 1) % colours.size();
+    for (const Figures& figures :
+         select(measurements, Statistic::median, [&](const Measurement& m) {
+           return m.mode == mode && m.family == family && m.type == type;
+         })) {
+      const double length = figures.measurement->length;
+      if (figures.best_ratio) best.points.push_back({length, *figures.best_ratio});
+      for (const Series& series : figures.measurement->series) {
+        if (series.role != Role::narrow_peer || !figures.subject) continue;
+        narrow.points.push_back({length, *figures.ratio_to(series.name)});
+      }
+    }
+    chart.lines.push_back(std::move(best));
+    chart.lines.push_back(std::move(narrow));
+  }
+  write_svg(out, chart);
+}
+
+}  // namespace haldgen::bench

@@ -1,0 +1,34 @@
+// Kernels of a build of libhaldgenp8, opened at run time so that builds can be compared.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "bench/core/contestant.h"
+
+namespace haldgen::bench {
+
+class KernelLibrary {
+ public:
+  /// Opens the library. Throws std::runtime_error with the loader's message on failure.
+  explicit KernelLibrary(const std::filesystem::path& path);
+
+  /// The function `symbol` (arguments src, dst, flag), called without scaling, as a contestant;
+  /// none if this build does not export it. The library must outlive the contestant.
+  std::optional<Contestant> contestant(const std::string& symbol, const std::string& name,
+                                       Role role) const;
+
+  /// Where the library that was opened really lies.
+  const std::filesystem::path& path() const { return path_; }
+
+ private:
+  struct Close {
+    void operator()(void* handle) const;
+  };
+  std::filesystem::path path_;
+  std::unique_ptr<void, Close> handle_;
+};
+
+}  // namespace haldgen::bench

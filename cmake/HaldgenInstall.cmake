@@ -1,0 +1,39 @@
+# Installation: headers, libraries, CMake package, pkg-config files.
+include(CMakePackageConfigHelpers)
+
+install(TARGETS haldgenp8 haldcore EXPORT haldgenTargets
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/include/haldgen.h ${PROJECT_SOURCE_DIR}/haldcore/haldcore.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/haldgen)
+install(EXPORT haldgenTargets NAMESPACE haldgen:: FILE haldgenConfig.cmake
+  DESTINATION ${package_dir})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/haldgenConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/haldgenConfigVersion.cmake DESTINATION ${package_dir})
+
+# The .pc files find the prefix from their own place, so an installed tree can be moved.
+cmake_path(IS_ABSOLUTE CMAKE_INSTALL_LIBDIR libdir_is_absolute)
+if(libdir_is_absolute)
+  set(pc_prefix ${CMAKE_INSTALL_PREFIX})
+  set(pc_libdir ${CMAKE_INSTALL_LIBDIR})
+else()
+  file(RELATIVE_PATH pc_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+  set(pc_prefix "\${pcfiledir}/${pc_to_prefix}")
+  string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
+  set(pc_libdir "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+endif()
+cmake_path(IS_ABSOLUTE CMAKE_INSTALL_INCLUDEDIR includedir_is_absolute)
+if(includedir_is_absolute)
+  set(pc_includedir ${CMAKE_INSTALL_INCLUDEDIR})
+else()
+  set(pc_includedir "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+endif()
+foreach(package IN ITEMS haldgenp8 haldcore)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/${package}.pc.in ${PROJECT_BINARY_DIR}/${package}.pc
+    @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${package}.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()

@@ -1,0 +1,125 @@
+#include "dft_complex/kernel.h"
+
+#include "kernelgen/emit.h"
+#include "kernelgen/lower.h"
+
+namespace haldgen::dft_complex {
+namespace {
+
+using kernelgen::FloatType;
+using kernelgen::Graph;
+using kernelgen::Program;
+using kernelgen::Wide;
+
+/// Sweeps of the choice of forms; more find next to nothing better.
+constexpr int kFormSweeps = 150;
+
+FloatType float_type(ElementType type) {
+  return type == ElementType::c32 ? FloatType::f32 : FloatType::f64;
+}
+
+/// 32-bit elements fill a vector by two, and the smallest lengths are scalar.
+bool is_scalar(int length, ElementType type) { return type == ElementType::c32 && length <= 5; }
+
+/// Lengths 3 and 5 of 32-bit elements form their products in 64 bits.
+bool has_wide_products(int length, ElementType type) {
+  return type == ElementType::c32 && (length == 3 || length == 5);
+}
+
+Program scalar_program(int length, ElementType type, bool mirrored) {
+  Graph parts = kernelgen::gather_statements(
+      kernelgen::split_parts(expand(recipe_of(length, type), false)));
+  if (has_wide_products(length, type)) kernelgen::widen_products(parts);
+  Program program = kernelgen::lower_scalar(parts, float_type(type));
+  if (mirrored) {
+    for (auto& in : program.code) {
+      if (kernelgen::is_load(in.op) || kernelgen::is_store(in.op)) in.address[0] ^= 1;
+    }
+  }
+  return program;
+}
+
+Program vector_program(int length, ElementType type, bool mirrored) {
+  const bool pairs = type == ElementType::c32;
+  const auto packed = kernelgen::pack(expand(recipe_of(length, type), pairs), pairs ? 2 : 1);
+  const auto forms = kernelgen::choose_forms(packed, mirrored, kFormSweeps);
+  return kernelgen::lower_packed(packed, forms, float_type(type), mirrored);
+}
+
+std::string head_comment(int length, ElementType type) {
+  const kernelgen::Counts counts = kernelgen::count(kernel_graph(length, type));
+  return "// Complex DFT of length " + std::to_string(length) + ", " +
+         (type == ElementType::c32 ? "32" : "64") + "-bit elements. Generated; do not edit.\n" +
+         "//   algorithm: " + to_string(recipe_of(length, type)) + "\n" + "//   " +
+         std::to_string(counts.additions) + " additions, " +
+         std::to_string(counts.multiplications) + " multiplications, depth " +
+         std::to_string(counts.depth) + ", and the scale\n";
+}
+
+std::string kernel_type(int length, ElementType type, bool inverse, const Schedule& schedule) {
+  const Program program = kernel_program(length, type, inverse, schedule);
+  const bool f32 = type == ElementType::c32;
+  const std::string name = inverse ? "Inverse" : "Forward";
+  const Wide n(length);
+  const auto scale = [&](Wide value) {
+    return kernelgen::literal(f32 ? double{kernelgen::to_float(value)} : to_double(value),
+                              float_type(type));
+  };
+  std::string text = "struct " + name + " {\n";
+  text += std::string("  using Float = ") + (f32 ? "float" : "double") + ";\n";
+  text += std::string("  using Element = ") + (f32 ? "Cplx32" : "Cplx64") + ";\n";
+  if (program.lanes > 1) text += std::string("  using V = ") + (f32 ? "__m128" : "__m128d") + ";\n";
+  text += std::string("  static constexpr bool kInverse = ") + (inverse ? "true" : "false") + ";\n";
+  text += std::string("  static constexpr bool kPathsDiffer = ") +
+          (kernelgen::has_whole_vector_access(program) ? "true" : "false") + ";\n";
+  text += "  static constexpr Float kByLength = " + scale(Wide(1.0) / n) + ";\n";
+  text += "  static constexpr Float kByRoot = " + scale(Wide(1.0) / sqrt(n)) + ";\n\n";
+  text += "  template <class Access>\n";
+  text += "  static inline void transform(const Float* src, Float* dst, Float scale) {\n";
+  text += emit_body(program);
+  text += "  }\n};\n";
+  return text;
+}
+
+std::string entry(int length, ElementType type, bool inverse) {
+  const std::string element = type == ElementType::c32 ? "Cplx32" : "Cplx64";
+  return "extern \"C\" int32_t haldgImpl_DFT" + std::string(inverse ? "Inv" : "Fwd") + "_CToC_" +
+         std::to_string(length) + "_" + suffix(type) + "(const " + element + "* src, " + element +
+         "* dst, int32_t flag) {\n  return run<" + (inverse ? "Inverse" : "Forward") +
+         ">(src, dst, flag);\n}\n";
+}
+
+}  // namespace
+
+std::string suffix(ElementType type) { return type == ElementType::c32 ? "32fc" : "64fc"; }
+
+Graph kernel_graph(int length, ElementType type) { return expand(recipe_of(length, type), false); }
+
+Program kernel_program(int length, ElementType type, bool inverse, const Schedule& schedule) {
+  const Program program = is_scalar(length, type) ? scalar_program(length, type, inverse)
+                                                  : vector_program(length, type, inverse);
+  return kernelgen::scheduled(program, schedule.order, schedule.cap);
+}
+
+std::string kernel_source(int length, ElementType type, bool with_inverse,
+                          const std::optional<Schedule>& override_schedule) {
+  std::string text = head_comment(length, type);
+  text += "#include \"dft_complex/contract.h\"\n\n";
+  text += "namespace haldgen::dft_complex {\nnamespace {\n\n";
+  for (const bool inverse : {false, true}) {
+    if (inverse && !with_inverse) continue;
+    text += kernel_type(length, type, inverse,
+                        override_schedule.value_or(schedule_of(length, type, inverse)));
+    text += "\n";
+  }
+  text += "}  // namespace\n\n";
+  for (const bool inverse : {false, true}) {
+    if (inverse && !with_inverse) continue;
+    text += entry(length, type, inverse);
+    text += "\n";
+  }
+  text += "}  // namespace haldgen::dft_complex\n";
+  return text;
+}
+
+}  // namespace haldgen::dft_complex

@@ -1,0 +1,27 @@
+// What the frame generator writes from the table of families. Every text is the same, to the byte,
+// wherever and whenever it is written.
+#pragma once
+
+#include <string>
+
+namespace haldgen::frame {
+
+/// The public header, include/haldgen.h.
+std::string emit_header();
+
+/// Assembly: the table of entry slots and the forwarding entries.
+std::string emit_entries();
+
+/// Linker version script: the live names are global, everything else is local.
+std::string emit_exports();
+
+/// C++ header: declarations of all live implementations, hidden.
+std::string emit_implementations();
+
+/// C++ source: the general entries.
+std::string emit_general_entries();
+
+/// All names in byte order, one a line, each with "live" or "not built yet".
+std::string emit_list();
+
+}  // namespace haldgen::frame

@@ -1,0 +1,442 @@
+// Rows of the table of families and the names that follow from them.
+#include "frame/families.h"
+
+#include <algorithm>
+#include <iterator>
+#include <stdexcept>
+
+namespace haldgen::frame {
+namespace {
+
+constexpr Range dft_lengths{2, 64};
+constexpr Range wht_orders{1, 13};
+constexpr Range no_size{0, 0};
+
+constexpr std::array<Element, 2> real{Element::f32, Element::f64};
+constexpr std::array<Element, 2> complex{Element::c32, Element::c64};
+constexpr std::array<Element, 2> no_arrays{Element::none, Element::none};
+
+// What is built: a size enters when its functions of both element types exist.
+constexpr SizeSet not_built{};
+constexpr SizeSet forward_complex_built{2, 3, 4, 5, 8, 16, 32, 64};
+constexpr SizeSet version_built{0};
+
+constexpr std::string_view forward_complex_definition =
+    R"(    X[k] = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k, n = 0..N-1
+
+The length N is the number in the name.
+
+@param src     N complex elements x[0..N-1]; only read.
+@param dst     N complex elements X[0..N-1].)";
+
+constexpr std::string_view forward_complex_general_definition =
+    R"(    X[k] = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k, n = 0..N-1
+
+@param src     N complex elements x[0..N-1]; only read.
+@param dst     N complex elements X[0..N-1].
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view transform_result =
+    R"(@return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+        the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.)";
+
+constexpr std::string_view general_length_result =
+    R"(@return haldStatusSizeError if no function has this length, whatever the other arguments are;
+        else what the function of this length returns.)";
+
+constexpr std::string_view version_result =
+    R"(@return The record of this build: always the same pointer, never null. It belongs to the library;
+        do not change or free it.)";
+
+using S = Signature;
+
+constexpr Family table[] = {
+    {"DFTFwd_CToC", S::transform, complex, dft_lengths, forward_complex_built, Scaling::forward,
+     "Forward complex DFT, fixed length", forward_complex_definition, transform_result},
+    {"DFTFwd_CToC", S::sized_transform, complex, dft_lengths, forward_complex_built,
+     Scaling::forward, "Forward complex DFT, general", forward_complex_general_definition,
+     general_length_result},
+    {"DFTInv_CToC",
+     S::transform,
+     complex,
+     dft_lengths,
+     not_built,
+     Scaling::inverse,
+     "Inverse complex DFT, fixed length",
+     {},
+     {}},
+    {"DFTInv_CToC",
+     S::sized_transform,
+     complex,
+     dft_lengths,
+     not_built,
+     Scaling::inverse,
+     "Inverse complex DFT, general",
+     {},
+     {}},
+
+    {"DFTFwd_RToCCS",
+     S::transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::forward,
+     "Forward real DFT to CCS, fixed length",
+     {},
+     {}},
+    {"DFTFwd_RToCCS",
+     S::sized_transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::forward,
+     "Forward real DFT to CCS, general",
+     {},
+     {}},
+    {"DFTFwd_RToPack",
+     S::transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::forward,
+     "Forward real DFT to Pack, fixed length",
+     {},
+     {}},
+    {"DFTFwd_RToPack",
+     S::sized_transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::forward,
+     "Forward real DFT to Pack, general",
+     {},
+     {}},
+    {"DFTFwd_RToPerm",
+     S::transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::forward,
+     "Forward real DFT to Perm, fixed length",
+     {},
+     {}},
+    {"DFTFwd_RToPerm",
+     S::sized_transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::forward,
+     "Forward real DFT to Perm, general",
+     {},
+     {}},
+
+    {"DFTInv_CCSToR",
+     S::transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::inverse,
+     "Inverse real DFT from CCS, fixed length",
+     {},
+     {}},
+    {"DFTInv_CCSToR",
+     S::sized_transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::inverse,
+     "Inverse real DFT from CCS, general",
+     {},
+     {}},
+    {"DFTInv_PackToR",
+     S::transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::inverse,
+     "Inverse real DFT from Pack, fixed length",
+     {},
+     {}},
+    {"DFTInv_PackToR",
+     S::sized_transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::inverse,
+     "Inverse real DFT from Pack, general",
+     {},
+     {}},
+    {"DFTInv_PermToR",
+     S::transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::inverse,
+     "Inverse real DFT from Perm, fixed length",
+     {},
+     {}},
+    {"DFTInv_PermToR",
+     S::sized_transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::inverse,
+     "Inverse real DFT from Perm, general",
+     {},
+     {}},
+
+    {"Hartley",
+     S::transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::directionless,
+     "Hartley transform, fixed length",
+     {},
+     {}},
+    {"Hartley",
+     S::sized_transform,
+     real,
+     dft_lengths,
+     not_built,
+     Scaling::directionless,
+     "Hartley transform, general",
+     {},
+     {}},
+
+    {"WHT",
+     S::buffered_transform,
+     real,
+     wht_orders,
+     not_built,
+     Scaling::directionless,
+     "Walsh-Hadamard transform, fixed order",
+     {},
+     {}},
+    {"WHT",
+     S::sized_buffered_transform,
+     real,
+     wht_orders,
+     not_built,
+     Scaling::directionless,
+     "Walsh-Hadamard transform, general",
+     {},
+     {}},
+    {"WHTGetBufferSize",
+     S::order_query,
+     real,
+     no_size,
+     not_built,
+     Scaling::none,
+     "Walsh-Hadamard transform, size of the work buffer",
+     {},
+     {}},
+
+    {"DCT4GetSize",
+     S::length_query,
+     real,
+     no_size,
+     not_built,
+     Scaling::none,
+     "DCT-IV, size of the state",
+     {},
+     {}},
+    {"DCT4Init",
+     S::plan_init,
+     real,
+     no_size,
+     not_built,
+     Scaling::none,
+     "DCT-IV, set-up in a buffer of the caller",
+     {},
+     {}},
+    {"DCT4InitAlloc",
+     S::plan_init_alloc,
+     real,
+     no_size,
+     not_built,
+     Scaling::none,
+     "DCT-IV, set-up with allocation",
+     {},
+     {}},
+    {"DCT4Free", S::plan_free, real, no_size, not_built, Scaling::none, "DCT-IV, release", {}, {}},
+    {"DCT4",
+     S::planned_transform,
+     real,
+     no_size,
+     not_built,
+     Scaling::none,
+     "DCT-IV, transform",
+     {},
+     {}},
+
+    {"GetLibVersion",
+     S::version,
+     no_arrays,
+     no_size,
+     version_built,
+     Scaling::none,
+     "Version of the library",
+     {},
+     version_result},
+};
+
+bool is_live(const Family& family, int size) {
+  return is_general(family) ? !family.live.empty() : family.live.contains(size);
+}
+
+// What names and implementation symbols have in common: word, size and suffix.
+std::string stem(const Family& family, Element element, int size) {
+  std::string text(family.word);
+  if (size != 0) text += "_" + std::to_string(size);
+  if (element != Element::none) text += "_" + std::string(suffix(element));
+  return text;
+}
+
+void add_exports(const Family& family, std::vector<Export>& all) {
+  const Range sizes = size_in_name(family) ? family.sizes : no_size;
+  for (const Element element : distinct_elements(family)) {
+    for (int size = sizes.first; size <= sizes.last; ++size) {
+      all.push_back(
+          {export_name(family, element, size), &family, element, size, is_live(family, size)});
+    }
+  }
+}
+
+std::vector<Export> sorted_exports() {
+  std::vector<Export> all;
+  for (const Family& family : table) add_exports(family, all);
+  std::sort(all.begin(), all.end(),
+            [](const Export& a, const Export& b) { return a.name < b.name; });
+  return all;
+}
+
+}  // namespace
+
+std::string_view suffix(Element element) {
+  switch (element) {
+    case Element::none:
+      return "";
+    case Element::f32:
+      return "32f";
+    case Element::f64:
+      return "64f";
+    case Element::c32:
+      return "32fc";
+    case Element::c64:
+      return "64fc";
+  }
+  throw std::logic_error("unknown element type");
+}
+
+std::string_view c_type(Element element) {
+  switch (element) {
+    case Element::none:
+      break;
+    case Element::f32:
+      return "float";
+    case Element::f64:
+      return "double";
+    case Element::c32:
+      return "Cplx32";
+    case Element::c64:
+      return "Cplx64";
+  }
+  throw std::logic_error("no array element type");
+}
+
+bool size_in_name(const Family& family) {
+  return family.signature == Signature::transform ||
+         family.signature == Signature::buffered_transform;
+}
+
+bool is_general(const Family& family) {
+  return family.signature == Signature::sized_transform ||
+         family.signature == Signature::sized_buffered_transform;
+}
+
+std::vector<Element> distinct_elements(const Family& family) {
+  const auto& [first, second] = family.elements;
+  return first == second ? std::vector{first} : std::vector{first, second};
+}
+
+std::string export_name(const Family& family, Element element, int size) {
+  // The version function is the only one outside the naming scheme of the transforms.
+  const std::string_view prefix = family.signature == Signature::version ? "haldgen" : "haldg";
+  return std::string(prefix) + stem(family, element, size);
+}
+
+std::span<const Family> families() { return table; }
+
+const std::vector<Export>& exports() {
+  static const std::vector<Export> all = sorted_exports();
+  return all;
+}
+
+std::vector<Export> live_exports() {
+  std::vector<Export> live;
+  std::copy_if(exports().begin(), exports().end(), std::back_inserter(live),
+               [](const Export& function) { return function.live; });
+  return live;
+}
+
+std::string implementation_symbol(const Export& function) {
+  return implementation_symbol(*function.family, function.element, function.size);
+}
+
+std::string implementation_symbol(const Family& family, Element element, int size) {
+  return "haldgImpl_" + stem(family, element, size);
+}
+
+std::vector<Parameter> parameters(Signature signature, Element element) {
+  if (signature == Signature::version) return {};
+  const std::string array = std::string(c_type(element)) + "*";
+  const Parameter src{"const " + array, "src"};
+  const Parameter dst{array, "dst"};
+  const Parameter length{"int32_t", "length"};
+  const Parameter order{"int32_t", "order"};
+  const Parameter flag{"int32_t", "flag"};
+  const Parameter buffer{"uint8_t*", "buffer"};
+  const Parameter new_state{"Dct4State**", "state"};
+  switch (signature) {
+    case Signature::transform:
+      return {src, dst, flag};
+    case Signature::sized_transform:
+      return {src, dst, length, flag};
+    case Signature::buffered_transform:
+      return {src, dst, flag, buffer};
+    case Signature::sized_buffered_transform:
+      return {src, dst, order, flag, buffer};
+    case Signature::order_query:
+      return {order, {"uint32_t*", "size"}};
+    case Signature::length_query:
+      return {length, {"int32_t*", "size"}};
+    case Signature::plan_init:
+      return {new_state, length, buffer};
+    case Signature::plan_init_alloc:
+      return {new_state, length};
+    case Signature::plan_free:
+      return {{"Dct4State*", "state"}};
+    case Signature::planned_transform:
+      return {src, dst, {"Dct4State*", "state"}};
+    case Signature::version:
+      break;
+  }
+  throw std::logic_error("unknown signature");
+}
+
+std::string_view return_type(Signature signature) {
+  return signature == Signature::version ? "const LibraryVersion*" : "int32_t";
+}
+
+std::string declaration(Signature signature, Element element, std::string_view name) {
+  std::string text = std::string(return_type(signature)) + " " + std::string(name) + "(";
+  const std::vector<Parameter> list = parameters(signature, element);
+  if (list.empty()) return text + "void)";
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    text += (i == 0 ? "" : ", ") + list[i].type + " " + list[i].name;
+  }
+  return text + ")";
+}
+
+}  // namespace haldgen::frame

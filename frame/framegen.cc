@@ -1,0 +1,55 @@
+// Generator of the frame, run by the build: haldgen-framegen WHAT [FILE].
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "frame/emit.h"
+
+namespace {
+
+struct Output {
+  std::string_view name;
+  std::string (*emit)();
+  std::string_view meaning;
+};
+
+constexpr Output outputs[] = {
+    {"header", haldgen::frame::emit_header, "the public header"},
+    {"entries", haldgen::frame::emit_entries, "slots and forwarding entries, assembly"},
+    {"exports", haldgen::frame::emit_exports, "linker version script"},
+    {"implementations", haldgen::frame::emit_implementations, "hidden declarations, C++"},
+    {"general_entries", haldgen::frame::emit_general_entries, "general entries, C++"},
+    {"list", haldgen::frame::emit_list, "all names, live or not built yet"},
+};
+
+int usage() {
+  std::cerr << "usage: haldgen-framegen WHAT [FILE]\n"
+               "Writes to FILE, or to standard output. WHAT is one of\n";
+  for (const Output& output : outputs) {
+    std::cerr << "  " << output.name << ": " << output.meaning << "\n";
+  }
+  return 2;
+}
+
+int write(const std::string& text, std::ostream& stream) {
+  stream << text << std::flush;
+  if (stream) return 0;
+  std::cerr << "haldgen-framegen: cannot write the output\n";
+  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2 || argc > 3) return usage();
+  for (const Output& output : outputs) {
+    if (output.name != argv[1]) continue;
+    const std::string text = output.emit();
+    if (argc == 2) return write(text, std::cout);
+    std::ofstream file(argv[2], std::ios::binary);
+    return write(text, file);
+  }
+  return usage();
+}

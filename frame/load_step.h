@@ -1,0 +1,12 @@
+// What the library does when it is loaded.
+#pragma once
+
+#include <cstdint>
+
+namespace haldgen::frame {
+
+/// 1 if the low 32 bits of a mask of processor features hold both features that the kernels are
+/// made for, else 0.
+std::int32_t processor_support(std::uint64_t features);
+
+}  // namespace haldgen::frame

@@ -1,0 +1,151 @@
+/**
+ * @file haldgen.h
+ * Small numeric transforms, one function for each transform, length and element type.
+ *
+ * There is no planning, no set-up and no hidden state: each function is a kernel of its own, made
+ * for its length, which can be called as soon as the library is loaded.
+ *
+ * What holds for every transform below, unless its family says otherwise:
+ * - Arrays are the caller's. src is only read. Any alignment of an element's own float type will
+ *   do (4 bytes for Cplx32, 8 bytes for Cplx64), and the alignment changes no bit of a result.
+ * - dst may be the same array as src. The arrays must not overlap in any other way.
+ * - Any number of threads may call at once, also with one src. Nothing is allocated or locked.
+ * - The same input gives the same bits on every call and on every machine.
+ * - A failure is only returned as a status, and then dst is not written.
+ *
+ * This file is written from frame/families.cc by haldgen-framegen; do not edit it.
+ */
+#ifndef HALDGEN_H
+#define HALDGEN_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** Complex element of two 32-bit floats. */
+typedef struct {
+  float re; /**< real part */
+  float im; /**< imaginary part */
+} Cplx32;
+
+/** Complex element of two 64-bit floats. */
+typedef struct {
+  double re; /**< real part */
+  double im; /**< imaginary part */
+} Cplx64;
+
+/** The statuses: the library returns no others. */
+enum {
+  haldStatusOk = 0,           /**< success */
+  haldStatusBadArgument = -5, /**< a state that no set-up function has made */
+  haldStatusSizeError = -6,   /**< a length or order that the function does not have */
+  haldStatusNullPointer = -8, /**< a required pointer is null */
+  haldStatusFlagError = -16   /**< a scaling flag that is none of the four values */
+};
+
+/**
+ * The scaling flags: a transform takes exactly one of them; sums of flags are refused. They select
+ * the scale s, which multiplies every output, in a transform of N points:
+ *
+ *     flag              | forward DFT | inverse DFT | no direction
+ *     ------------------|-------------|-------------|-------------
+ *     haldScaleFwdByN   | 1/N         | 1           | 1/N
+ *     haldScaleInvByN   | 1           | 1/N         | 1/N
+ *     haldScaleBySqrtN  | 1/sqrt(N)   | 1/sqrt(N)   | 1/sqrt(N)
+ *     haldScaleNone     | 1           | 1           | 1
+ *
+ * A forward and an inverse DFT with the same one of the first three flags undo each other.
+ */
+enum {
+  haldScaleFwdByN = 1,  /**< the forward transform divides by N */
+  haldScaleInvByN = 2,  /**< the inverse transform divides by N */
+  haldScaleBySqrtN = 4, /**< both transforms divide by the square root of N */
+  haldScaleNone = 8     /**< neither transform scales */
+};
+
+/** Which build of the library this is. */
+typedef struct {
+  int32_t majorVersion;    /**< major release */
+  int32_t minorVersion;    /**< minor release */
+  int32_t updateLevel;     /**< update within the minor release */
+  int32_t sourceRevision;  /**< revision of the sources */
+  char processorTag[4];    /**< processor class of the kernels, padded with zero bytes */
+  const char* name;        /**< library, instruction set and processor class */
+  const char* versionText; /**< the four numbers as text */
+  const char* buildDate;   /**< date of the build */
+} LibraryVersion;
+
+/**
+ * @name Forward complex DFT, fixed length
+ *
+ *     X[k] = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k, n = 0..N-1
+ *
+ * The length N is the number in the name.
+ *
+ * @param src     N complex elements x[0..N-1]; only read.
+ * @param dst     N complex elements X[0..N-1].
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDFTFwd_CToC_2_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_3_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_4_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_5_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_8_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_16_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_32_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_64_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_2_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_3_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_4_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_5_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_8_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_16_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_32_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_64_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+/** @} */
+
+/**
+ * @name Forward complex DFT, general
+ *
+ *     X[k] = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k, n = 0..N-1
+ *
+ * @param src     N complex elements x[0..N-1]; only read.
+ * @param dst     N complex elements X[0..N-1].
+ * @param length  N, for lengths known at run time only: any length that has a function of its own.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusSizeError if no function has this length, whatever the other arguments are;
+ *         else what the function of this length returns.
+ * @{
+ */
+int32_t haldgDFTFwd_CToC_32fc(const Cplx32* src, Cplx32* dst, int32_t length, int32_t flag);
+int32_t haldgDFTFwd_CToC_64fc(const Cplx64* src, Cplx64* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Version of the library
+ *
+ * @return The record of this build: always the same pointer, never null. It belongs to the library;
+ *         do not change or free it.
+ * @{
+ */
+const LibraryVersion* haldgenGetLibVersion(void);
+/** @} */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* HALDGEN_H */

@@ -1,0 +1,99 @@
+// The two ways in which a block sees a complex number, with one algebra, so that each block is
+// written once:
+//   Whole   one node of a complex graph;
+//   Parts   a real and an imaginary part, each a node: the parts are formal when the block runs on
+//           real data, or on vectors whose lanes are data of their own. A part that is zero
+//           vanishes, which is how real inputs halve a block.
+#pragma once
+
+#include "kernelgen/graph.h"
+
+namespace haldgen::kernelgen {
+
+/// How a multiplication by an eighth root of unity is formed.
+enum class EighthRoot {
+  sum_first,     ///< sum and difference of the parts, then two multiplications
+  full_product,  ///< four multiplications, like any other twiddle
+};
+
+struct Whole {
+  Graph* graph;
+  Value value;
+};
+
+struct Parts {
+  Graph* graph;
+  Value re;
+  Value im;
+};
+
+inline Whole operator+(Whole a, Whole b) { return {a.graph, a.graph->add(a.value, b.value)}; }
+inline Whole operator-(Whole a) { return {a.graph, -a.value}; }
+inline Whole operator-(Whole a, Whole b) { return a + (-b); }
+inline Whole turned(Whole a, int turns) { return {a.graph, turned(a.value, turns)}; }
+inline Whole operator*(Wide c, Whole a) { return {a.graph, a.graph->multiply(c, a.value)}; }
+inline Whole add_zero(Whole a) { return {a.graph, a.graph->add_zero(a.value)}; }
+inline Whole zero_like(Whole a) { return {a.graph, {}}; }
+inline Whole carried_zero(Whole a) { return {a.graph, a.graph->carried_zero()}; }
+/// The general product: four multiplications and two additions.
+inline Whole full_product(WideComplex w, Whole a, bool keep_trivial) {
+  return {a.graph, a.graph->twiddle(w, a.value, keep_trivial)};
+}
+
+// Nodes are numbered as they are made, so every order of evaluation below is fixed: braces evaluate
+// from left to right, arguments of calls in no set order.
+inline Parts operator+(Parts a, Parts b) {
+  return {a.graph, a.graph->add(a.re, b.re), a.graph->add(a.im, b.im)};
+}
+inline Parts operator-(Parts a) { return {a.graph, -a.re, -a.im}; }
+inline Parts operator-(Parts a, Parts b) { return a + (-b); }
+inline Parts turned(Parts a, int turns) {
+  switch (turns & 3) {
+    case 1:
+      return {a.graph, -a.im, a.re};
+    case 2:
+      return -a;
+    case 3:
+      return {a.graph, a.im, -a.re};
+    default:
+      return a;
+  }
+}
+inline Parts operator*(Wide c, Parts a) {
+  return {a.graph, a.graph->multiply(c, a.re), a.graph->multiply(c, a.im)};
+}
+inline Parts add_zero(Parts a) { return {a.graph, a.graph->add_zero(a.re), a.graph->add_zero(a.im)}; }
+inline Parts zero_like(Parts a) { return {a.graph, {}, {}}; }
+inline Parts carried_zero(Parts a) {
+  return {a.graph, a.graph->carried_zero(), a.graph->carried_zero()};
+}
+/// w * a on formal parts. `apart` keeps the two products of an eighth root from meeting.
+inline Parts product(WideComplex w, Parts a, bool apart) {
+  Graph& g = *a.graph;
+  if (is_negligible(w.im)) return w.re * a;
+  if (is_negligible(w.re)) return w.im * turned(a, 1);
+  const Value re_re = g.multiply(w.re, a.re);
+  const Value im_im = g.multiply(w.im, a.im, apart);
+  const Value re = g.subtract(re_re, im_im);
+  const Value re_im = g.multiply(w.re, a.im);
+  const Value im_re = g.multiply(w.im, a.re, apart);
+  return {a.graph, re, g.add(re_im, im_re)};
+}
+inline Parts full_product(WideComplex w, Parts a, bool /*keep_trivial*/) {
+  return product(w, a, true);
+}
+
+/// exp(-2 pi i k / n) * a.
+template <class Element>
+Element twiddle(Element a, int n, int k, EighthRoot eighth, bool keep_trivial = false) {
+  k = ((k % n) + n) % n;
+  if (4 * k % n == 0 && !keep_trivial) return turned(a, -(4 * k / n));
+  if (8 * k % n == 0 && (8 * k / n) % 2 == 1 && eighth == EighthRoot::sum_first) {
+    // (1 - i) / sqrt 2, turned as the exponent asks.
+    const Element quarter = turned(a, -((8 * k / n) / 2));
+    return sqrt(Wide(0.5)) * (quarter + turned(quarter, 3));
+  }
+  return full_product(root(n, k), a, keep_trivial);
+}
+
+}  // namespace haldgen::kernelgen

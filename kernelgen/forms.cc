@@ -1,0 +1,352 @@
+#include "kernelgen/forms.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+
+namespace haldgen::kernelgen {
+namespace {
+
+constexpr int kForms = 8;
+constexpr int kLowerings = 5;
+
+std::size_t at(int i) { return static_cast<std::size_t>(i); }
+int index_of(Form f) { return f.exchanged * 4 + f.negated; }
+Form form_of(int index) { return {index >> 2, index & 3}; }
+
+/// The form in which i^turn v must be held so that the lanes of i^turn v have the given form.
+Form turned_operand(Form form, int turn) {
+  Form result{form.exchanged ^ (turn & 1), 0};
+  for (int lane = 0; lane < 2; ++lane) {
+    const int part = lane ^ form.exchanged;
+    const bool sign = turn == 2 || (turn == 1 && part == 0) || (turn == 3 && part == 1);
+    result.negated |= (((form.negated >> lane) & 1) ^ (sign ? 1 : 0)) << lane;
+  }
+  return result;
+}
+
+/// Cost of providing a set of forms of one value (bit mask) and a vector in either lane order
+/// (second mask): a sign change for each form beyond the first of its lane order, an exchange if
+/// both orders are there, and one more sign change if no form of one is an exchange of the other.
+struct Provision {
+  int exchanges = 0;
+  int sign_changes = 0;
+};
+
+Provision provision(int forms, int orders) {
+  const int straight = std::popcount(static_cast<unsigned>(forms & 15));
+  const int crossed = std::popcount(static_cast<unsigned>(forms >> 4));
+  Provision cost;
+  cost.sign_changes = std::max(0, straight - 1) + std::max(0, crossed - 1);
+  if ((straight != 0 || (orders & 1) != 0) && (crossed != 0 || (orders & 2) != 0)) {
+    cost.exchanges = 1;
+    if (straight != 0 && crossed != 0) {
+      bool matched = false;
+      for (int f = 0; f < 4; ++f) {
+        const bool both = ((forms >> f) & 1) != 0 &&
+                          ((forms >> index_of(exchanged(form_of(f)))) & 1) != 0;
+        matched = matched || both;
+      }
+      if (!matched) ++cost.sign_changes;
+    }
+  }
+  return cost;
+}
+
+/// Tables over small index spaces, made once.
+struct Tables {
+  std::array<std::array<std::uint8_t, 4>, 256> cost{};
+  // [turn][form][lowering] of a sum
+  std::array<std::array<std::array<std::uint8_t, kLowerings>, kForms>, 4> sum_a{}, sum_b{};
+
+  Tables() {
+    for (int forms = 0; forms < 256; ++forms) {
+      for (int orders = 0; orders < 4; ++orders) {
+        const Provision p = provision(forms, orders);
+        cost[at(forms)][at(orders)] = static_cast<std::uint8_t>(p.exchanges + p.sign_changes);
+      }
+    }
+    for (int turn = 0; turn < 4; ++turn) {
+      for (int f = 0; f < kForms; ++f) {
+        for (int l = 0; l < kLowerings; ++l) {
+          PackedNode node;
+          node.kind = PackedKind::sum;
+          node.turn = turn;
+          const Demand d = demand_of(node, {form_of(f), static_cast<Lowering>(l)});
+          sum_a[at(turn)][at(f)][at(l)] = static_cast<std::uint8_t>(index_of(d.a));
+          sum_b[at(turn)][at(f)][at(l)] = static_cast<std::uint8_t>(index_of(d.b));
+        }
+      }
+    }
+  }
+};
+
+const Tables& tables() {
+  static const Tables instance;
+  return instance;
+}
+
+/// xorshift64*, so that the sequence is ours on every standard library.
+class Random {
+ public:
+  std::uint64_t next() {
+    state_ ^= state_ >> 12;
+    state_ ^= state_ << 25;
+    state_ ^= state_ >> 27;
+    return state_ * 0x2545F4914F6CDD1DULL;
+  }
+  int below(int n) { return static_cast<int>((next() >> 33) % static_cast<std::uint64_t>(n)); }
+  double unit() { return static_cast<double>(next() >> 11) * 0x1p-53; }
+
+ private:
+  std::uint64_t state_ = 0x9E3779B97F4A7C15ULL;
+};
+
+/// exp(-x) by additions and multiplications alone: a library's exp may differ in the last bit, and
+/// with it the choices.
+double decay(double x) {
+  double base = 1.0 - x / 256.0;
+  if (base < 0) return 0;
+  for (int i = 0; i < 8; ++i) base *= base;
+  return base;
+}
+
+class Annealer {
+ public:
+  Annealer(const PackedGraph& graph, bool mirrored)
+      : nodes_(graph.nodes), choices_(graph.nodes.size()), wants_(graph.nodes.size()) {
+    for (std::size_t i = 0; i < nodes_.size(); ++i) {
+      const PackedKind kind = nodes_[i].kind;
+      if (mirrored && (kind == PackedKind::load || kind == PackedKind::store)) {
+        choices_[i].form.exchanged = 1;
+      }
+      const bool fixed =
+          kind == PackedKind::load || kind == PackedKind::store || kind == PackedKind::zero;
+      if (!fixed) movable_.push_back(static_cast<int>(i));
+    }
+    for (std::size_t i = 0; i < nodes_.size(); ++i) demand(static_cast<int>(i), +1);
+  }
+
+  std::vector<Choice> run(int sweeps) {
+    if (movable_.empty()) return choices_;
+    constexpr double kHot = 1.0;
+    constexpr double kCold = 0.08;
+    const int count = static_cast<int>(movable_.size());
+    double temperature = kHot;
+    double ratio = kCold / kHot;
+    double step = 1.0;
+    // step^sweeps = ratio, by halving the interval: again no library function.
+    double low = 0.0, high = 1.0;
+    for (int i = 0; i < 60; ++i) {
+      step = 0.5 * (low + high);
+      double power = 1.0;
+      for (int s = 0; s < sweeps; ++s) power *= step;
+      (power < ratio ? low : high) = step;
+    }
+    for (int sweep = 0; sweep < sweeps; ++sweep) {
+      for (int i = 0; i < count; ++i) move(movable_[at(random_.below(count))], temperature);
+      temperature *= step;
+    }
+    for (int sweep = 0; sweep < 8; ++sweep) {
+      for (const int node : movable_) move(node, 0.0);
+    }
+    return choices_;
+  }
+
+ private:
+  struct Wants {
+    std::array<std::uint16_t, kForms> forms{};
+    std::array<std::uint16_t, 2> orders{};
+    std::uint16_t form_mask = 0;
+  };
+
+  void want_form(int node, int form, int change) {
+    Wants& w = wants_[at(node)];
+    w.forms[at(form)] = static_cast<std::uint16_t>(w.forms[at(form)] + change);
+    if (w.forms[at(form)] != 0) {
+      w.form_mask = static_cast<std::uint16_t>(w.form_mask | (1 << form));
+    } else {
+      w.form_mask = static_cast<std::uint16_t>(w.form_mask & ~(1 << form));
+    }
+  }
+  void want_order(int node, int order, int change) {
+    auto& o = wants_[at(node)].orders[at(order)];
+    o = static_cast<std::uint16_t>(o + change);
+  }
+
+  void demand(int node, int change) {
+    const PackedNode& n = nodes_[at(node)];
+    const Choice& c = choices_[at(node)];
+    switch (n.kind) {
+      case PackedKind::load:
+      case PackedKind::zero:
+        break;
+      case PackedKind::sum: {
+        const std::size_t form = at(index_of(c.form));
+        const std::size_t lowering = static_cast<std::size_t>(c.lowering);
+        want_form(n.a, tables().sum_a[at(n.turn)][form][lowering], change);
+        want_form(n.b, tables().sum_b[at(n.turn)][form][lowering], change);
+        break;
+      }
+      case PackedKind::scale:
+        want_order(n.a, c.form.exchanged, change);
+        break;
+      case PackedKind::rotate:
+        want_order(n.a, 0, change);
+        want_order(n.a, 1, change);
+        break;
+      case PackedKind::gather:
+      case PackedKind::store: {
+        const Demand d = demand_of(n, c);
+        want_form(n.a, index_of(d.a), change);
+        if (n.kind == PackedKind::gather) want_form(n.b, index_of(d.b), change);
+        break;
+      }
+    }
+  }
+
+  int cost(int node) const {
+    const Wants& w = wants_[at(node)];
+    const int forms = w.form_mask | (1 << index_of(choices_[at(node)].form));
+    const int orders = (w.orders[0] != 0 ? 1 : 0) | (w.orders[1] != 0 ? 2 : 0);
+    return tables().cost[at(forms)][at(orders)];
+  }
+
+  int lowerings(const PackedNode& n) const {
+    if (n.kind == PackedKind::sum) return kLowerings;
+    return n.kind == PackedKind::gather ? 4 : 1;
+  }
+
+  /// Draws a new choice for a node with the probabilities of thermal equilibrium.
+  void move(int node, double temperature) {
+    const PackedNode& n = nodes_[at(node)];
+    demand(node, -1);
+    std::array<int, kForms * kLowerings> costs;
+    const int count = lowerings(n);
+    int candidates = 0;
+    int least = 1 << 20;
+    for (int f = 0; f < kForms; ++f) {
+      for (int l = 0; l < count; ++l) {
+        choices_[at(node)] = {form_of(f), static_cast<Lowering>(l)};
+        demand(node, +1);
+        int total = cost(node) + cost(n.a);
+        if (n.b >= 0 && n.b != n.a) total += cost(n.b);
+        demand(node, -1);
+        costs[at(candidates++)] = total;
+        least = std::min(least, total);
+      }
+    }
+    int pick = 0;
+    if (temperature > 0) {
+      std::array<double, 64> weight_of_excess;
+      for (int e = 0; e < 64; ++e) weight_of_excess[at(e)] = -1;
+      std::array<double, kForms * kLowerings> weights;
+      double sum = 0;
+      for (int c = 0; c < candidates; ++c) {
+        const int excess = std::min(63, costs[at(c)] - least);
+        double& weight = weight_of_excess[at(excess)];
+        if (weight < 0) weight = decay(excess / temperature);
+        weights[at(c)] = weight;
+        sum += weight;
+      }
+      double draw = random_.unit() * sum;
+      while (pick + 1 < candidates && draw >= weights[at(pick)]) draw -= weights[at(pick++)];
+    } else {
+      const int ties = static_cast<int>(std::count(costs.begin(), costs.begin() + candidates, least));
+      int wanted = random_.below(ties);
+      while (costs[at(pick)] != least || wanted-- > 0) ++pick;
+    }
+    choices_[at(node)] = {form_of(pick / count), static_cast<Lowering>(pick % count)};
+    demand(node, +1);
+  }
+
+  const std::vector<PackedNode>& nodes_;
+  std::vector<Choice> choices_;
+  std::vector<Wants> wants_;
+  std::vector<int> movable_;
+  Random random_;
+};
+
+}  // namespace
+
+Form exchanged(Form form) {
+  return {1 - form.exchanged, ((form.negated & 1) << 1) | (form.negated >> 1)};
+}
+
+Demand demand_of(const PackedNode& node, const Choice& choice) {
+  switch (node.kind) {
+    case PackedKind::sum: {
+      Form a = choice.form;
+      Form b = choice.form;
+      switch (choice.lowering) {
+        case Lowering::plus:
+          break;
+        case Lowering::minus:
+          b.negated ^= 3;
+          break;
+        case Lowering::reversed:
+          a.negated ^= 3;
+          break;
+        case Lowering::alternating:
+          b.negated ^= 1;
+          break;
+        case Lowering::alternating_b:
+          a.negated ^= 1;
+          break;
+      }
+      return {a, turned_operand(b, node.turn)};
+    }
+    case PackedKind::gather: {
+      const int crossed = static_cast<int>(choice.lowering);
+      return {(crossed & 1) != 0 ? exchanged(choice.form) : choice.form,
+              (crossed & 2) != 0 ? exchanged(choice.form) : choice.form};
+    }
+    case PackedKind::store:
+      return {turned_operand(choice.form, node.turn), {}};
+    default:
+      return {};
+  }
+}
+
+FormCost cost_of(const PackedGraph& graph, const std::vector<Choice>& choices) {
+  std::vector<int> forms(graph.nodes.size(), 0);
+  std::vector<int> orders(graph.nodes.size(), 0);
+  for (std::size_t i = 0; i < graph.nodes.size(); ++i) {
+    const PackedNode& n = graph.nodes[i];
+    forms[i] |= 1 << index_of(choices[i].form);
+    const Demand d = demand_of(n, choices[i]);
+    switch (n.kind) {
+      case PackedKind::sum:
+      case PackedKind::gather:
+        forms[at(n.b)] |= 1 << index_of(d.b);
+        forms[at(n.a)] |= 1 << index_of(d.a);
+        break;
+      case PackedKind::store:
+        forms[at(n.a)] |= 1 << index_of(d.a);
+        break;
+      case PackedKind::scale:
+        orders[at(n.a)] |= 1 << choices[i].form.exchanged;
+        break;
+      case PackedKind::rotate:
+        orders[at(n.a)] |= 3;
+        break;
+      default:
+        break;
+    }
+  }
+  FormCost total;
+  for (std::size_t i = 0; i < graph.nodes.size(); ++i) {
+    if (graph.nodes[i].kind == PackedKind::store) continue;
+    const Provision p = provision(forms[i], orders[i]);
+    total.exchanges += p.exchanges;
+    total.sign_changes += p.sign_changes;
+  }
+  return total;
+}
+
+std::vector<Choice> choose_forms(const PackedGraph& graph, bool mirrored, int sweeps) {
+  return Annealer(graph, mirrored).run(sweeps);
+}
+
+}  // namespace haldgen::kernelgen

@@ -1,0 +1,57 @@
+// How each packed value is held. A power of i on an edge is no operation if the vector that feeds it
+// is held with its parts exchanged or negated; a form says which. The choice of forms decides how
+// many exchanges and sign changes remain, and nothing else: every form of a value has the same bits
+// up to the sign of an exact zero.
+#pragma once
+
+#include <vector>
+
+#include "kernelgen/packed.h"
+
+namespace haldgen::kernelgen {
+
+/// Lane j of an element holds its part j ^ exchanged, negated if bit j of `negated` is set.
+struct Form {
+  int exchanged = 0;
+  int negated = 0;
+
+  friend auto operator<=>(const Form&, const Form&) = default;
+};
+
+/// How an instruction makes a value in its form: the operand order and signs of a sum, the lane
+/// order in which a gather takes its operands.
+enum class Lowering {
+  plus,           ///< a + b
+  minus,          ///< a - b, b held negated
+  reversed,       ///< b - a, a held negated
+  alternating,    ///< addsub(a, b): lane 0 of b held negated
+  alternating_b,  ///< addsub(b, a): lane 0 of a held negated
+};
+
+struct Choice {
+  Form form;
+  Lowering lowering = Lowering::plus;
+};
+
+/// The forms in which a node's choice demands its operands.
+struct Demand {
+  Form a;
+  Form b;
+};
+Demand demand_of(const PackedNode& node, const Choice& choice);
+
+/// The form with parts exchanged, as one exchange instruction makes it.
+Form exchanged(Form form);
+
+struct FormCost {
+  int exchanges = 0;
+  int sign_changes = 0;
+};
+FormCost cost_of(const PackedGraph& graph, const std::vector<Choice>& choices);
+
+/// One choice per node, by annealing with a fixed sequence of random numbers: the same graph gives
+/// the same choices on every machine. `mirrored` reads and writes elements with their parts
+/// exchanged. `sweeps` bounds the work.
+std::vector<Choice> choose_forms(const PackedGraph& graph, bool mirrored, int sweeps);
+
+}  // namespace haldgen::kernelgen

@@ -1,0 +1,145 @@
+// The statement graph: what every kernel is before it is code.
+//
+// A node is an input or a statement, an ordered sum of terms. A term is an operand, optionally
+// multiplied by a real constant, and turned by a power of i. In a real graph the only turns are 0
+// and 2 (plus and minus). In a complex graph a node stands for a whole complex value, so one
+// statement is two real ones, and the turns 1 and 3 are exchanges of the parts with a change of
+// sign. Turns cost nothing: they travel with references (`Value`) until an instruction absorbs them.
+//
+// The order of terms is part of the statement. Nothing here re-associates.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <span>
+#include <tuple>
+#include <vector>
+
+#include "kernelgen/wide.h"
+
+namespace haldgen::kernelgen {
+
+/// A reference to a node, times a power of i. Node 0 is the number zero.
+struct Value {
+  int node = 0;
+  int turn = 0;
+
+  friend bool operator==(Value, Value) = default;
+};
+
+constexpr int kZeroNode = 0;
+
+inline bool is_zero(Value v) { return v.node == kZeroNode; }
+inline Value turned(Value v, int turns) { return {v.node, (v.turn + turns) & 3}; }
+inline Value operator-(Value v) { return turned(v, 2); }
+
+/// Index into the constants of a graph; 0 means "no constant".
+using ConstantId = int;
+constexpr ConstantId kNoConstant = 0;
+
+struct Term {
+  int turn = 0;
+  ConstantId constant = kNoConstant;
+  int node = 0;
+
+  friend auto operator<=>(const Term&, const Term&) = default;
+};
+
+enum class Field { real, complex };
+
+/// Where a statement is computed: in the element's own type, or in 64 bits and then narrowed once.
+enum class Precision { element, wide };
+
+struct Statement {
+  std::vector<Term> terms;
+  int input = -1;  ///< index of the input, or -1 for a computed statement
+  bool carried_zero = false;  ///< neither input nor sum: a zero that is treated as data
+  /// A product by 1 or 0 that only keeps a lane busy beside a lane with a real twiddle. It is
+  /// executed, but it is no work of the algorithm and is not counted.
+  bool filler = false;
+  /// Kept apart from an equal product: the two products of a full multiplication by an eighth root
+  /// have constants of one magnitude and are two all the same.
+  bool apart = false;
+  Precision precision = Precision::element;
+};
+
+/// One column of a fan of equal blocks. Nodes are recorded per column in the order of their calls,
+/// so that columns can be laid side by side in the lanes of a vector.
+struct Column {
+  int parent = -1;
+  int fan = -1;    ///< which fan of the parent
+  int index = 0;   ///< which column of that fan
+  std::vector<Value> calls;
+  std::vector<std::vector<int>> fans;  ///< columns of each fan opened inside
+};
+
+class Graph {
+ public:
+  explicit Graph(Field field);
+
+  Field field() const { return field_; }
+
+  /// The value of input number `index`; each input is one node.
+  Value input(int index);
+
+  /// A zero that is carried through the arithmetic like data: nothing is pruned behind it.
+  Value carried_zero();
+
+  Value add(Value a, Value b);
+  Value subtract(Value a, Value b) { return add(a, -b); }
+  /// a + 0, executed: the addition that a vector instruction makes in a lane that holds zero.
+  Value add_zero(Value a);
+  Value multiply(Wide constant, Value a, bool apart = false);
+  /// w * a as one statement of two products. Powers of i are free unless `keep_trivial`, which
+  /// makes them fillers. The products belong to the statement: none is shared with another.
+  Value twiddle(WideComplex w, Value a, bool keep_trivial = false);
+  /// The general statement. Terms of zero operands vanish.
+  Value statement(std::vector<Term> terms);
+
+  /// While folding, a constant times a product by a constant becomes one product.
+  void set_folding(bool folding) { folding_ = folding; }
+  bool folding() const { return folding_; }
+
+  void set_outputs(std::vector<Value> outputs) { outputs_ = std::move(outputs); }
+  std::span<const Value> outputs() const { return outputs_; }
+  /// Values that are computed although no output needs them.
+  void keep(Value v) { kept_.push_back(v); }
+  std::span<const Value> kept() const { return kept_; }
+
+  std::span<const Statement> nodes() const { return nodes_; }
+  const Statement& node(int index) const { return nodes_[static_cast<std::size_t>(index)]; }
+  Statement& node(int index) { return nodes_[static_cast<std::size_t>(index)]; }
+  Wide constant(ConstantId id) const { return constants_[static_cast<std::size_t>(id)]; }
+  /// One id per mathematical value: values that agree to 24 digits are the same constant.
+  ConstantId intern(Wide magnitude);
+
+  /// Opens column `index` of a fan of `count` equal blocks; closed by leave_column.
+  void enter_column(int index, int count);
+  void leave_column();
+  /// Whether the open column, or one around it, has a partner that fills the other half of a
+  /// two-element vector.
+  bool inside_pair() const;
+  std::span<const Column> columns() const { return columns_; }
+
+ private:
+  Value record(Value v);
+  Value intern_statement(Statement statement);
+
+  Field field_;
+  bool folding_ = false;
+  std::vector<Statement> nodes_;
+  std::vector<Wide> constants_;
+  std::map<double, ConstantId> constant_index_;
+  std::map<std::tuple<std::vector<Term>, bool, bool>, Value> index_;  ///< node and its key's turn
+  std::map<int, int> inputs_;
+  std::vector<Value> outputs_;
+  std::vector<Value> kept_;
+  std::vector<Column> columns_;
+  std::vector<int> fan_sizes_;
+  int column_ = 0;
+};
+
+/// The nodes that outputs and kept values need, in order of definition.
+std::vector<int> live_nodes(const Graph& graph);
+
+}  // namespace haldgen::kernelgen

@@ -1,0 +1,73 @@
+// The vocabulary of generated vector code: what its instructions are called, over 128-bit vectors.
+// Additions and multiplications are the vector types' own operators; they are never contracted.
+#pragma once
+
+#include <tmmintrin.h>
+
+namespace haldgen::lanes {
+
+inline __m128d broadcast(double value) { return _mm_set1_pd(value); }
+inline __m128 broadcast(float value) { return _mm_set1_ps(value); }
+
+/// a - b in even lanes, a + b in odd ones.
+inline __m128d alternate(__m128d a, __m128d b) { return _mm_addsub_pd(a, b); }
+inline __m128 alternate(__m128 a, __m128 b) { return _mm_addsub_ps(a, b); }
+
+/// Negates the lanes in which `signs` holds -0.
+inline __m128d change_sign(__m128d a, __m128d signs) { return _mm_xor_pd(a, signs); }
+inline __m128 change_sign(__m128 a, __m128 signs) { return _mm_xor_ps(a, signs); }
+
+/// Real and imaginary part of each element exchanged.
+inline __m128d exchange(__m128d a) { return _mm_shuffle_pd(a, a, 1); }
+inline __m128 exchange(__m128 a) { return _mm_shuffle_ps(a, a, 0xB1); }
+
+/// Element `HalfA` of a below element `HalfB` of b, parts exchanged where Cross is 1.
+template <int HalfA, int HalfB, int CrossA, int CrossB>
+inline __m128 gather(__m128 a, __m128 b) {
+  if constexpr (HalfA == 0 && HalfB == 0 && CrossA == 0 && CrossB == 0) {
+    return _mm_movelh_ps(a, b);
+  } else if constexpr (HalfA == 1 && HalfB == 1 && CrossA == 0 && CrossB == 0) {
+    return _mm_movehl_ps(b, a);
+  } else {
+    constexpr int kFirst = 2 * HalfA + CrossA;
+    constexpr int kSecond = 2 * HalfB + CrossB;
+    return _mm_shuffle_ps(a, b,
+                          kFirst | (kFirst ^ 1) << 2 | kSecond << 4 | (kSecond ^ 1) << 6);
+  }
+}
+
+inline __m128 load_single(const float* from) {
+  return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(from)));
+}
+inline __m128 load_pair(const float* lower, const float* upper) {
+  return _mm_loadh_pi(load_single(lower), reinterpret_cast<const __m64*>(upper));
+}
+inline void store_single(float* to, __m128 a) { _mm_storel_pi(reinterpret_cast<__m64*>(to), a); }
+inline void store_upper(float* to, __m128 a) { _mm_storeh_pi(reinterpret_cast<__m64*>(to), a); }
+inline void store_pair(float* lower, float* upper, __m128 a) {
+  store_single(lower, a);
+  store_upper(upper, a);
+}
+
+/// Whole vectors at addresses that are multiples of 16.
+struct Aligned {
+  static __m128d load(const double* from) { return _mm_load_pd(from); }
+  static void store(double* to, __m128d a) { _mm_store_pd(to, a); }
+  static __m128 load(const float* from) { return _mm_load_ps(from); }
+  static void store(float* to, __m128 a) { _mm_store_ps(to, a); }
+};
+
+/// Whole vectors anywhere: 64-bit elements by their halves, pairs of 32-bit elements at once.
+struct Unaligned {
+  static __m128d load(const double* from) {
+    return _mm_loadh_pd(_mm_load_sd(from), from + 1);
+  }
+  static void store(double* to, __m128d a) {
+    _mm_storel_pd(to, a);
+    _mm_storeh_pd(to + 1, a);
+  }
+  static __m128 load(const float* from) { return _mm_loadu_ps(from); }
+  static void store(float* to, __m128 a) { _mm_storeu_ps(to, a); }
+};
+
+}  // namespace haldgen::lanes

@@ -1,0 +1,31 @@
+// Lowering: from packed nodes and the forms chosen for them, or from a scalar graph, to a program.
+#pragma once
+
+#include <vector>
+
+#include "kernelgen/forms.h"
+#include "kernelgen/packed.h"
+#include "kernelgen/program.h"
+
+namespace haldgen::kernelgen {
+
+/// Vector program of a complex kernel, in the order of the packed nodes. `mirrored` exchanges real
+/// and imaginary part at the loads and stores, which turns a forward kernel into the inverse one.
+Program lower_packed(const PackedGraph& graph, const std::vector<Choice>& choices, FloatType type,
+                     bool mirrored);
+
+/// The real graph of a complex one: inputs and outputs 2k and 2k+1 are the parts of element k.
+Graph split_parts(const Graph& graph);
+
+/// Moves products that only one statement uses into that statement, as terms with constants, and
+/// a sum that only one such statement uses as its first operand likewise: what is left of a line
+/// of arithmetic with constants is one statement.
+Graph gather_statements(const Graph& graph);
+
+/// Marks the statements with constants as wide: 64-bit arithmetic, narrowed once.
+void widen_products(Graph& graph);
+
+/// Scalar program of a real graph.
+Program lower_scalar(const Graph& graph, FloatType type);
+
+}  // namespace haldgen::kernelgen

@@ -1,0 +1,43 @@
+// Packing: the nodes of a complex graph laid into vectors of one or two elements.
+//
+// A vector of two elements holds two nodes that do the same work on other data. Equal columns of a
+// fan are such work, so columns 2q and 2q+1 share their vectors node by node; where the lanes of a
+// later step meet otherwise, a gather takes one half from each of two vectors.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "kernelgen/graph.h"
+
+namespace haldgen::kernelgen {
+
+enum class PackedKind {
+  load,     ///< elements `element[h]` of the source
+  zero,     ///< zeros
+  sum,      ///< a + i^turn b
+  scale,    ///< each half by a real constant
+  rotate,   ///< each half by a complex constant
+  gather,   ///< half `half[0]` of a, half `half[1]` of b
+  store,    ///< i^turn a into elements `element[h]` of the destination
+};
+
+struct PackedNode {
+  PackedKind kind = PackedKind::zero;
+  int a = -1;
+  int b = -1;
+  int turn = 0;
+  std::array<int, 2> half{0, 0};
+  std::array<int, 2> element{-1, -1};  ///< -1: this half is idle
+  std::array<WideComplex, 2> factor{};
+};
+
+struct PackedGraph {
+  int halves = 1;  ///< complex elements in a vector
+  std::vector<PackedNode> nodes;
+};
+
+/// `elements_per_vector` is 1 or 2.
+PackedGraph pack(const Graph& graph, int elements_per_vector);
+
+}  // namespace haldgen::kernelgen

@@ -1,0 +1,63 @@
+// The lane program: what a kernel executes, one instruction after another, each with one result.
+// It is printed as code, and interpreted to say which bits that code must give.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace haldgen::kernelgen {
+
+enum class Op {
+  load,         ///< lanes of consecutive source floats from `address[0]`
+  load_pair,    ///< two elements, from `address[0]` into the lower and `address[1]` the upper half
+  load_single,  ///< one element into the lower half, zeros above
+  zero,
+  add,        ///< a + b
+  subtract,   ///< a - b
+  alternate,  ///< a - b in even lanes, a + b in odd lanes
+  multiply,   ///< a times the constants
+  sign,       ///< lanes of a negated where the constant is -0
+  exchange,   ///< lanes 2j and 2j+1 of a exchanged
+  gather,     ///< element half[0] of a below element half[1] of b, each exchanged if cross[.] says so
+  negate,     ///< 0 - a
+  widen,      ///< the 64-bit value of a 32-bit one
+  narrow,     ///< a 64-bit value rounded to 32 bits
+  scale,      ///< a times the scale of the call
+  store,      ///< all lanes to consecutive destination floats from `address[0]`
+  store_pair,    ///< lower half to the element at `address[0]`, upper half to `address[1]`
+  store_single,  ///< lower half to the element at `address[0]`
+  store_upper,   ///< upper half to the element at `address[0]`
+};
+
+struct Instruction {
+  Op op = Op::zero;
+  int a = -1;
+  int b = -1;
+  std::array<double, 4> constant{};  ///< lanes, already rounded to the type of the operation
+  std::array<int, 2> address{};      ///< in floats from the base
+  std::array<int, 2> half{};
+  std::array<int, 2> cross{};
+  bool wide = false;  ///< scalar programs of 32-bit elements: a 64-bit operation
+};
+
+enum class FloatType { f32, f64 };
+
+struct Program {
+  FloatType type = FloatType::f64;
+  int lanes = 1;  ///< floats in a vector; 1 for scalar programs
+  std::vector<Instruction> code;
+};
+
+bool is_load(Op op);
+bool is_store(Op op);
+
+/// Runs the program as the compiled kernel must: every operation rounded once in its own type.
+/// `source` and `destination` hold floats (parts of elements), all of which the program may touch.
+void interpret(const Program& program, const std::vector<float>& source, float scale,
+               std::vector<float>& destination);
+void interpret(const Program& program, const std::vector<double>& source, double scale,
+               std::vector<double>& destination);
+
+}  // namespace haldgen::kernelgen

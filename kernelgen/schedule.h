@@ -1,0 +1,29 @@
+// The order of a program's instructions. Any order that respects the operands gives the same bits;
+// the orders differ in how many values are live at once, and in how soon long chains are begun.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "kernelgen/program.h"
+
+namespace haldgen::kernelgen {
+
+enum class Order {
+  program,    ///< as lowered
+  bisection,  ///< recursive halving from inputs and outputs (M. Frigo, PLDI 1999)
+  pressure,   ///< list schedule: bisection order, but few live values come first when many are live
+  critical,   ///< list schedule: longest remaining chain first, under a cap of live values
+};
+
+Order order_named(std::string_view name);
+std::string_view name_of(Order order);
+
+/// `cap` is the number of live values that list schedules keep to where they can.
+Program scheduled(const Program& program, Order order, int cap);
+
+/// Values stored to and reloaded from the stack by an ideal register allocator with `registers`
+/// registers: a yardstick of orders, not what a compiler does.
+int spill_traffic(const Program& program, int registers);
+
+}  // namespace haldgen::kernelgen

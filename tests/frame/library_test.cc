@@ -1,0 +1,136 @@
+// The linked libraries as files: what they export, the table of slots, the forwarding entries.
+#include <dlfcn.h>
+#include <elf.h>
+#include <gtest/gtest.h>
+#include <link.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "frame/families.h"
+#include "tests/frame/elf_file.h"
+
+namespace haldgen::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+const ElfFile& library() {
+  static const ElfFile file(HALDGEN_LIBRARY);
+  return file;
+}
+
+const Symbol& symbol(const std::string& name) {
+  const auto found = library().defined().find(name);
+  if (found == library().defined().end()) throw std::runtime_error("no symbol " + name);
+  return found->second;
+}
+
+Names exported_names(const ElfFile& file) {
+  Names names;
+  for (const auto& [name, entry] : file.exported()) names.push_back(name);
+  return names;
+}
+
+std::string real_name(const std::string& path) {
+  return std::filesystem::canonical(path).filename().string();
+}
+
+// Instructions of the whole library by address, as objdump words them.
+std::map<std::uint64_t, std::string> disassemble(const std::string& path) {
+  const std::string command = std::string(OBJDUMP) + " -d --no-show-raw-insn '" + path + "'";
+  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+  std::map<std::uint64_t, std::string> instructions;
+  char line[512];
+  while (pipe && std::fgets(line, sizeof line, pipe.get()) != nullptr) {
+    std::istringstream words(line);
+    std::string address;
+    if (!(words >> address) || address.back() != ':' || line[0] != ' ') continue;
+    std::string text;
+    std::getline(words >> std::ws, text);
+    instructions[std::stoull(address, nullptr, 16)] = text;
+  }
+  return instructions;
+}
+
+TEST(Library, ExportsExactlyTheLiveFunctions) {
+  Names expected;
+  for (const frame::Export& function : frame::live_exports()) expected.push_back(function.name);
+  EXPECT_EQ(exported_names(library()), expected);
+  for (const auto& [name, entry] : library().exported()) {
+    EXPECT_EQ(entry.type, static_cast<unsigned>(STT_FUNC)) << name << " is no function";
+  }
+}
+
+TEST(Library, HasVersionedName) {
+  EXPECT_EQ(library().dynamic_strings(DT_SONAME), Names{"libhaldgenp8.so.8"});
+  EXPECT_EQ(real_name(HALDGEN_LIBRARY), "libhaldgenp8.so.8.1.0");
+}
+
+TEST(Library, FindsHaldcoreBesideItselfAndOpenToInterposition) {
+  const Names needed = library().dynamic_strings(DT_NEEDED);
+  EXPECT_EQ(std::count(needed.begin(), needed.end(), "libhaldcore.so.8"), 1);
+  EXPECT_EQ(library().dynamic_strings(DT_RUNPATH), Names{"$ORIGIN"});
+  const Names& wanted = library().wanted();
+  EXPECT_EQ(std::count(wanted.begin(), wanted.end(), "haldGetEnabledCpuFeatures"), 1);
+  EXPECT_FALSE(library().has_dynamic(DT_SYMBOLIC));
+}
+
+TEST(Library, HaldcoreExportsItsThreeFunctions) {
+  const ElfFile haldcore(HALDCORE_LIBRARY);
+  EXPECT_EQ(exported_names(haldcore),
+            (Names{"haldFree", "haldGetEnabledCpuFeatures", "haldMalloc"}));
+  EXPECT_EQ(haldcore.dynamic_strings(DT_SONAME), Names{"libhaldcore.so.8"});
+  EXPECT_EQ(real_name(HALDCORE_LIBRARY), "libhaldcore.so.8.1.0");
+}
+
+TEST(Library, SlotsHoldTheImplementationsInByteOrder) {
+  const std::vector<frame::Export> functions = frame::live_exports();
+  const Symbol& slots = symbol("haldgen_entry_slots");
+  EXPECT_EQ(slots.size, 8 * functions.size());
+  EXPECT_EQ(slots.section, ".data");
+  EXPECT_NE(library().section_flags(".data") & SHF_WRITE, 0u);
+
+  void* handle = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+  ASSERT_NE(handle, nullptr) << dlerror();
+  const link_map* map = nullptr;
+  ASSERT_EQ(dlinfo(handle, RTLD_DI_LINKMAP, &map), 0);
+  const auto* table = reinterpret_cast<const std::uint64_t*>(map->l_addr + slots.address);
+  std::set<std::uint64_t> distinct;
+  for (std::size_t k = 0; k < functions.size(); ++k) {
+    const std::string name = frame::implementation_symbol(functions[k]);
+    EXPECT_EQ(table[k], map->l_addr + symbol(name).address) << name;
+    distinct.insert(table[k]);
+  }
+  EXPECT_EQ(distinct.size(), functions.size());
+  dlclose(handle);
+}
+
+TEST(Library, EntriesAreOneJumpThroughTheirSlot) {
+  const std::vector<frame::Export> functions = frame::live_exports();
+  const auto instructions = disassemble(HALDGEN_LIBRARY);
+  const std::uint64_t slots = symbol("haldgen_entry_slots").address;
+  for (std::size_t k = 0; k < functions.size(); ++k) {
+    const std::string& name = functions[k].name;
+    const Symbol& entry = library().exported().at(name);
+    const auto first = instructions.find(entry.address);
+    ASSERT_NE(first, instructions.end()) << name;
+    const auto end = instructions.lower_bound(entry.address + entry.size);
+    ASSERT_EQ(std::distance(first, end), 1) << name << " is more than one instruction";
+
+    // As binutils and LLVM word it: "jmp *0x7f12(%rip)  # 9110 <haldgen_entry_slots+0x90>".
+    static const std::regex jump(R"(jmpq?\s+\*\S+\(%rip\)\s+# (?:0x)?([0-9a-f]+).*)");
+    std::smatch match;
+    ASSERT_TRUE(std::regex_match(first->second, match, jump)) << name << ": " << first->second;
+    EXPECT_EQ(std::stoull(match[1], nullptr, 16), slots + 8 * k) << name << ": " << first->second;
+  }
+}
+
+}  // namespace
+}  // namespace haldgen::test
