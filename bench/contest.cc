@@ -16,6 +16,9 @@
 namespace haldgen::bench {
 namespace {
 
+// The generator's name for both directions: their counts are equal.
+constexpr const char* counts_family = "complex";
+
 std::optional<Direction> direction(const frame::Family& family) {
   if (family.word == "DFTFwd_CToC") return Direction::forward;
   if (family.word == "DFTInv_CToC") return Direction::inverse;
@@ -150,7 +153,7 @@ class Contest::Bout {
         mode_, std::string(function.family->word), type_of(function), function.size, std::nullopt,
         {}};
     const std::optional<double> additions =
-        contest_.counts_.additions(measurement.family, measurement.type, measurement.length);
+        contest_.counts_.additions(counts_family, measurement.type, measurement.length);
     if (additions) measurement.vector_additions = *additions / lanes(function.element);
     const std::vector<Contestant>& contestants = lineup_->contestants(arena_->walk());
     for (std::size_t i = 0; i < contestants.size(); ++i) {

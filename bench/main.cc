@@ -79,7 +79,6 @@ std::ofstream open_for_writing(const std::filesystem::path& path) {
 
 void write_files(const Options& options, const std::vector<Measurement>& measurements,
                  const std::string& report) {
-  std::filesystem::create_directories(options.out);
   open_for_writing(options.out / "report.txt") << report;
   std::ofstream results = open_for_writing(options.out / "results.tsv");
   write_tsv(results, long_table(measurements));
@@ -124,9 +123,12 @@ class FrontEnd {
   FrontEnd(const FrontEnd&) = delete;
   FrontEnd& operator=(const FrontEnd&) = delete;
 
+  /// Throws std::runtime_error if no benchmark matches the filter.
   void run() {
     Progress progress;
-    benchmark::RunSpecifiedBenchmarks(&progress);
+    if (benchmark::RunSpecifiedBenchmarks(&progress) == 0) {
+      throw std::runtime_error("there is no such kernel to measure");
+    }
   }
 
  private:
@@ -139,6 +141,7 @@ int run(const Options& options) {
     show_plans(options);
     return 0;
   }
+  if (!options.out.empty()) std::filesystem::create_directories(options.out);
   const std::string load = load_average();
   Contest contest(options);
   FrontEnd front_end(options);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -55,6 +56,13 @@ void analyse(Recording& recording, std::span<const float> block, Decimator& deci
   spectrum.finish();
 }
 
+// In whole numbers where that says enough.
+std::string times_real_time(double seconds, Seconds taken) {
+  const double times = seconds / taken.count();
+  return (times < 100 ? short_number(times, 3) : std::to_string(std::llround(times))) +
+         " times real time";
+}
+
 std::string number(double value, const char* unit) { return short_number(value) + ' ' + unit; }
 
 void describe(const Recording& recording, double seconds, int factor, const std::string& path) {
@@ -77,9 +85,9 @@ void describe_speed(const ShortTimeSpectrum& spectrum, double seconds, Seconds e
   std::cout << spectrum.transforms()
             << " complex transforms, two frames in each: " << number(inside.count() * 1e3, "ms")
             << ", " << number(inside.count() * 1e9 / transforms, "ns") << " per transform, "
-            << short_number(seconds / inside.count(), 3) << " times real time\n"
+            << times_real_time(seconds, inside) << "\n"
             << "with reading, filtering and drawing: " << number(elapsed.count() * 1e3, "ms")
-            << ", " << short_number(seconds / elapsed.count(), 3) << " times real time\n";
+            << ", " << times_real_time(seconds, elapsed) << '\n';
 }
 
 void run(const Options& options) {

@@ -1,0 +1,247 @@
+// Packing, forms and the lowering of vector kernels: the bits of the graph's own statements, at the
+// cost that was announced.
+#include "kernelgen/packed.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "kernelgen/forms.h"
+#include "kernelgen/lower.h"
+#include "tests/kernelgen/random_graph.h"
+
+namespace haldgen::kernelgen {
+namespace {
+
+using test::at;
+using test::Dice;
+
+constexpr std::uint32_t kSeeds = 120;
+constexpr int kSweeps = 10;
+
+int count_ops(const Program& program, std::initializer_list<Op> ops) {
+  return static_cast<int>(
+      std::count_if(program.code.begin(), program.code.end(), [&](const Instruction& in) {
+        return std::find(ops.begin(), ops.end(), in.op) != ops.end();
+      }));
+}
+
+int count_kind(const PackedGraph& graph, PackedKind kind) {
+  return static_cast<int>(std::count_if(graph.nodes.begin(), graph.nodes.end(),
+                                        [&](const PackedNode& n) { return n.kind == kind; }));
+}
+
+/// Any choices that are allowed, good or bad.
+std::vector<Choice> wild_choices(const PackedGraph& graph, bool mirrored, Dice& dice) {
+  std::vector<Choice> choices(graph.nodes.size());
+  for (std::size_t i = 0; i < choices.size(); ++i) {
+    switch (graph.nodes[i].kind) {
+      case PackedKind::load:
+      case PackedKind::store:
+        choices[i].form.exchanged = mirrored ? 1 : 0;
+        break;
+      case PackedKind::zero:
+        break;
+      case PackedKind::sum:
+        choices[i] = {{dice.below(2), dice.below(4)}, static_cast<Lowering>(dice.below(5))};
+        break;
+      case PackedKind::gather:
+        choices[i] = {{dice.below(2), dice.below(4)}, static_cast<Lowering>(dice.below(4))};
+        break;
+      case PackedKind::scale:
+      case PackedKind::rotate:
+        choices[i] = {{dice.below(2), dice.below(4)}, Lowering::plus};
+        break;
+    }
+  }
+  return choices;
+}
+
+template <class Float>
+std::vector<Float> exchanged_parts(std::vector<Float> v) {
+  for (std::size_t i = 0; i + 1 < v.size(); i += 2) std::swap(v[i], v[i + 1]);
+  return v;
+}
+
+template <class Float>
+void expect_bits_of_graph(const Graph& graph, const Program& program, bool mirrored,
+                          std::uint32_t seed) {
+  Dice dice(seed);
+  const auto source = dice.numbers<Float>(2 * test::inputs_of(graph));
+  const Float scale = static_cast<Float>(0.3);
+  auto expected = test::direct<Float>(graph, mirrored ? exchanged_parts(source) : source, scale);
+  if (mirrored) expected = exchanged_parts(expected);
+  std::vector<Float> actual(2 * graph.outputs().size());
+  interpret(program, source, scale, actual);
+  ASSERT_TRUE(test::same_bits(actual, expected)) << "seed " << seed << " mirrored " << mirrored;
+}
+
+/// Both element types, both directions, chosen and wild forms; `check` gets the packed graph, the
+/// choices and the program.
+template <class Check>
+void for_all_lowerings(const Check& check) {
+  for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
+    const Graph graph = test::random_complex_graph(seed);
+    for (const int halves : {1, 2}) {
+      const PackedGraph packed = pack(graph, halves);
+      const FloatType type = halves == 1 ? FloatType::f64 : FloatType::f32;
+      for (const bool mirrored : {false, true}) {
+        Dice dice(seed);
+        for (const auto& choices :
+             {choose_forms(packed, mirrored, kSweeps), wild_choices(packed, mirrored, dice)}) {
+          const Program program = lower_packed(packed, choices, type, mirrored);
+          ASSERT_NO_FATAL_FAILURE(check(graph, packed, choices, program, mirrored))
+              << "seed " << seed << " halves " << halves << " mirrored " << mirrored;
+        }
+      }
+    }
+  }
+}
+
+TEST(Lowering, GivesTheBitsOfTheStatements) {
+  std::uint32_t seed = 0;
+  for_all_lowerings([&](const Graph& graph, const PackedGraph&, const std::vector<Choice>&,
+                        const Program& program, bool mirrored) {
+    if (program.type == FloatType::f64) {
+      expect_bits_of_graph<double>(graph, program, mirrored, ++seed);
+    } else {
+      expect_bits_of_graph<float>(graph, program, mirrored, ++seed);
+    }
+  });
+}
+
+TEST(Lowering, EmitsWhatTheFormsCost) {
+  for_all_lowerings([](const Graph&, const PackedGraph& packed, const std::vector<Choice>& choices,
+                       const Program& program, bool) {
+    const FormCost cost = cost_of(packed, choices);
+    ASSERT_EQ(count_ops(program, {Op::exchange}), cost.exchanges);
+    ASSERT_EQ(count_ops(program, {Op::sign}), cost.sign_changes);
+  });
+}
+
+TEST(Lowering, FormsAddNoArithmetic) {
+  for_all_lowerings([](const Graph&, const PackedGraph& packed, const std::vector<Choice>&,
+                       const Program& program, bool) {
+    const int rotations = count_kind(packed, PackedKind::rotate);
+    ASSERT_EQ(count_ops(program, {Op::add, Op::subtract, Op::alternate}),
+              count_kind(packed, PackedKind::sum) + rotations);
+    ASSERT_EQ(count_ops(program, {Op::multiply}),
+              count_kind(packed, PackedKind::scale) + 2 * rotations);
+    ASSERT_EQ(count_ops(program, {Op::scale}), count_kind(packed, PackedKind::store));
+  });
+}
+
+TEST(Lowering, OperandsComeFirst) {
+  for_all_lowerings([](const Graph&, const PackedGraph&, const std::vector<Choice>&,
+                       const Program& program, bool) {
+    for (std::size_t i = 0; i < program.code.size(); ++i) {
+      ASSERT_LT(program.code[i].a, static_cast<int>(i));
+      ASSERT_LT(program.code[i].b, static_cast<int>(i));
+    }
+  });
+}
+
+TEST(Forms, AreReproducible) {
+  for (std::uint32_t seed = 0; seed < 20; ++seed) {
+    const PackedGraph packed = pack(test::random_complex_graph(seed), 2);
+    const auto first = choose_forms(packed, false, kSweeps);
+    const auto second = choose_forms(packed, false, kSweeps);
+    for (std::size_t i = 0; i < first.size(); ++i) {
+      ASSERT_EQ(first[i].form, second[i].form);
+      ASSERT_EQ(first[i].lowering, second[i].lowering);
+    }
+  }
+}
+
+TEST(Forms, AreBetterThanNone) {
+  int chosen = 0;
+  int plain = 0;
+  for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
+    const PackedGraph packed = pack(test::random_complex_graph(seed), 1);
+    const auto total = [&](const std::vector<Choice>& choices) {
+      const FormCost cost = cost_of(packed, choices);
+      return cost.exchanges + cost.sign_changes;
+    };
+    const int best = total(choose_forms(packed, false, 50));
+    const int none = total(std::vector<Choice>(packed.nodes.size()));
+    ASSERT_LE(best, none) << "seed " << seed;
+    chosen += best;
+    plain += none;
+  }
+  EXPECT_LT(2 * chosen, plain);
+}
+
+TEST(Forms, AFourPointBlockNeedsOneExchange) {
+  // b - i d and b + i d: one value exchanged, signs by the kind of addition.
+  Graph g(Field::complex);
+  const Value a = g.add(g.input(0), g.input(2));
+  const Value b = g.subtract(g.input(0), g.input(2));
+  const Value c = g.add(g.input(1), g.input(3));
+  const Value d = g.subtract(g.input(1), g.input(3));
+  g.set_outputs({g.add(a, c), g.add(b, turned(d, 3)), g.subtract(a, c), g.add(b, turned(d, 1))});
+  const PackedGraph packed = pack(g, 1);
+  const FormCost cost = cost_of(packed, choose_forms(packed, false, 50));
+  EXPECT_EQ(cost.exchanges, 1);
+  EXPECT_LE(cost.sign_changes, 1);
+}
+
+TEST(Packing, EqualColumnsShareTheirVectors) {
+  for (const int columns : {2, 3, 4, 5}) {
+    Graph g(Field::complex);
+    std::vector<Value> outputs;
+    for (int c = 0; c < columns; ++c) {
+      g.enter_column(c, columns);
+      const Value sum = g.add(g.input(2 * c), g.input(2 * c + 1));
+      const Value product = g.multiply(sin_turn(1, 5), sum);
+      outputs.push_back(g.twiddle(root(7, 1 + c), product));
+      g.leave_column();
+    }
+    g.set_outputs(outputs);
+    const PackedGraph packed = pack(g, 2);
+    const int vectors = (columns + 1) / 2;
+    EXPECT_EQ(count_kind(packed, PackedKind::sum), vectors) << columns;
+    EXPECT_EQ(count_kind(packed, PackedKind::scale), vectors) << columns;
+    EXPECT_EQ(count_kind(packed, PackedKind::rotate), vectors) << columns;
+    EXPECT_EQ(count_kind(packed, PackedKind::store), vectors) << columns;
+    EXPECT_EQ(count_kind(packed, PackedKind::gather), 0) << columns;
+  }
+}
+
+TEST(Packing, DependentNodesDoNotShareAVector) {
+  Graph g(Field::complex);
+  g.enter_column(0, 2);
+  const Value first = g.add(g.input(0), g.input(1));
+  g.leave_column();
+  g.enter_column(1, 2);
+  const Value second = g.add(first, g.input(2));
+  g.leave_column();
+  g.set_outputs({first, second});
+  EXPECT_EQ(count_kind(pack(g, 2), PackedKind::sum), 2);
+}
+
+TEST(Packing, EachOutputIsStoredOnce) {
+  for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
+    const Graph graph = test::random_complex_graph(seed);
+    for (const int halves : {1, 2}) {
+      std::vector<int> stored(graph.outputs().size(), 0);
+      for (const PackedNode& n : pack(graph, halves).nodes) {
+        if (n.kind != PackedKind::store) continue;
+        for (const int element : n.element) {
+          if (element >= 0) ++stored[at(element)];
+        }
+      }
+      ASSERT_EQ(stored, std::vector<int>(stored.size(), 1)) << "seed " << seed;
+    }
+  }
+}
+
+TEST(Packing, RefusesAStatementWithoutVectorForm) {
+  Graph g(Field::complex);
+  g.set_outputs({g.statement({{0, kNoConstant, g.input(0).node},
+                              {0, kNoConstant, g.input(1).node},
+                              {0, kNoConstant, g.input(2).node}})});
+  EXPECT_THROW(pack(g, 1), std::logic_error);
+}
+
+}  // namespace
+}  // namespace haldgen::kernelgen

@@ -1,0 +1,146 @@
+// Wide arithmetic: digits, symmetries, single rounding.
+#include "kernelgen/wide.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <string>
+
+namespace haldgen::kernelgen {
+namespace {
+
+// 0.d1d2d3... as a wide number.
+Wide from_digits(const std::string& fraction) {
+  Wide value;
+  Wide unit = 1.0;
+  for (const char digit : fraction) {
+    value = value * Wide(10.0) + Wide(static_cast<double>(digit - '0'));
+    unit = unit * Wide(10.0);
+  }
+  return value / unit;
+}
+
+double distance(Wide a, Wide b) { return abs(a - b).hi; }
+
+TEST(Wide, TrigonometricDigits) {
+  struct Row {
+    Wide value;
+    const char* fraction;
+  };
+  const Row rows[] = {
+      {cos_turn(1, 5), "309016994374947424102293417182819"},
+      {sin_turn(1, 5), "951056516295153572116439333379382"},
+      {sin_turn(2, 5), "587785252292473129168705954639073"},
+      {sin_turn(1, 3), "866025403784438646763723170752936"},
+      {cos_turn(1, 16), "923879532511286756128183189396788"},
+      {sin_turn(1, 16), "382683432365089771728459984030399"},
+      {cos_turn(1, 8), "707106781186547524400844362104849"},
+      {sin_turn(1, 8), "707106781186547524400844362104849"},
+      {cos_turn(1, 9), "766044443118978035202392650555417"},
+      {cos_turn(1, 7), "623489801858733530525004884004240"},
+      {-cos_turn(3, 7), "900968867902419126236102319507445"},
+      {cos_turn(1, 64), "995184726672196886244836953109480"},
+      {sin_turn(1, 64), "098017140329560601994195563888642"},
+      {cos_turn(1, 61), "994699875614589047976256806722091"},
+  };
+  for (const Row& row : rows) {
+    EXPECT_LT(distance(row.value, from_digits(row.fraction)), 3e-32) << row.fraction;
+  }
+}
+
+TEST(Wide, RootsAndQuotients) {
+  EXPECT_LT(distance(sqrt(Wide(0.5)), from_digits("707106781186547524400844362104849")), 3e-32);
+  EXPECT_LT(distance(sqrt(Wide(5.0)) / Wide(4.0), from_digits("559016994374947424102293417182819")),
+            3e-32);
+  EXPECT_LT(distance(Wide(1.0) / Wide(3.0), from_digits("333333333333333333333333333333333")),
+            3e-32);
+  EXPECT_TRUE(sqrt(Wide(4.0)) == Wide(2.0));
+  EXPECT_TRUE(Wide(21.0) / Wide(7.0) == Wide(3.0));
+}
+
+TEST(Wide, SumKeepsWhatADoubleLoses) {
+  const Wide sum = Wide(1.0) + Wide(0x1p-80);
+  EXPECT_EQ((sum - Wide(1.0)).hi, 0x1p-80);
+  const Wide square = (Wide(1.0) + Wide(0x1p-50)) * (Wide(1.0) + Wide(0x1p-50));
+  EXPECT_EQ((square - Wide(1.0) - Wide(0x1p-49)).hi, 0x1p-100);
+}
+
+TEST(Wide, CirclesAreSymmetricInEveryDigit) {
+  for (int n = 2; n <= 64; ++n) {
+    for (int k = -n; k <= n; ++k) {
+      ASSERT_TRUE(cos_turn(k, n) == cos_turn(-k, n)) << k << "/" << n;
+      ASSERT_TRUE(sin_turn(k, n) == -sin_turn(-k, n)) << k << "/" << n;
+      ASSERT_TRUE(cos_turn(k, n) == cos_turn(k + n, n)) << k << "/" << n;
+      ASSERT_TRUE(sin_turn(k, n) == sin_turn(k + n, n)) << k << "/" << n;
+      if (n % 2 == 0) {
+        ASSERT_TRUE(cos_turn(k, n) == -cos_turn(n / 2 - k, n)) << k << "/" << n;
+        ASSERT_TRUE(sin_turn(k, n) == sin_turn(n / 2 - k, n)) << k << "/" << n;
+      }
+      if (n % 4 == 0) {
+        ASSERT_TRUE(cos_turn(k, n) == sin_turn(n / 4 - k, n)) << k << "/" << n;
+      }
+      const Wide square =
+          cos_turn(k, n) * cos_turn(k, n) + sin_turn(k, n) * sin_turn(k, n) - Wide(1.0);
+      ASSERT_LT(std::abs(square.hi), 1e-31) << k << "/" << n;
+    }
+  }
+}
+
+TEST(Wide, RootsOfUnityGoClockwise) {
+  const auto equals = [](WideComplex v, double re, double im) {
+    return v.re == Wide(re) && v.im == Wide(im);
+  };
+  EXPECT_TRUE(equals(root(4, 0), 1, 0));
+  EXPECT_TRUE(equals(root(4, 1), 0, -1));
+  EXPECT_TRUE(equals(root(4, 2), -1, 0));
+  EXPECT_TRUE(equals(root(4, 3), 0, 1));
+  EXPECT_TRUE(root(8, 1).re == -root(8, 1).im);
+  EXPECT_TRUE(root(8, 3).re == root(8, 3).im);
+  // The group law, far from the axes.
+  const WideComplex product = root(59, 17) * root(59, 30);
+  EXPECT_LT(distance(product.re, root(59, 47).re), 1e-31);
+  EXPECT_LT(distance(product.im, root(59, 47).im), 1e-31);
+}
+
+TEST(Wide, TurnsAreExact) {
+  const WideComplex v{0.25, -3.0};
+  const WideComplex i{0.0, 1.0};
+  WideComplex expected = v;
+  for (int turns = 0; turns < 9; ++turns) {
+    const WideComplex actual = turned(v, turns);
+    EXPECT_TRUE(actual.re == expected.re && actual.im == expected.im) << turns;
+    expected = i * expected;
+  }
+  EXPECT_TRUE(turned(v, -1).re == turned(v, 3).re);
+}
+
+TEST(Wide, ToDoubleRoundsOnce) {
+  EXPECT_EQ(to_double({1.0, 0x1p-54}), 1.0);
+  EXPECT_EQ(to_double(cos_turn(1, 5)), 0.30901699437494745);
+  EXPECT_EQ(to_double(sin_turn(1, 3)), 0.8660254037844386);  // not ...4387, its neighbour
+  EXPECT_EQ(to_double(sqrt(Wide(0.5))), 0.7071067811865476);
+  // A tie goes to the even neighbour, upward and downward.
+  EXPECT_EQ(to_double({1.0, 0x1p-53}), 1.0);
+  EXPECT_EQ(to_double({1.0 + 0x1p-52, 0x1p-53}), 1.0 + 0x1p-51);
+}
+
+TEST(Wide, ToFloatRoundsOnce) {
+  // Halfway between two floats, and next to it by less than a double can say.
+  const float above = 1.0F + 0x1p-23F;
+  EXPECT_EQ(to_float(1.0 + 0x1p-24), 1.0F);
+  EXPECT_EQ(to_float({1.0 + 0x1p-24, 0x1p-90}), above);
+  EXPECT_EQ(to_float({1.0 + 0x1p-24, -0x1p-90}), 1.0F);
+  EXPECT_EQ(to_float(1.0 + 3 * 0x1p-24), 1.0F + 0x1p-22F);
+  EXPECT_EQ(to_float({1.0 + 3 * 0x1p-24, -0x1p-90}), above);
+  EXPECT_EQ(to_float({-1.0 - 0x1p-24, -0x1p-90}), -above);
+  EXPECT_EQ(to_float({-1.0 - 0x1p-24, 0x1p-90}), -1.0F);
+  // Below a power of two the neighbours are unequally far.
+  EXPECT_EQ(to_float({1.0 - 0x1p-25, -0x1p-90}), 1.0F - 0x1p-24F);
+  EXPECT_EQ(to_float({1.0 - 0x1p-25, 0x1p-90}), 1.0F);
+  EXPECT_EQ(to_float(Wide(1.0) / Wide(3.0)), 0.33333334F);
+  EXPECT_EQ(to_float(Wide(1.0) / sqrt(Wide(3.0))), 0.57735026F);
+}
+
+}  // namespace
+}  // namespace haldgen::kernelgen
