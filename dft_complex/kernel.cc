@@ -1,5 +1,7 @@
 #include "dft_complex/kernel.h"
 
+#include <stdexcept>
+
 #include "kernelgen/emit.h"
 #include "kernelgen/lower.h"
 
@@ -26,6 +28,22 @@ bool has_wide_products(int length, ElementType type) {
   return type == ElementType::c32 && (length == 3 || length == 5);
 }
 
+/// The inverse kernel is the mirror of the forward one, real and imaginary parts exchanged at the
+/// loads and stores, except at these lengths of 32-bit elements: there it is the forward kernel
+/// with its outputs 1..n-1 reversed.
+bool is_reversed(int length, ElementType type) {
+  return type == ElementType::c32 &&
+         (length == 19 || length == 23 || length == 37 || length == 61);
+}
+
+void reverse_outputs(Program& program, int length) {
+  for (auto& in : program.code) {
+    if (!kernelgen::is_store(in.op)) continue;
+    if (in.op == kernelgen::Op::store) throw std::logic_error("neighbours cannot be reversed");
+    for (int& address : in.address) address = 2 * ((length - address / 2) % length);
+  }
+}
+
 Program scalar_program(int length, ElementType type, bool mirrored) {
   Graph parts = kernelgen::gather_statements(
       kernelgen::split_parts(expand(recipe_of(length, type), false)));
@@ -42,7 +60,8 @@ Program scalar_program(int length, ElementType type, bool mirrored) {
 Program vector_program(int length, ElementType type, bool mirrored) {
   const bool pairs = type == ElementType::c32;
   const auto packed = kernelgen::pack(expand(recipe_of(length, type), pairs), pairs ? 2 : 1);
-  const auto forms = kernelgen::choose_forms(packed, mirrored, kFormSweeps);
+  auto forms = kernelgen::choose_forms(packed, kFormSweeps);
+  if (mirrored) forms = kernelgen::choose_mirrored_forms(packed, forms, kFormSweeps);
   return kernelgen::lower_packed(packed, forms, float_type(type), mirrored);
 }
 
@@ -96,25 +115,26 @@ std::string suffix(ElementType type) { return type == ElementType::c32 ? "32fc" 
 Graph kernel_graph(int length, ElementType type) { return expand(recipe_of(length, type), false); }
 
 Program kernel_program(int length, ElementType type, bool inverse, const Schedule& schedule) {
-  const Program program = is_scalar(length, type) ? scalar_program(length, type, inverse)
-                                                  : vector_program(length, type, inverse);
+  const bool reversed = inverse && is_reversed(length, type);
+  const bool mirrored = inverse && !reversed;
+  Program program = is_scalar(length, type) ? scalar_program(length, type, mirrored)
+                                            : vector_program(length, type, mirrored);
+  if (reversed) reverse_outputs(program, length);
   return kernelgen::scheduled(program, schedule.order, schedule.cap);
 }
 
-std::string kernel_source(int length, ElementType type, bool with_inverse,
+std::string kernel_source(int length, ElementType type,
                           const std::optional<Schedule>& override_schedule) {
   std::string text = head_comment(length, type);
   text += "#include \"dft_complex/contract.h\"\n\n";
   text += "namespace haldgen::dft_complex {\nnamespace {\n\n";
   for (const bool inverse : {false, true}) {
-    if (inverse && !with_inverse) continue;
     text += kernel_type(length, type, inverse,
                         override_schedule.value_or(schedule_of(length, type, inverse)));
     text += "\n";
   }
   text += "}  // namespace\n\n";
   for (const bool inverse : {false, true}) {
-    if (inverse && !with_inverse) continue;
     text += entry(length, type, inverse);
     text += "\n";
   }

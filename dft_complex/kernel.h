@@ -32,7 +32,7 @@ kernelgen::Program kernel_program(int length, ElementType type, bool inverse,
 std::string suffix(ElementType type);
 
 /// The source of the kernels of one length and type; `override_schedule` is for measuring orders.
-std::string kernel_source(int length, ElementType type, bool with_inverse,
+std::string kernel_source(int length, ElementType type,
                           const std::optional<Schedule>& override_schedule);
 
 }  // namespace haldgen::dft_complex

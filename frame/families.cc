@@ -18,7 +18,7 @@ constexpr std::array<Element, 2> no_arrays{Element::none, Element::none};
 
 // What is built: a size enters when its functions of both element types exist.
 constexpr SizeSet not_built{};
-constexpr SizeSet forward_complex_built{2, 3, 4, 5, 8, 16, 32, 64};
+constexpr SizeSet complex_built(Range{2, 64});
 constexpr SizeSet version_built{0};
 
 constexpr std::string_view forward_complex_definition =
@@ -31,6 +31,21 @@ The length N is the number in the name.
 
 constexpr std::string_view forward_complex_general_definition =
     R"(    X[k] = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k, n = 0..N-1
+
+@param src     N complex elements x[0..N-1]; only read.
+@param dst     N complex elements X[0..N-1].
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view inverse_complex_definition =
+    R"(    X[k] = s * sum over n of x[n] * exp(+2*pi*i*k*n/N),   k, n = 0..N-1
+
+The length N is the number in the name.
+
+@param src     N complex elements x[0..N-1]; only read.
+@param dst     N complex elements X[0..N-1].)";
+
+constexpr std::string_view inverse_complex_general_definition =
+    R"(    X[k] = s * sum over n of x[n] * exp(+2*pi*i*k*n/N),   k, n = 0..N-1
 
 @param src     N complex elements x[0..N-1]; only read.
 @param dst     N complex elements X[0..N-1].
@@ -51,29 +66,15 @@ constexpr std::string_view version_result =
 using S = Signature;
 
 constexpr Family table[] = {
-    {"DFTFwd_CToC", S::transform, complex, dft_lengths, forward_complex_built, Scaling::forward,
+    {"DFTFwd_CToC", S::transform, complex, dft_lengths, complex_built, Scaling::forward,
      "Forward complex DFT, fixed length", forward_complex_definition, transform_result},
-    {"DFTFwd_CToC", S::sized_transform, complex, dft_lengths, forward_complex_built,
+    {"DFTFwd_CToC", S::sized_transform, complex, dft_lengths, complex_built,
      Scaling::forward, "Forward complex DFT, general", forward_complex_general_definition,
      general_length_result},
-    {"DFTInv_CToC",
-     S::transform,
-     complex,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse complex DFT, fixed length",
-     {},
-     {}},
-    {"DFTInv_CToC",
-     S::sized_transform,
-     complex,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse complex DFT, general",
-     {},
-     {}},
+    {"DFTInv_CToC", S::transform, complex, dft_lengths, complex_built, Scaling::inverse,
+     "Inverse complex DFT, fixed length", inverse_complex_definition, transform_result},
+    {"DFTInv_CToC", S::sized_transform, complex, dft_lengths, complex_built, Scaling::inverse,
+     "Inverse complex DFT, general", inverse_complex_general_definition, general_length_result},
 
     {"DFTFwd_RToCCS",
      S::transform,

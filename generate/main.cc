@@ -60,10 +60,6 @@ void print_all_counts() {
   }
 }
 
-std::string source(int length, ElementType type, const std::optional<Schedule>& order) {
-  return dft_complex::kernel_source(length, type, false, order);
-}
-
 void write_file(const std::string& path, const std::string& text) {
   std::ofstream file(path, std::ios::binary);
   file << text;
@@ -78,7 +74,7 @@ void run(const std::vector<std::string>& args) {
   const ElementType type = element_type(args[3]);
   if (command == "source" && (args.size() == 5 || args.size() == 6)) {
     const auto order = args.size() == 6 ? std::optional(schedule(args[5])) : std::nullopt;
-    return write_file(args[4], source(length, type, order));
+    return write_file(args[4], dft_complex::kernel_source(length, type, order));
   }
   if (args.size() != 4) throw UsageError("arguments");
   if (command == "counts") {
@@ -89,7 +85,7 @@ void run(const std::vector<std::string>& args) {
   } else if (command == "graph") {
     std::cout << kernelgen::to_dot(dft_complex::kernel_graph(length, type));
   } else if (command == "code") {
-    std::cout << source(length, type, std::nullopt);
+    std::cout << dft_complex::kernel_source(length, type, std::nullopt);
   } else {
     throw UsageError("unknown command");
   }

@@ -99,17 +99,127 @@ int32_t haldgDFTFwd_CToC_2_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_3_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_4_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_5_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_6_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_7_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_8_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_9_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_10_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_11_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_12_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_13_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_14_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_15_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_16_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_17_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_18_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_19_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_20_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_21_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_22_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_23_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_24_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_25_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_26_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_27_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_28_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_29_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_30_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_31_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_32_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_33_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_34_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_35_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_36_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_37_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_38_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_39_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_40_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_41_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_42_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_43_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_44_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_45_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_46_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_47_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_48_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_49_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_50_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_51_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_52_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_53_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_54_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_55_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_56_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_57_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_58_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_59_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_60_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_61_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_62_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_63_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_64_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_2_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_3_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_4_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_5_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_6_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_7_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_8_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_9_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_10_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_11_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_12_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_13_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_14_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_15_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_16_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_17_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_18_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_19_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_20_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_21_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_22_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_23_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_24_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_25_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_26_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_27_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_28_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_29_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_30_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_31_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_32_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_33_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_34_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_35_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_36_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_37_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_38_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_39_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_40_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_41_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_42_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_43_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_44_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_45_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_46_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_47_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_48_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_49_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_50_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_51_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_52_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_53_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_54_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_55_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_56_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_57_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_58_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_59_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_60_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_61_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_62_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTFwd_CToC_63_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
 int32_t haldgDFTFwd_CToC_64_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
 /** @} */
 
@@ -132,6 +242,173 @@ int32_t haldgDFTFwd_CToC_64_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
  */
 int32_t haldgDFTFwd_CToC_32fc(const Cplx32* src, Cplx32* dst, int32_t length, int32_t flag);
 int32_t haldgDFTFwd_CToC_64fc(const Cplx64* src, Cplx64* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Inverse complex DFT, fixed length
+ *
+ *     X[k] = s * sum over n of x[n] * exp(+2*pi*i*k*n/N),   k, n = 0..N-1
+ *
+ * The length N is the number in the name.
+ *
+ * @param src     N complex elements x[0..N-1]; only read.
+ * @param dst     N complex elements X[0..N-1].
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDFTInv_CToC_2_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_3_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_4_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_5_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_6_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_7_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_8_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_9_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_10_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_11_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_12_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_13_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_14_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_15_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_16_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_17_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_18_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_19_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_20_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_21_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_22_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_23_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_24_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_25_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_26_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_27_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_28_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_29_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_30_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_31_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_32_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_33_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_34_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_35_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_36_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_37_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_38_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_39_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_40_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_41_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_42_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_43_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_44_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_45_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_46_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_47_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_48_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_49_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_50_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_51_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_52_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_53_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_54_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_55_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_56_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_57_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_58_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_59_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_60_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_61_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_62_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_63_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_64_32fc(const Cplx32* src, Cplx32* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_2_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_3_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_4_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_5_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_6_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_7_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_8_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_9_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_10_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_11_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_12_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_13_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_14_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_15_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_16_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_17_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_18_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_19_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_20_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_21_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_22_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_23_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_24_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_25_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_26_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_27_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_28_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_29_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_30_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_31_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_32_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_33_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_34_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_35_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_36_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_37_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_38_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_39_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_40_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_41_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_42_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_43_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_44_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_45_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_46_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_47_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_48_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_49_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_50_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_51_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_52_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_53_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_54_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_55_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_56_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_57_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_58_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_59_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_60_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_61_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_62_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_63_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+int32_t haldgDFTInv_CToC_64_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
+/** @} */
+
+/**
+ * @name Inverse complex DFT, general
+ *
+ *     X[k] = s * sum over n of x[n] * exp(+2*pi*i*k*n/N),   k, n = 0..N-1
+ *
+ * @param src     N complex elements x[0..N-1]; only read.
+ * @param dst     N complex elements X[0..N-1].
+ * @param length  N, for lengths known at run time only: any length that has a function of its own.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusSizeError if no function has this length, whatever the other arguments are;
+ *         else what the function of this length returns.
+ * @{
+ */
+int32_t haldgDFTInv_CToC_32fc(const Cplx32* src, Cplx32* dst, int32_t length, int32_t flag);
+int32_t haldgDFTInv_CToC_64fc(const Cplx64* src, Cplx64* dst, int32_t length, int32_t flag);
 /** @} */
 
 /**

@@ -114,12 +114,20 @@ double decay(double x) {
 
 class Annealer {
  public:
-  Annealer(const PackedGraph& graph, bool mirrored)
+  /// With `model`, the mirrored kernel of those choices.
+  Annealer(const PackedGraph& graph, const std::vector<Choice>* model)
       : nodes_(graph.nodes), choices_(graph.nodes.size()), wants_(graph.nodes.size()) {
+    allowed_.assign(nodes_.size(), {0, 1, 2, 3, 4, 5, 6, 7});
     for (std::size_t i = 0; i < nodes_.size(); ++i) {
       const PackedKind kind = nodes_[i].kind;
-      if (mirrored && (kind == PackedKind::load || kind == PackedKind::store)) {
-        choices_[i].form.exchanged = 1;
+      if (model != nullptr) {
+        if (kind == PackedKind::load || kind == PackedKind::store) {
+          choices_[i].form.exchanged = 1;
+        } else if (kind == PackedKind::sum || kind == PackedKind::rotate) {
+          const Form form = (*model)[i].form;
+          allowed_[i] = {index_of(form), index_of(exchanged(form))};
+          choices_[i].form = form;
+        }
       }
       const bool fixed =
           kind == PackedKind::load || kind == PackedKind::store || kind == PackedKind::zero;
@@ -223,10 +231,11 @@ class Annealer {
     const PackedNode& n = nodes_[at(node)];
     demand(node, -1);
     std::array<int, kForms * kLowerings> costs;
+    const std::vector<int>& forms = allowed_[at(node)];
     const int count = lowerings(n);
     int candidates = 0;
     int least = 1 << 20;
-    for (int f = 0; f < kForms; ++f) {
+    for (const int f : forms) {
       for (int l = 0; l < count; ++l) {
         choices_[at(node)] = {form_of(f), static_cast<Lowering>(l)};
         demand(node, +1);
@@ -257,13 +266,14 @@ class Annealer {
       int wanted = random_.below(ties);
       while (costs[at(pick)] != least || wanted-- > 0) ++pick;
     }
-    choices_[at(node)] = {form_of(pick / count), static_cast<Lowering>(pick % count)};
+    choices_[at(node)] = {form_of(forms[at(pick / count)]), static_cast<Lowering>(pick % count)};
     demand(node, +1);
   }
 
   const std::vector<PackedNode>& nodes_;
   std::vector<Choice> choices_;
   std::vector<Wants> wants_;
+  std::vector<std::vector<int>> allowed_;  ///< forms that a node may take
   std::vector<int> movable_;
   Random random_;
 };
@@ -345,8 +355,13 @@ FormCost cost_of(const PackedGraph& graph, const std::vector<Choice>& choices) {
   return total;
 }
 
-std::vector<Choice> choose_forms(const PackedGraph& graph, bool mirrored, int sweeps) {
-  return Annealer(graph, mirrored).run(sweeps);
+std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps) {
+  return Annealer(graph, nullptr).run(sweeps);
+}
+
+std::vector<Choice> choose_mirrored_forms(const PackedGraph& graph,
+                                          const std::vector<Choice>& forward, int sweeps) {
+  return Annealer(graph, &forward).run(sweeps);
 }
 
 }  // namespace haldgen::kernelgen

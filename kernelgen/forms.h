@@ -50,8 +50,13 @@ struct FormCost {
 FormCost cost_of(const PackedGraph& graph, const std::vector<Choice>& choices);
 
 /// One choice per node, by annealing with a fixed sequence of random numbers: the same graph gives
-/// the same choices on every machine. `mirrored` reads and writes elements with their parts
-/// exchanged. `sweeps` bounds the work.
-std::vector<Choice> choose_forms(const PackedGraph& graph, bool mirrored, int sweeps);
+/// the same choices on every machine. `sweeps` bounds the work.
+std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps);
+
+/// The choices of the mirrored kernel, which reads and writes elements with their parts exchanged.
+/// Each sum keeps the signs that `forward` gave its parts, so that the two kernels agree in every
+/// bit, the signs of zeros included; the order of the parts is chosen anew.
+std::vector<Choice> choose_mirrored_forms(const PackedGraph& graph,
+                                          const std::vector<Choice>& forward, int sweeps);
 
 }  // namespace haldgen::kernelgen

@@ -30,7 +30,7 @@ class PackedLowering {
         provide(node, make(node));
       }
     }
-    return std::move(program_);
+    return pruned(program_);
   }
 
  private:

@@ -112,6 +112,30 @@ bool is_store(Op op) {
          op == Op::store_upper;
 }
 
+Program pruned(const Program& program) {
+  std::vector<char> needed(program.code.size(), 0);
+  for (std::size_t i = program.code.size(); i-- > 0;) {
+    const Instruction& in = program.code[i];
+    if (!needed[i] && !is_store(in.op)) continue;
+    needed[i] = 1;
+    for (const int operand : {in.a, in.b}) {
+      if (operand >= 0) needed[static_cast<std::size_t>(operand)] = 1;
+    }
+  }
+  Program result = program;
+  result.code.clear();
+  std::vector<int> place(program.code.size(), -1);
+  for (std::size_t i = 0; i < program.code.size(); ++i) {
+    if (!needed[i]) continue;
+    Instruction in = program.code[i];
+    if (in.a >= 0) in.a = place[static_cast<std::size_t>(in.a)];
+    if (in.b >= 0) in.b = place[static_cast<std::size_t>(in.b)];
+    place[i] = static_cast<int>(result.code.size());
+    result.code.push_back(in);
+  }
+  return result;
+}
+
 void interpret(const Program& program, const std::vector<float>& source, float scale,
                std::vector<float>& destination) {
   interpret_as(program, source, scale, destination);

@@ -53,6 +53,9 @@ struct Program {
 bool is_load(Op op);
 bool is_store(Op op);
 
+/// The program without instructions whose results lead to no store.
+Program pruned(const Program& program);
+
 /// Runs the program as the compiled kernel must: every operation rounded once in its own type.
 /// `source` and `destination` hold floats (parts of elements), all of which the program may touch.
 void interpret(const Program& program, const std::vector<float>& source, float scale,

@@ -1,6 +1,7 @@
 // Equal bits: by flag, by entry, from thread to thread.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <thread>

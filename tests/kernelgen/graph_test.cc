@@ -58,6 +58,16 @@ TEST_F(RealGraph, SumsMeetUpToOrderAndSign) {
   EXPECT_NE(sum.node, difference.node);
 }
 
+TEST_F(RealGraph, SumsKeepTheSignsTheyWereWrittenWith) {
+  const Value v = g.subtract(-x, -y);
+  EXPECT_EQ(v.turn, 0);
+  EXPECT_EQ(g.node(v.node).terms[0].turn, 2);
+  EXPECT_EQ(g.node(v.node).terms[1].turn, 0);
+  const Value both = g.subtract(-x, z);
+  EXPECT_EQ(both.turn, 2);
+  EXPECT_EQ(g.node(both.node).terms[0].turn, 0);
+}
+
 TEST_F(RealGraph, LongSumsKeepTheirOrder) {
   const Value first =
       g.statement({{0, kNoConstant, x.node}, {0, kNoConstant, y.node}, {0, kNoConstant, z.node}});
