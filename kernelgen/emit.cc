@@ -20,7 +20,7 @@ class Printer {
   explicit Printer(const Program& program) : program_(program) {}
 
   std::string run() {
-    if (!scalar()) line("const V s = lanes::broadcast(scale);");
+    if (!scalar()) define_scales();
     for (std::size_t i = 0; i < program_.code.size(); ++i) print(static_cast<int>(i));
     return std::move(text_);
   }
@@ -34,6 +34,27 @@ class Printer {
   static std::string name(int value) { return "v" + std::to_string(value); }
   static std::string at(const char* base, int address) {
     return address == 0 ? base : base + (" + " + std::to_string(address));
+  }
+
+  /// Which of the scale vectors an instruction takes: bit j says that lane j is negated.
+  static int scale_mask(const Instruction& in) {
+    return (in.constant[0] < 0 ? 1 : 0) | (in.constant[1] < 0 ? 2 : 0);
+  }
+
+  void define_scales() {
+    line("const V s0 = lanes::broadcast(scale);");
+    for (int mask = 1; mask < 4; ++mask) {
+      for (const Instruction& in : program_.code) {
+        if (in.op != Op::scale || scale_mask(in) != mask) continue;
+        Instruction signs;
+        for (int l = 0; l < program_.lanes; ++l) {
+          signs.constant[static_cast<std::size_t>(l)] = (mask >> (l % 2)) & 1 ? -0.0 : 0.0;
+        }
+        line("const V s" + std::to_string(mask) + " = lanes::change_sign(s0, " +
+             constants(signs) + ");");
+        break;
+      }
+    }
   }
 
   void define(int index, const std::string& expression) {
@@ -92,7 +113,9 @@ class Printer {
       case Op::narrow:
         return define(index, "static_cast<float>(" + a + ")");
       case Op::scale:
-        return define(index, (scalar() ? "scale * " : "s * ") + a);
+        return define(index, (scalar() ? std::string("scale")
+                                       : "s" + std::to_string(scale_mask(in))) +
+                                 " * " + a);
       case Op::store:
         return line(scalar() ? "dst[" + std::to_string(in.address[0]) + "] = " + a + ";"
                              : "Access::store(" + at("dst", in.address[0]) + ", " + a + ");");

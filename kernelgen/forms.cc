@@ -4,6 +4,8 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <span>
+#include <utility>
 
 namespace haldgen::kernelgen {
 namespace {
@@ -114,9 +116,14 @@ double decay(double x) {
 
 class Annealer {
  public:
-  /// With `model`, the mirrored kernel of those choices.
-  Annealer(const PackedGraph& graph, const std::vector<Choice>* model)
-      : nodes_(graph.nodes), choices_(graph.nodes.size()), wants_(graph.nodes.size()) {
+  /// With `model`, the mirrored kernel of those choices. `scale_masks` are the masks that stores
+  /// may use.
+  Annealer(const PackedGraph& graph, const std::vector<Choice>* model,
+           std::vector<int> scale_masks)
+      : nodes_(graph.nodes),
+        choices_(graph.nodes.size()),
+        wants_(graph.nodes.size()),
+        scale_masks_(std::move(scale_masks)) {
     allowed_.assign(nodes_.size(), {0, 1, 2, 3, 4, 5, 6, 7});
     for (std::size_t i = 0; i < nodes_.size(); ++i) {
       const PackedKind kind = nodes_[i].kind;
@@ -129,9 +136,10 @@ class Annealer {
           choices_[i].form = form;
         }
       }
-      const bool fixed =
-          kind == PackedKind::load || kind == PackedKind::store || kind == PackedKind::zero;
-      if (!fixed) movable_.push_back(static_cast<int>(i));
+      if (kind == PackedKind::store) allowed_[i] = {index_of(choices_[i].form)};
+      if (kind != PackedKind::load && kind != PackedKind::zero) {
+        movable_.push_back(static_cast<int>(i));
+      }
     }
     for (std::size_t i = 0; i < nodes_.size(); ++i) demand(static_cast<int>(i), +1);
   }
@@ -221,9 +229,28 @@ class Annealer {
     return tables().cost[at(forms)][at(orders)];
   }
 
-  int lowerings(const PackedNode& n) const {
-    if (n.kind == PackedKind::sum) return kLowerings;
-    return n.kind == PackedKind::gather ? 4 : 1;
+  std::span<const int> lowerings(const PackedNode& n) const {
+    static constexpr std::array<int, kLowerings> kAll{0, 1, 2, 3, 4};
+    const std::span<const int> all(kAll);
+    switch (n.kind) {
+      case PackedKind::sum:
+        return all;
+      case PackedKind::gather:
+        return all.first(4);
+      case PackedKind::store:
+        return scale_masks_;
+      default:
+        return all.first(1);
+    }
+  }
+
+  /// Cost of what the choices of a node bear on; a store itself costs nothing.
+  int cost_around(int node) const {
+    const PackedNode& n = nodes_[at(node)];
+    int total = n.kind == PackedKind::store ? 0 : cost(node);
+    total += cost(n.a);
+    if (n.b >= 0 && n.b != n.a) total += cost(n.b);
+    return total;
   }
 
   /// Draws a new choice for a node with the probabilities of thermal equilibrium.
@@ -232,15 +259,15 @@ class Annealer {
     demand(node, -1);
     std::array<int, kForms * kLowerings> costs;
     const std::vector<int>& forms = allowed_[at(node)];
-    const int count = lowerings(n);
+    const std::span<const int> ways = lowerings(n);
+    const int count = static_cast<int>(ways.size());
     int candidates = 0;
     int least = 1 << 20;
     for (const int f : forms) {
-      for (int l = 0; l < count; ++l) {
+      for (const int l : ways) {
         choices_[at(node)] = {form_of(f), static_cast<Lowering>(l)};
         demand(node, +1);
-        int total = cost(node) + cost(n.a);
-        if (n.b >= 0 && n.b != n.a) total += cost(n.b);
+        const int total = cost_around(node);
         demand(node, -1);
         costs[at(candidates++)] = total;
         least = std::min(least, total);
@@ -266,7 +293,8 @@ class Annealer {
       int wanted = random_.below(ties);
       while (costs[at(pick)] != least || wanted-- > 0) ++pick;
     }
-    choices_[at(node)] = {form_of(forms[at(pick / count)]), static_cast<Lowering>(pick % count)};
+    choices_[at(node)] = {form_of(forms[at(pick / count)]),
+                          static_cast<Lowering>(ways[at(pick % count)])};
     demand(node, +1);
   }
 
@@ -275,6 +303,7 @@ class Annealer {
   std::vector<Wants> wants_;
   std::vector<std::vector<int>> allowed_;  ///< forms that a node may take
   std::vector<int> movable_;
+  std::vector<int> scale_masks_;
   Random random_;
 };
 
@@ -312,8 +341,11 @@ Demand demand_of(const PackedNode& node, const Choice& choice) {
       return {(crossed & 1) != 0 ? exchanged(choice.form) : choice.form,
               (crossed & 2) != 0 ? exchanged(choice.form) : choice.form};
     }
-    case PackedKind::store:
-      return {turned_operand(choice.form, node.turn), {}};
+    case PackedKind::store: {
+      Form stored = choice.form;
+      stored.negated ^= static_cast<int>(choice.lowering);
+      return {turned_operand(stored, node.turn), {}};
+    }
     default:
       return {};
   }
@@ -346,22 +378,49 @@ FormCost cost_of(const PackedGraph& graph, const std::vector<Choice>& choices) {
     }
   }
   FormCost total;
+  unsigned masks = 1;  // the plain scale is there in any case
   for (std::size_t i = 0; i < graph.nodes.size(); ++i) {
-    if (graph.nodes[i].kind == PackedKind::store) continue;
+    if (graph.nodes[i].kind == PackedKind::store) {
+      masks |= 1U << static_cast<int>(choices[i].lowering);
+      continue;
+    }
     const Provision p = provision(forms[i], orders[i]);
     total.exchanges += p.exchanges;
     total.sign_changes += p.sign_changes;
   }
+  total.sign_changes += std::popcount(masks) - 1;
   return total;
 }
 
+namespace {
+
+/// Negated scales cost an instruction each, which only the whole kernel can weigh: so the choice is
+/// made with none, one and all of them, and the cheapest stays.
+std::vector<Choice> cheapest(const PackedGraph& graph, const std::vector<Choice>* model,
+                             int sweeps) {
+  std::vector<Choice> best;
+  int least = 0;
+  for (const std::vector<int>& masks : {std::vector{0}, {0, 3}, {0, 1, 2, 3}}) {
+    std::vector<Choice> choices = Annealer(graph, model, masks).run(sweeps);
+    const FormCost cost = cost_of(graph, choices);
+    const int total = cost.exchanges + cost.sign_changes;
+    if (best.empty() || total < least) {
+      least = total;
+      best = std::move(choices);
+    }
+  }
+  return best;
+}
+
+}  // namespace
+
 std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps) {
-  return Annealer(graph, nullptr).run(sweeps);
+  return cheapest(graph, nullptr, sweeps);
 }
 
 std::vector<Choice> choose_mirrored_forms(const PackedGraph& graph,
                                           const std::vector<Choice>& forward, int sweeps) {
-  return Annealer(graph, &forward).run(sweeps);
+  return cheapest(graph, &forward, sweeps);
 }
 
 }  // namespace haldgen::kernelgen

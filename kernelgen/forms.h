@@ -18,8 +18,10 @@ struct Form {
   friend auto operator<=>(const Form&, const Form&) = default;
 };
 
-/// How an instruction makes a value in its form: the operand order and signs of a sum, the lane
-/// order in which a gather takes its operands.
+/// How an instruction makes a value in its form: the operand order and signs of a sum. For a gather
+/// the number of the lowering says whose lanes it exchanges (bit 0: a, bit 1: b), for a store which
+/// lanes it takes negated (bit mask): there the scale is negated instead, which costs nothing more
+/// than one scale vector for each mask in use.
 enum class Lowering {
   plus,           ///< a + b
   minus,          ///< a - b, b held negated
@@ -45,7 +47,7 @@ Form exchanged(Form form);
 
 struct FormCost {
   int exchanges = 0;
-  int sign_changes = 0;
+  int sign_changes = 0;  ///< of values, and of the scale
 };
 FormCost cost_of(const PackedGraph& graph, const std::vector<Choice>& choices);
 

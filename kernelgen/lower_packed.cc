@@ -224,10 +224,21 @@ class PackedLowering {
     return emit(instruction);
   }
 
+  int scale(int value, int negated) {
+    Instruction instruction;
+    instruction.op = Op::scale;
+    instruction.a = value;
+    for (int l = 0; l < program_.lanes; ++l) {
+      instruction.constant[at(l)] = ((negated >> (l % 2)) & 1) != 0 ? -1.0 : 1.0;
+    }
+    return emit(instruction);
+  }
+
   void store(int node) {
     const PackedNode& n = graph_.nodes[at(node)];
     Instruction instruction;
-    instruction.a = emit(Op::scale, held(n.a, demand_of(n, choice(node)).a));
+    instruction.a = scale(held(n.a, demand_of(n, choice(node)).a),
+                          static_cast<int>(choice(node).lowering));
     instruction.address = {2 * n.element[0], 2 * n.element[1]};
     if (graph_.halves == 1 || (n.element[0] >= 0 && n.element[1] == n.element[0] + 1)) {
       instruction.op = Op::store;

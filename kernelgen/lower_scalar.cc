@@ -52,7 +52,11 @@ class ScalarLowering {
     for (const int node : live_nodes(graph_)) make(node);
     for (std::size_t k = 0; k < graph_.outputs().size(); ++k) {
       const Value v = graph_.outputs()[k];
-      int result = emit(Op::scale, operand(v.node, false));
+      Instruction scale;
+      scale.op = Op::scale;
+      scale.a = operand(v.node, false);
+      scale.constant[0] = 1.0;
+      int result = emit(scale);
       if (v.turn == 2) result = emit(Op::negate, result);
       Instruction store;
       store.op = Op::store;

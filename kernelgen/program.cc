@@ -78,7 +78,7 @@ void interpret_as(const Program& program, const std::vector<Float>& source, Floa
         each([&](std::size_t l) { return double{static_cast<Float>(a.lane[l])}; });
         break;
       case Op::scale:
-        each([&](std::size_t l) { return rounded(a.lane[l] * double{scale}); });
+        each([&](std::size_t l) { return rounded(a.lane[l] * (in.constant[l] * double{scale})); });
         break;
       case Op::store:
         for (std::size_t l = 0; l < lanes; ++l) {

@@ -8,12 +8,6 @@
 #include <system_error>
 
 namespace haldgen::test {
-namespace {
-
-constexpr int fault_signals[] = {SIGSEGV, SIGBUS};
-
-}  // namespace
-
 GuardedPages::GuardedPages(std::size_t size) {
   const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
   const std::size_t inner = (size + page - 1) / page * page;
@@ -45,29 +39,38 @@ std::vector<Placement> placements(std::size_t float_size) {
   return all;
 }
 
-sigjmp_buf FaultTrap::jump_;
-volatile std::sig_atomic_t FaultTrap::armed_ = 0;
+namespace fault_trap {
+namespace {
 
-FaultTrap::FaultTrap() {
+constexpr int signals[] = {SIGSEGV, SIGBUS};
+struct sigaction previous[2];
+
+void handle(int) {
+  if (armed == 0) {
+    // A fault of the test itself: whoever handled it before does so when the instruction runs
+    // again.
+    for (int i = 0; i < 2; ++i) sigaction(signals[i], &previous[i], nullptr);
+    return;
+  }
+  armed = 0;
+  siglongjmp(jump, 1);
+}
+
+bool install() {
   struct sigaction action = {};
   action.sa_handler = handle;
   // The jump out of the handler must not leave the signal blocked.
   action.sa_flags = SA_NODEFER;
-  for (int i = 0; i < 2; ++i) sigaction(fault_signals[i], &action, &previous_[i]);
+  for (int i = 0; i < 2; ++i) sigaction(signals[i], &action, &previous[i]);
+  return true;
 }
 
-FaultTrap::~FaultTrap() {
-  for (int i = 0; i < 2; ++i) sigaction(fault_signals[i], &previous_[i], nullptr);
-}
+}  // namespace
 
-void FaultTrap::handle(int signal) {
-  if (armed_ == 0) {
-    // A fault of the test itself: let it end the program when the instruction runs again.
-    std::signal(signal, SIG_DFL);
-    return;
-  }
-  armed_ = 0;
-  siglongjmp(jump_, 1);
-}
+sigjmp_buf jump;
+volatile std::sig_atomic_t armed = 0;
 
+void install_once() { [[maybe_unused]] static const bool installed = install(); }
+
+}  // namespace fault_trap
 }  // namespace haldgen::test

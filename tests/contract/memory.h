@@ -47,31 +47,23 @@ struct Placement {
 /// float of this size.
 std::vector<Placement> placements(std::size_t float_size);
 
-/// While it lives, faults() turns memory faults of a call into a result. One at a time, one thread.
-class FaultTrap {
- public:
-  FaultTrap();
-  ~FaultTrap();
-  FaultTrap(const FaultTrap&) = delete;
-  FaultTrap& operator=(const FaultTrap&) = delete;
+/// What faults() and its signal handler share.
+namespace fault_trap {
+extern sigjmp_buf jump;
+extern volatile std::sig_atomic_t armed;
+void install_once();
+}  // namespace fault_trap
 
-  /// Runs a call that owns no resources; whether it touched memory that it may not touch, or
-  /// touched memory in a way that needs more alignment than there is.
-  template <class Call>
-  bool faults(Call&& call) const {
-    if (sigsetjmp(jump_, 0) != 0) return true;
-    armed_ = 1;
-    call();
-    armed_ = 0;
-    return false;
-  }
-
- private:
-  static void handle(int signal);
-
-  static sigjmp_buf jump_;
-  static volatile std::sig_atomic_t armed_;
-  struct sigaction previous_[2];
-};
+/// Runs a call that owns no resources; whether it touched memory that it may not touch, or touched
+/// memory in a way that needs more alignment than there is. For one thread at a time, not nested.
+template <class Call>
+bool faults(Call&& call) {
+  fault_trap::install_once();
+  if (sigsetjmp(fault_trap::jump, 0) != 0) return true;
+  fault_trap::armed = 1;
+  call();
+  fault_trap::armed = 0;
+  return false;
+}
 
 }  // namespace haldgen::test

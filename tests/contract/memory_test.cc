@@ -42,7 +42,6 @@ template <class Float>
 void check_separate_arrays(const Transform<Float>& transform) {
   const std::vector<Float> input = random_floats<Float>(transform.src_floats, 1);
   const std::vector<Float> expected = result(transform, input, haldScaleBySqrtN);
-  const FaultTrap trap;
   const GuardedPages src(transform.src_floats * sizeof(Float) + 64);
   const GuardedPages dst(transform.dst_floats * sizeof(Float) + 64);
   for (const Placement& from : placements(sizeof(Float))) {
@@ -53,7 +52,7 @@ void check_separate_arrays(const Transform<Float>& transform) {
       const std::size_t write_at = put<Float>(dst, to, expected.size(), {});
       const std::string where = transform.name + ", src " + from.text() + ", dst " + to.text();
       volatile std::int32_t status = 1;
-      ASSERT_FALSE(trap.faults([&] {
+      ASSERT_FALSE(faults([&] {
         status = transform.call(reinterpret_cast<const Float*>(src.bytes().data() + read_at),
                                 reinterpret_cast<Float*>(dst.bytes().data() + write_at),
                                 haldScaleBySqrtN);
@@ -71,14 +70,13 @@ void check_in_place(const Transform<Float>& transform) {
   std::vector<Float> expected = result(transform, input, haldScaleBySqrtN);
   // Behind a result that is shorter than the source, the source stays.
   for (std::size_t i = expected.size(); i < input.size(); ++i) expected.push_back(input[i]);
-  const FaultTrap trap;
   const GuardedPages pages(expected.size() * sizeof(Float) + 64);
   for (const Placement& place : placements(sizeof(Float))) {
     const std::size_t offset = put(pages, place, expected.size(), input);
     auto* array = reinterpret_cast<Float*>(pages.bytes().data() + offset);
     const std::string where = transform.name + " in place, " + place.text();
     volatile std::int32_t status = 1;
-    ASSERT_FALSE(trap.faults([&] { status = transform.call(array, array, haldScaleBySqrtN); }))
+    ASSERT_FALSE(faults([&] { status = transform.call(array, array, haldScaleBySqrtN); }))
         << where << ": faulted";
     ASSERT_EQ(status, haldStatusOk) << where;
     ASSERT_TRUE(holds(pages.bytes(), offset, expected)) << where << ": other bits";

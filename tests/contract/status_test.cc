@@ -48,83 +48,76 @@ class ClosedArrays {
   GuardedPages dst_;
 };
 
-class Status : public testing::Test {
- protected:
-  // The status of a call that touches no array; a touch is a failure and gives 1.
-  template <class Call>
-  std::int32_t untouched(Call&& call) {
-    volatile std::int32_t status = 1;
-    EXPECT_FALSE(trap_.faults([&] { status = call(); })) << "an array was touched";
-    return status;
-  }
-
-  template <class Float>
-  void check_refusals(const Transform<Float>& transform) {
-    SCOPED_TRACE(transform.name);
-    static const std::vector<std::int32_t> bad = bad_flags();
-    std::vector<std::int32_t> all(flags.begin(), flags.end());
-    all.insert(all.end(), bad.begin(), bad.end());
-    const ClosedArrays arrays((std::max(transform.src_floats, transform.dst_floats) + 1) *
-                              sizeof(Float));
-    for (const std::size_t shift : {0, 1}) {
-      const Float* src = arrays.src<Float>(shift);
-      Float* dst = arrays.dst<Float>(shift);
-      for (const std::int32_t flag : all) {
-        for (const auto& [from, to] :
-             {std::pair<const Float*, Float*>{nullptr, nullptr}, {nullptr, dst}, {src, nullptr}}) {
-          ASSERT_EQ(untouched([&, f = from, t = to] { return transform.call(f, t, flag); }),
-                    haldStatusNullPointer)
-              << "src " << from << ", dst " << to << ", flag " << flag;
-        }
-      }
-      for (const std::size_t dst_shift : {0, 1}) {
-        Float* to = arrays.dst<Float>(dst_shift);
-        for (const std::int32_t flag : bad) {
-          ASSERT_EQ(untouched([&] { return transform.call(src, to, flag); }), haldStatusFlagError)
-              << "src " << src << ", dst " << to << ", flag " << flag;
-        }
-      }
-    }
-  }
-
-  template <class Float>
-  void check_sizes(const GeneralEntry<Float>& entry) {
-    SCOPED_TRACE(entry.name);
-    std::set<std::int32_t> bad = {INT_MIN, INT_MAX};
-    for (std::int32_t size = -300; size <= 600; ++size) bad.insert(size);
-    for (std::int32_t bit = 10; bit < 31; ++bit)
-      bad.insert({1 << bit, (1 << bit) + 2, -(1 << bit)});
-    for (int size = 0; size <= frame::max_size; ++size) {
-      if (entry.family->live.contains(size)) bad.erase(size);
-    }
-    const ClosedArrays arrays(sizeof(Float));
-    for (const std::int32_t size : bad) {
-      for (const std::int32_t flag : {0, 3, -1, static_cast<int>(haldScaleNone)}) {
-        for (const Float* src : {static_cast<const Float*>(nullptr), arrays.src<Float>(0)}) {
-          for (Float* dst : {static_cast<Float*>(nullptr), arrays.dst<Float>(0)}) {
-            ASSERT_EQ(untouched([&] { return entry.call(src, dst, size, flag); }),
-                      haldStatusSizeError)
-                << "src " << src << ", dst " << dst << ", size " << size << ", flag " << flag;
-          }
-        }
-      }
-    }
-  }
-
- private:
-  FaultTrap trap_;
-};
-
-TEST_F(Status, NullPointersOutrankBadFlagsAndRefusedCallsTouchNothing) {
-  for_each_fixed([this](const auto& transform) { check_refusals(transform); });
+// The status of a call that touches no array; a touch is a failure and gives 1.
+template <class Call>
+std::int32_t untouched(Call&& call) {
+  volatile std::int32_t status = 1;
+  EXPECT_FALSE(faults([&] { status = call(); })) << "an array was touched";
+  return status;
 }
 
-TEST_F(Status, GeneralEntriesRefuseAsTheFixedSizesDo) {
+template <class Float>
+void check_refusals(const Transform<Float>& transform) {
+  SCOPED_TRACE(transform.name);
+  static const std::vector<std::int32_t> bad = bad_flags();
+  std::vector<std::int32_t> all(flags.begin(), flags.end());
+  all.insert(all.end(), bad.begin(), bad.end());
+  const ClosedArrays arrays((std::max(transform.src_floats, transform.dst_floats) + 1) *
+                            sizeof(Float));
+  for (const std::size_t shift : {0U, 1U}) {
+    const Float* src = arrays.src<Float>(shift);
+    Float* dst = arrays.dst<Float>(shift);
+    for (const std::int32_t flag : all) {
+      for (const auto& [from, to] :
+           {std::pair<const Float*, Float*>{nullptr, nullptr}, {nullptr, dst}, {src, nullptr}}) {
+        ASSERT_EQ(untouched([&, f = from, t = to] { return transform.call(f, t, flag); }),
+                  haldStatusNullPointer)
+            << "src " << from << ", dst " << to << ", flag " << flag;
+      }
+    }
+    for (const std::size_t dst_shift : {0U, 1U}) {
+      Float* to = arrays.dst<Float>(dst_shift);
+      for (const std::int32_t flag : bad) {
+        ASSERT_EQ(untouched([&] { return transform.call(src, to, flag); }), haldStatusFlagError)
+            << "src " << src << ", dst " << to << ", flag " << flag;
+      }
+    }
+  }
+}
+
+template <class Float>
+void check_sizes(const GeneralEntry<Float>& entry) {
+  SCOPED_TRACE(entry.name);
+  std::set<std::int32_t> bad = {INT_MIN, INT_MAX};
+  for (std::int32_t size = -300; size <= 600; ++size) bad.insert(size);
+  for (int bit = 10; bit < 31; ++bit) bad.insert({1 << bit, (1 << bit) + 2, -(1 << bit)});
+  for (int size = 0; size <= frame::max_size; ++size) {
+    if (entry.family->live.contains(size)) bad.erase(size);
+  }
+  const ClosedArrays arrays(sizeof(Float));
+  for (const std::int32_t size : bad) {
+    for (const std::int32_t flag : {0, 3, -1, static_cast<int>(haldScaleNone)}) {
+      for (const Float* src : {static_cast<const Float*>(nullptr), arrays.src<Float>(0)}) {
+        for (Float* dst : {static_cast<Float*>(nullptr), arrays.dst<Float>(0)}) {
+          ASSERT_EQ(untouched([&] { return entry.call(src, dst, size, flag); }),
+                    haldStatusSizeError)
+              << "src " << src << ", dst " << dst << ", size " << size << ", flag " << flag;
+        }
+      }
+    }
+  }
+}
+
+TEST(Status, NullPointersOutrankBadFlagsAndRefusedCallsTouchNothing) {
+  for_each_fixed([](const auto& transform) { check_refusals(transform); });
+}
+
+TEST(Status, GeneralEntriesRefuseAsTheFixedSizesDo) {
   for (const auto& transform : live<float>().through_general) check_refusals(transform);
   for (const auto& transform : live<double>().through_general) check_refusals(transform);
 }
 
-TEST_F(Status, BadSizesOutrankEverything) {
+TEST(Status, BadSizesOutrankEverything) {
   for (const auto& entry : live<float>().general) check_sizes(entry);
   for (const auto& entry : live<double>().general) check_sizes(entry);
 }

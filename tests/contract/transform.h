@@ -2,6 +2,7 @@
 // from family to family is described here and in reference.h, and nowhere else in the tests.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <haldgen.h>
 
 #include <array>
@@ -15,6 +16,7 @@
 #include <vector>
 
 #include "frame/families.h"
+#include "tests/contract/memory.h"
 
 namespace haldgen::test {
 
@@ -56,14 +58,22 @@ struct Live {
 template <class Float>
 const Live<Float>& live();
 
-/// Visits every transform that has a name of its own; there must be some.
+/// Visits every transform that has a name of its own; there must be some. An exception is a failure
+/// and ends the visit of that transform only.
 template <class Visitor>
 void for_each_fixed(Visitor&& visit) {
-  if (live<float>().fixed.empty() || live<double>().fixed.empty()) {
-    throw std::logic_error("no live transforms");
-  }
-  for (const auto& transform : live<float>().fixed) visit(transform);
-  for (const auto& transform : live<double>().fixed) visit(transform);
+  const auto visit_all = [&](const auto& transforms) {
+    EXPECT_FALSE(transforms.empty());
+    for (const auto& transform : transforms) {
+      try {
+        visit(transform);
+      } catch (const std::exception& error) {
+        ADD_FAILURE() << error.what();
+      }
+    }
+  };
+  visit_all(live<float>().fixed);
+  visit_all(live<double>().fixed);
 }
 
 /// The fixed-size transform of the same size and element type in the family of another word;
@@ -92,14 +102,16 @@ std::vector<Float> random_floats(std::size_t count, unsigned seed) {
   return floats;
 }
 
-/// The result of one call on arrays of its own; a status other than haldStatusOk throws.
+/// The result of one call on arrays of its own; a fault or another status than haldStatusOk throws.
 template <class Float>
 std::vector<Float> result(const Transform<Float>& transform, const std::vector<Float>& src,
                           std::int32_t flag = haldScaleNone) {
   std::vector<Float> dst(transform.dst_floats);
-  if (transform.call(src.data(), dst.data(), flag) != haldStatusOk) {
-    throw std::runtime_error(transform.name + " refuses a valid call");
+  volatile std::int32_t status = 1;
+  if (faults([&] { status = transform.call(src.data(), dst.data(), flag); })) {
+    throw std::runtime_error(transform.name + " faults");
   }
+  if (status != haldStatusOk) throw std::runtime_error(transform.name + " refuses a valid call");
   return dst;
 }
 

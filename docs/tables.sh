@@ -1,0 +1,86 @@
+#!/bin/sh
+# tables.sh check|update NAME FILE TOOL
+# Tables in the documents are the output of programs. `update` writes the table NAME between its
+# markers in FILE, `check` fails and shows the difference if the table there is not what TOOL says.
+#   status    functions built so far, from haldgen-framegen
+#   complex   algorithm and counts of each complex kernel, from haldgen-generate
+#   accuracy  rounding errors, from haldgen_accuracy
+set -eu
+action=$1 name=$2 file=$3 tool=$4
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+table=$scratch/table
+
+status_table() {
+  "$tool" list >"$scratch/list"
+  awk '
+    function family(name) {
+      if (name ~ /_CToC/) return "complex DFT, forward and inverse, lengths 2 to 64"
+      if (name ~ /_RTo/) return "real DFT to CCS, Pack and Perm, lengths 2 to 64"
+      if (name ~ /ToR/) return "inverse real DFT from the same formats"
+      if (name ~ /Hartley/) return "Hartley transform, lengths 2 to 64"
+      if (name ~ /WHT/) return "Walsh-Hadamard transform, orders 1 to 13"
+      if (name ~ /DCT4/) return "DCT-IV of power-of-two lengths"
+      return "version record"
+    }
+    {
+      row = family($1)
+      if (!(row in all)) rows[++count] = row
+      ++all[row]; ++everything
+      if ($2 == "live") { ++live[row]; ++built }
+    }
+    END {
+      print "| family | functions live | of |\n|---|--:|--:|"
+      for (i = 1; i <= count; ++i) print "| " rows[i] " | " live[rows[i]] + 0 " | " all[rows[i]] " |"
+      print "| **all** | **" built "** | **" everything "** |"
+    }' "$scratch/list"
+}
+
+complex_tables() {
+  "$tool" counts >"$scratch/counts"
+  for type in 32fc 64fc; do
+    printf '### %s\n\n| N | additions | multiplications | depth | algorithm |\n' "$type"
+    printf -- '|--:|--:|--:|--:|---|\n'
+    awk -v type="$type" '$1 == "complex" && $3 == type { print $2, $4, $5, $6 }' \
+      "$scratch/counts" >"$scratch/rows"
+    while read -r length additions multiplications depth; do
+      recipe=$("$tool" recipe complex "$length" "$type")
+      recipe=$(printf '%s' "$recipe" | sed 's/|/\\|/g')
+      printf '| %s | %s | %s | %s | `%s` |\n' \
+        "$length" "$additions" "$multiplications" "$depth" "$recipe"
+    done <"$scratch/rows"
+    [ "$type" = 64fc ] || echo
+  done
+}
+
+case $name in
+  status) status_table >"$table" ;;
+  complex) complex_tables >"$table" ;;
+  accuracy) "$tool" >"$table" ;;
+  *) echo "tables.sh: no table $name" >&2; exit 2 ;;
+esac
+
+awk -v name="$name" -v table="$table" '
+  $0 == "<!-- end of table " name " -->" { inside = 0; ++ends }
+  !inside { print }
+  $0 == "<!-- table " name " -->" {
+    inside = 1; ++begins
+    print ""
+    while ((getline line <table) > 0) print line
+    print ""
+  }
+  END { if (begins != 1 || ends != 1) exit 1 }' "$file" >"$scratch/file" || {
+  echo "tables.sh: $file has no place for the table $name" >&2
+  exit 2
+}
+
+case $action in
+  update) cat "$scratch/file" >"$file" ;;
+  check)
+    diff -u "$file" "$scratch/file" || {
+      echo "$file is out of date; build the target update-docs" >&2
+      exit 1
+    } ;;
+  *) echo "tables.sh: check or update" >&2; exit 2 ;;
+esac
