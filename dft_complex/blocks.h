@@ -146,7 +146,8 @@ Elements<E> dft8(const Elements<E>& x, Direction direction) {
   for (std::size_t n = 0; n < 4; ++n) sums.push_back(x[n] + x[n + 4]);
   for (std::size_t n = 0; n < 4; ++n) {
     const E d = x[n] - x[n + 4];
-    differences.push_back(twiddle(d, 8, -direction.exponent * static_cast<int>(n), EighthRoot::sum_first));
+    differences.push_back(
+        twiddle(d, 8, -direction.exponent * static_cast<int>(n), EighthRoot::sum_first));
   }
   const Elements<E> even = dft4(sums, direction);
   const Elements<E> odd = dft4(differences, direction);

@@ -24,9 +24,15 @@ struct Scales {
     return static_cast<std::uint32_t>(flag) <= haldScaleNone && ((kFlags >> flag) & 1U) != 0;
   }
   static Float of(int32_t flag) {
-    alignas(64) static constexpr Float kByFlag[9] = {
-        0, Kernel::kInverse ? 1 : Kernel::kByLength, Kernel::kInverse ? Kernel::kByLength : 1, 0,
-        Kernel::kByRoot, 0, 0, 0, 1};
+    alignas(64) static constexpr Float kByFlag[9] = {0,
+                                                     Kernel::kInverse ? 1 : Kernel::kByLength,
+                                                     Kernel::kInverse ? Kernel::kByLength : 1,
+                                                     0,
+                                                     Kernel::kByRoot,
+                                                     0,
+                                                     0,
+                                                     0,
+                                                     1};
     return kByFlag[flag];
   }
 };
@@ -35,8 +41,10 @@ template <class Kernel, class Access>
 inline int32_t checked(const typename Kernel::Element* src, typename Kernel::Element* dst,
                        int32_t flag) {
   using Float = typename Kernel::Float;
-  if (src == nullptr || dst == nullptr) [[unlikely]] return haldStatusNullPointer;
-  if (!Scales<Kernel>::valid(flag)) [[unlikely]] return haldStatusFlagError;
+  if (src == nullptr || dst == nullptr) [[unlikely]]
+    return haldStatusNullPointer;
+  if (!Scales<Kernel>::valid(flag)) [[unlikely]]
+    return haldStatusFlagError;
   Kernel::template transform<Access>(reinterpret_cast<const Float*>(src),
                                      reinterpret_cast<Float*>(dst), Scales<Kernel>::of(flag));
   return haldStatusOk;
@@ -54,7 +62,8 @@ inline int32_t run(const typename Kernel::Element* src, typename Kernel::Element
                    int32_t flag) {
   if constexpr (Kernel::kPathsDiffer) {
     const auto bits = reinterpret_cast<std::uintptr_t>(src) | reinterpret_cast<std::uintptr_t>(dst);
-    if ((bits & 15U) != 0) [[unlikely]] return unaligned<Kernel>(src, dst, flag);
+    if ((bits & 15U) != 0) [[unlikely]]
+      return unaligned<Kernel>(src, dst, flag);
   }
   return checked<Kernel, lanes::Aligned>(src, dst, flag);
 }

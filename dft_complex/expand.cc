@@ -259,8 +259,8 @@ class Expander {
     if (fill) {
       int s_beside = s, k_beside = k;
       (r.late_twiddles ? k_beside : s_beside) ^= 1;
-      const bool there = s_beside < static_cast<int>(places.size()) &&
-                         k_beside < static_cast<int>(bins.size());
+      const bool there =
+          s_beside < static_cast<int>(places.size()) && k_beside < static_cast<int>(bins.size());
       ride = there && quarter_turns(s, k) != quarter_turns(s_beside, k_beside);
     }
     const int place = places[at(s)];

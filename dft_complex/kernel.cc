@@ -32,8 +32,7 @@ bool has_wide_products(int length, ElementType type) {
 /// loads and stores, except at these lengths of 32-bit elements: there it is the forward kernel
 /// with its outputs 1..n-1 reversed.
 bool is_reversed(int length, ElementType type) {
-  return type == ElementType::c32 &&
-         (length == 19 || length == 23 || length == 37 || length == 61);
+  return type == ElementType::c32 && (length == 19 || length == 23 || length == 37 || length == 61);
 }
 
 void reverse_outputs(Program& program, int length) {
@@ -45,8 +44,8 @@ void reverse_outputs(Program& program, int length) {
 }
 
 Program scalar_program(int length, ElementType type, bool mirrored) {
-  Graph parts = kernelgen::gather_statements(
-      kernelgen::split_parts(expand(recipe_of(length, type), false)));
+  Graph parts =
+      kernelgen::gather_statements(kernelgen::split_parts(expand(recipe_of(length, type), false)));
   if (has_wide_products(length, type)) kernelgen::widen_products(parts);
   Program program = kernelgen::lower_scalar(parts, float_type(type));
   if (mirrored) {
@@ -57,11 +56,11 @@ Program scalar_program(int length, ElementType type, bool mirrored) {
   return program;
 }
 
-Program vector_program(int length, ElementType type, bool mirrored) {
+Program vector_program(int length, ElementType type, bool mirrored, int seed) {
   const bool pairs = type == ElementType::c32;
   const auto packed = kernelgen::pack(expand(recipe_of(length, type), pairs), pairs ? 2 : 1);
-  auto forms = kernelgen::choose_forms(packed, kFormSweeps);
-  if (mirrored) forms = kernelgen::choose_mirrored_forms(packed, forms, kFormSweeps);
+  auto forms = kernelgen::choose_forms(packed, kFormSweeps, seed);
+  if (mirrored) forms = kernelgen::choose_mirrored_forms(packed, forms, kFormSweeps, seed);
   return kernelgen::lower_packed(packed, forms, float_type(type), mirrored);
 }
 
@@ -118,7 +117,7 @@ Program kernel_program(int length, ElementType type, bool inverse, const Schedul
   const bool reversed = inverse && is_reversed(length, type);
   const bool mirrored = inverse && !reversed;
   Program program = is_scalar(length, type) ? scalar_program(length, type, mirrored)
-                                            : vector_program(length, type, mirrored);
+                                            : vector_program(length, type, mirrored, schedule.seed);
   if (reversed) reverse_outputs(program, length);
   return kernelgen::scheduled(program, schedule.order, schedule.cap);
 }

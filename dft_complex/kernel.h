@@ -12,10 +12,12 @@
 
 namespace haldgen::dft_complex {
 
-/// How the instructions of a kernel are ordered.
+/// What is left open by a kernel's graph: the order of its instructions, and which of many choices
+/// of forms of like cost.
 struct Schedule {
-  kernelgen::Order order = kernelgen::Order::pressure;
-  int cap = 14;
+  kernelgen::Order order = kernelgen::Order::bisection;
+  int cap = 0;   ///< of live values, in list schedules
+  int seed = 0;  ///< of the choice of forms
 };
 
 /// The frozen choice for a kernel.

@@ -11,10 +11,10 @@
 namespace haldgen::dft_complex {
 
 enum class Method {
-  butterfly,    ///< 2, 3, 4, 5: written out
-  five_folded,  ///< 5 with sqrt(5)/4 and 1/4 (S. Winograd, Math. Comp. 32 (1978))
-  direct,       ///< odd p: the sums and differences x[k] +- x[p-k], then the full products
-  split_eight,  ///< 8 as 2 then 4
+  butterfly,       ///< 2, 3, 4, 5: written out
+  five_folded,     ///< 5 with sqrt(5)/4 and 1/4 (S. Winograd, Math. Comp. 32 (1978))
+  direct,          ///< odd p: the sums and differences x[k] +- x[p-k], then the full products
+  split_eight,     ///< 8 as 2 then 4
   shared_sixteen,  ///< 16 as 2 then 8, odd outputs made of shared products
   coprime,         ///< I. J. Good, J. Royal Stat. Soc. B 20 (1958): no twiddles
   cooley_tukey,    ///< J. W. Cooley, J. W. Tukey, Math. Comp. 19 (1965)
@@ -29,8 +29,9 @@ enum class Method {
 
 /// Which classes a Cooley-Tukey step reads and which bins it writes, where they are not 0..n-1.
 struct Shifts {
-  std::vector<int> places;  ///< a representative of each class of the input, modulo the second factor
-  std::vector<int> bins;    ///< a representative of each bin of the first factor
+  std::vector<int>
+      places;             ///< a representative of each class of the input, modulo the second factor
+  std::vector<int> bins;  ///< a representative of each bin of the first factor
   bool keep_first_apart = false;  ///< no folding into the twiddles of class 0
 
   friend bool operator==(const Shifts&, const Shifts&) = default;
@@ -49,12 +50,12 @@ struct Recipe {
   /// The twiddles stand with the second stage's columns instead of the first's: the same
   /// arithmetic, other neighbours in vectors of two elements.
   bool late_twiddles = false;
-  bool fold_there = false;   ///< constants meet and become one, on the way there
-  bool fold_back = false;    ///< and on the way back
-  int zero_lanes = 0;        ///< executed additions of lanes that hold zero
-  int mate = 0;              ///< the bin that shares a vector with bin 0
-  int carried = 0;           ///< Bluestein: places carried as values on the way there
-  int computed = 0;          ///< Bluestein: outputs computed on the way back
+  bool fold_there = false;  ///< constants meet and become one, on the way there
+  bool fold_back = false;   ///< and on the way back
+  int zero_lanes = 0;       ///< executed additions of lanes that hold zero
+  int mate = 0;             ///< the bin that shares a vector with bin 0
+  int carried = 0;          ///< Bluestein: places carried as values on the way there
+  int computed = 0;         ///< Bluestein: outputs computed on the way back
 
   friend bool operator==(const Recipe&, const Recipe&) = default;
 };

@@ -57,13 +57,11 @@ std::map<int, Recipe> cplx32_recipes() {
   const Recipe r17 = joined_rader(17, b16);
   const Recipe ct9_unfolded =
       with_first_apart(with_bins(with_places(ct9, {3, 1, -1}), symmetric(3)));
-  const Recipe r19 =
-      folded_there(joined_rader(19, coprime({b2}, {ct9_symmetric, ct9_unfolded})));
+  const Recipe r19 = folded_there(joined_rader(19, coprime({b2}, {ct9_symmetric, ct9_unfolded})));
   const Recipe r11 = joined_rader(11, pfa(b5w, b2), n10);
   const Recipe r23 = joined_rader(23, n22, pfa(b2, r11));
   const Recipe r29 = joined_rader(29, n28);
-  const Recipe ct15_symmetric =
-      with_bins(with_places(ct(b5, b3), {3, 1, -1}), symmetric(5));
+  const Recipe ct15_symmetric = with_bins(with_places(ct(b5, b3), {3, 1, -1}), symmetric(5));
   const Recipe r31 =
       with_zero_lanes(joined_rader(31, n30, coprime({b2}, {n15, ct15_symmetric})), 3);
   const Recipe n24 = pfa(b8, b3);
@@ -128,10 +126,9 @@ std::map<int, Recipe> cplx32_recipes() {
       {56, ct(pfa(b2, b7), b4)},
       {57, pfa(r19, b3)},
       {58, pfa(b2, r29)},
-      {59, with_zero_lanes(
-               bluestein(59, ct(b16, b8), 64,
-                         with_split_eighths(ct(b8, b16), {{8, 2}, {8, 6}}), 59),
-               2)},
+      {59, with_zero_lanes(bluestein(59, ct(b16, b8), 64,
+                                     with_split_eighths(ct(b8, b16), {{8, 2}, {8, 6}}), 59),
+                           2)},
       {60, n60},
       {61, with_zero_lanes(rader(61, n60), 6)},
       {62, pfa(b2, r31)},
@@ -154,28 +151,23 @@ std::map<int, Recipe> cplx64_recipes() {
   const Recipe r11 = joined_rader(11, pfa(b2, b5));
   const Recipe r13 = folded_back(joined_rader(13, n12, four_odd(b3)));
   const Recipe r13_twist = joined_rader(13, n12, halves(pfa(b3, b2), odd_twist(b3)));
-  const Recipe r17 =
-      joined_rader(17, b16, with_bins(with_split_eighths(ct(b8, b2)), symmetric(8)));
-  const Recipe r19 =
-      folded_there(joined_rader(19, pfa(b2, ct9_symmetric), pfa(ct9_symmetric, b2)));
+  const Recipe r17 = joined_rader(17, b16, with_bins(with_split_eighths(ct(b8, b2)), symmetric(8)));
+  const Recipe r19 = folded_there(joined_rader(19, pfa(b2, ct9_symmetric), pfa(ct9_symmetric, b2)));
   const Recipe r23 = joined_rader(23, pfa(b11, b2), pfa(r11, b2));
   const Recipe r29 = joined_rader(29, n28, four_odd(b7));
   const Recipe r29_twist = joined_rader(29, n28, halves(pfa(b2, b7), odd_twist(b7)));
   const Recipe r31 = folded_there(joined_rader(31, n30));
   const Recipe n36_symmetric = pfa(b4, ct9_symmetric);
-  const Recipe r37 = folded_there(joined_rader(
-      37, n36_symmetric, halves(pfa(b2, ct9_symmetric), odd_twist(ct9_symmetric))));
+  const Recipe r37 = folded_there(
+      joined_rader(37, n36_symmetric, halves(pfa(b2, ct9_symmetric), odd_twist(ct9_symmetric))));
   const Recipe n40_mixed = halves(four_odd(b5w), odd_of(pfa(b8, b5)));
   const Recipe n21 = pfa(b7, b3);
-  const Recipe r43 =
-      folded_there(joined_rader(43, coprime({b2}, {n21, pfa(b3, b7)}),
-                                coprime({b2}, {n21, symmetric_ct(b7, b3)})));
+  const Recipe r43 = folded_there(joined_rader(43, coprime({b2}, {n21, pfa(b3, b7)}),
+                                               coprime({b2}, {n21, symmetric_ct(b7, b3)})));
   const Recipe n46 = pfa(r23, b2);
-  const Recipe r53 =
-      joined_rader(53, pfa(r13, b4), halves(pfa(b2, r13), odd_twist(r13_twist)));
+  const Recipe r53 = joined_rader(53, pfa(r13, b4), halves(pfa(b2, r13), odd_twist(r13_twist)));
   const Recipe r59 = joined_rader(59, pfa(b2, r29), pfa(b2, r29_twist));
-  const Recipe r61 =
-      folded_back(joined_rader(61, pfa(b3, b4, b5), four_odd(n15)));
+  const Recipe r61 = folded_back(joined_rader(61, pfa(b3, b4, b5), four_odd(n15)));
 
   return {
       {2, b2},

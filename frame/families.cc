@@ -68,9 +68,8 @@ using S = Signature;
 constexpr Family table[] = {
     {"DFTFwd_CToC", S::transform, complex, dft_lengths, complex_built, Scaling::forward,
      "Forward complex DFT, fixed length", forward_complex_definition, transform_result},
-    {"DFTFwd_CToC", S::sized_transform, complex, dft_lengths, complex_built,
-     Scaling::forward, "Forward complex DFT, general", forward_complex_general_definition,
-     general_length_result},
+    {"DFTFwd_CToC", S::sized_transform, complex, dft_lengths, complex_built, Scaling::forward,
+     "Forward complex DFT, general", forward_complex_general_definition, general_length_result},
     {"DFTInv_CToC", S::transform, complex, dft_lengths, complex_built, Scaling::inverse,
      "Inverse complex DFT, fixed length", inverse_complex_definition, transform_result},
     {"DFTInv_CToC", S::sized_transform, complex, dft_lengths, complex_built, Scaling::inverse,

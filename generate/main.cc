@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iostream>
 #include <optional>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -22,12 +23,13 @@ namespace kernelgen = haldgen::kernelgen;
 constexpr std::string_view kUsage =
     "usage: haldgen-generate counts\n"
     "       haldgen-generate recipe|counts|graph|code complex LENGTH 32fc|64fc\n"
-    "       haldgen-generate source complex LENGTH 32fc|64fc FILE [ORDER:CAP]\n"
+    "       haldgen-generate source complex LENGTH 32fc|64fc FILE [ORDER:CAP:SEED]\n"
     "  counts   operation counts of all kernels, or of one, as a table\n"
     "  recipe   the factorisation of a kernel\n"
     "  graph    its statements for Graphviz\n"
     "  code     its C++ source, as source writes it to a file\n"
-    "  ORDER    program, bisection, pressure or critical; CAP a number of live values\n";
+    "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
+    "           SEED a number that varies the choice of forms\n";
 
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
@@ -39,10 +41,15 @@ ElementType element_type(std::string_view text) {
   throw UsageError("unknown element type");
 }
 
+/// ORDER, ORDER:CAP or ORDER:CAP:SEED.
 Schedule schedule(const std::string& text) {
-  const auto colon = text.find(':');
-  if (colon == std::string::npos) throw UsageError("a schedule is ORDER:CAP");
-  return {kernelgen::order_named(text.substr(0, colon)), std::stoi(text.substr(colon + 1))};
+  std::istringstream parts(text);
+  std::string order, cap, seed;
+  std::getline(parts, order, ':');
+  std::getline(parts, cap, ':');
+  std::getline(parts, seed);
+  return {kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap),
+          seed.empty() ? 0 : std::stoi(seed)};
 }
 
 void print_counts_head() { std::cout << "family\tlength\ttype\tadd\tmul\tdepth\n"; }

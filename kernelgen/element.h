@@ -62,7 +62,9 @@ inline Parts turned(Parts a, int turns) {
 inline Parts operator*(Wide c, Parts a) {
   return {a.graph, a.graph->multiply(c, a.re), a.graph->multiply(c, a.im)};
 }
-inline Parts add_zero(Parts a) { return {a.graph, a.graph->add_zero(a.re), a.graph->add_zero(a.im)}; }
+inline Parts add_zero(Parts a) {
+  return {a.graph, a.graph->add_zero(a.re), a.graph->add_zero(a.im)};
+}
 inline Parts zero_like(Parts a) { return {a.graph, {}, {}}; }
 inline Parts carried_zero(Parts a) {
   return {a.graph, a.graph->carried_zero(), a.graph->carried_zero()};

@@ -50,8 +50,8 @@ class Printer {
         for (int l = 0; l < program_.lanes; ++l) {
           signs.constant[static_cast<std::size_t>(l)] = (mask >> (l % 2)) & 1 ? -0.0 : 0.0;
         }
-        line("const V s" + std::to_string(mask) + " = lanes::change_sign(s0, " +
-             constants(signs) + ");");
+        line("const V s" + std::to_string(mask) + " = lanes::change_sign(s0, " + constants(signs) +
+             ");");
         break;
       }
     }
@@ -70,7 +70,8 @@ class Printer {
     }
     std::string text = "V{";
     for (int l = 0; l < program_.lanes; ++l) {
-      text += (l > 0 ? ", " : "") + literal(in.constant[static_cast<std::size_t>(l)], program_.type);
+      text +=
+          (l > 0 ? ", " : "") + literal(in.constant[static_cast<std::size_t>(l)], program_.type);
     }
     return text + "}";
   }
@@ -113,9 +114,9 @@ class Printer {
       case Op::narrow:
         return define(index, "static_cast<float>(" + a + ")");
       case Op::scale:
-        return define(index, (scalar() ? std::string("scale")
-                                       : "s" + std::to_string(scale_mask(in))) +
-                                 " * " + a);
+        return define(
+            index,
+            (scalar() ? std::string("scale") : "s" + std::to_string(scale_mask(in))) + " * " + a);
       case Op::store:
         return line(scalar() ? "dst[" + std::to_string(in.address[0]) + "] = " + a + ";"
                              : "Access::store(" + at("dst", in.address[0]) + ", " + a + ");");

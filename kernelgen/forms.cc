@@ -46,8 +46,8 @@ Provision provision(int forms, int orders) {
     if (straight != 0 && crossed != 0) {
       bool matched = false;
       for (int f = 0; f < 4; ++f) {
-        const bool both = ((forms >> f) & 1) != 0 &&
-                          ((forms >> index_of(exchanged(form_of(f)))) & 1) != 0;
+        const bool both =
+            ((forms >> f) & 1) != 0 && ((forms >> index_of(exchanged(form_of(f)))) & 1) != 0;
         matched = matched || both;
       }
       if (!matched) ++cost.sign_changes;
@@ -92,6 +92,9 @@ const Tables& tables() {
 /// xorshift64*, so that the sequence is ours on every standard library.
 class Random {
  public:
+  explicit Random(int seed) {
+    for (int i = 0; i < seed; ++i) next();
+  }
   std::uint64_t next() {
     state_ ^= state_ >> 12;
     state_ ^= state_ << 25;
@@ -118,12 +121,13 @@ class Annealer {
  public:
   /// With `model`, the mirrored kernel of those choices. `scale_masks` are the masks that stores
   /// may use.
-  Annealer(const PackedGraph& graph, const std::vector<Choice>* model,
-           std::vector<int> scale_masks)
+  Annealer(const PackedGraph& graph, const std::vector<Choice>* model, std::vector<int> scale_masks,
+           int seed)
       : nodes_(graph.nodes),
         choices_(graph.nodes.size()),
         wants_(graph.nodes.size()),
-        scale_masks_(std::move(scale_masks)) {
+        scale_masks_(std::move(scale_masks)),
+        random_(seed) {
     allowed_.assign(nodes_.size(), {0, 1, 2, 3, 4, 5, 6, 7});
     for (std::size_t i = 0; i < nodes_.size(); ++i) {
       const PackedKind kind = nodes_[i].kind;
@@ -289,7 +293,8 @@ class Annealer {
       double draw = random_.unit() * sum;
       while (pick + 1 < candidates && draw >= weights[at(pick)]) draw -= weights[at(pick++)];
     } else {
-      const int ties = static_cast<int>(std::count(costs.begin(), costs.begin() + candidates, least));
+      const int ties =
+          static_cast<int>(std::count(costs.begin(), costs.begin() + candidates, least));
       int wanted = random_.below(ties);
       while (costs[at(pick)] != least || wanted-- > 0) ++pick;
     }
@@ -396,12 +401,12 @@ namespace {
 
 /// Negated scales cost an instruction each, which only the whole kernel can weigh: so the choice is
 /// made with none, one and all of them, and the cheapest stays.
-std::vector<Choice> cheapest(const PackedGraph& graph, const std::vector<Choice>* model,
-                             int sweeps) {
+std::vector<Choice> cheapest(const PackedGraph& graph, const std::vector<Choice>* model, int sweeps,
+                             int seed) {
   std::vector<Choice> best;
   int least = 0;
   for (const std::vector<int>& masks : {std::vector{0}, {0, 3}, {0, 1, 2, 3}}) {
-    std::vector<Choice> choices = Annealer(graph, model, masks).run(sweeps);
+    std::vector<Choice> choices = Annealer(graph, model, masks, seed).run(sweeps);
     const FormCost cost = cost_of(graph, choices);
     const int total = cost.exchanges + cost.sign_changes;
     if (best.empty() || total < least) {
@@ -414,13 +419,14 @@ std::vector<Choice> cheapest(const PackedGraph& graph, const std::vector<Choice>
 
 }  // namespace
 
-std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps) {
-  return cheapest(graph, nullptr, sweeps);
+std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps, int seed) {
+  return cheapest(graph, nullptr, sweeps, seed);
 }
 
 std::vector<Choice> choose_mirrored_forms(const PackedGraph& graph,
-                                          const std::vector<Choice>& forward, int sweeps) {
-  return cheapest(graph, &forward, sweeps);
+                                          const std::vector<Choice>& forward, int sweeps,
+                                          int seed) {
+  return cheapest(graph, &forward, sweeps, seed);
 }
 
 }  // namespace haldgen::kernelgen

@@ -1,7 +1,7 @@
-// How each packed value is held. A power of i on an edge is no operation if the vector that feeds it
-// is held with its parts exchanged or negated; a form says which. The choice of forms decides how
-// many exchanges and sign changes remain, and nothing else: every form of a value has the same bits
-// up to the sign of an exact zero.
+// How each packed value is held. A power of i on an edge is no operation if the vector that feeds
+// it is held with its parts exchanged or negated; a form says which. The choice of forms decides
+// how many exchanges and sign changes remain, and nothing else: every form of a value has the same
+// bits up to the sign of an exact zero.
 #pragma once
 
 #include <vector>
@@ -52,13 +52,15 @@ struct FormCost {
 FormCost cost_of(const PackedGraph& graph, const std::vector<Choice>& choices);
 
 /// One choice per node, by annealing with a fixed sequence of random numbers: the same graph gives
-/// the same choices on every machine. `sweeps` bounds the work.
-std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps);
+/// the same choices on every machine. `sweeps` bounds the work; another `seed` may find another
+/// choice of like cost.
+std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps, int seed = 0);
 
 /// The choices of the mirrored kernel, which reads and writes elements with their parts exchanged.
 /// Each sum keeps the signs that `forward` gave its parts, so that the two kernels agree in every
 /// bit, the signs of zeros included; the order of the parts is chosen anew.
 std::vector<Choice> choose_mirrored_forms(const PackedGraph& graph,
-                                          const std::vector<Choice>& forward, int sweeps);
+                                          const std::vector<Choice>& forward, int sweeps,
+                                          int seed = 0);
 
 }  // namespace haldgen::kernelgen

@@ -38,9 +38,8 @@ Value Graph::intern_statement(Statement statement) {
   if (plain_pair && terms[1].node < terms[0].node) std::swap(terms[0], terms[1]);
   const int turn = terms.front().turn;
   for (Term& t : terms) t.turn = (t.turn - turn) & 3;
-  const auto [it, fresh] =
-      index_.try_emplace({std::move(terms), statement.filler, statement.apart},
-                         Value{static_cast<int>(nodes_.size()), turn});
+  const auto [it, fresh] = index_.try_emplace({std::move(terms), statement.filler, statement.apart},
+                                              Value{static_cast<int>(nodes_.size()), turn});
   if (fresh) nodes_.push_back(std::move(statement));
   return {it->second.node, (turn - it->second.turn) & 3};
 }

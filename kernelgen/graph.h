@@ -4,7 +4,8 @@
 // multiplied by a real constant, and turned by a power of i. In a real graph the only turns are 0
 // and 2 (plus and minus). In a complex graph a node stands for a whole complex value, so one
 // statement is two real ones, and the turns 1 and 3 are exchanges of the parts with a change of
-// sign. Turns cost nothing: they travel with references (`Value`) until an instruction absorbs them.
+// sign. Turns cost nothing: they travel with references (`Value`) until an instruction absorbs
+// them.
 //
 // The order of terms is part of the statement. Nothing here re-associates.
 #pragma once
@@ -52,7 +53,7 @@ enum class Precision { element, wide };
 
 struct Statement {
   std::vector<Term> terms;
-  int input = -1;  ///< index of the input, or -1 for a computed statement
+  int input = -1;             ///< index of the input, or -1 for a computed statement
   bool carried_zero = false;  ///< neither input nor sum: a zero that is treated as data
   /// A product by 1 or 0 that only keeps a lane busy beside a lane with a real twiddle. It is
   /// executed, but it is no work of the algorithm and is not counted.
@@ -67,8 +68,8 @@ struct Statement {
 /// so that columns can be laid side by side in the lanes of a vector.
 struct Column {
   int parent = -1;
-  int fan = -1;    ///< which fan of the parent
-  int index = 0;   ///< which column of that fan
+  int fan = -1;   ///< which fan of the parent
+  int index = 0;  ///< which column of that fan
   std::vector<Value> calls;
   std::vector<std::vector<int>> fans;  ///< columns of each fan opened inside
 };

@@ -17,9 +17,14 @@ inline __m128 alternate(__m128 a, __m128 b) { return _mm_addsub_ps(a, b); }
 inline __m128d change_sign(__m128d a, __m128d signs) { return _mm_xor_pd(a, signs); }
 inline __m128 change_sign(__m128 a, __m128 signs) { return _mm_xor_ps(a, signs); }
 
-/// Real and imaginary part of each element exchanged.
-inline __m128d exchange(__m128d a) { return _mm_shuffle_pd(a, a, 1); }
-inline __m128 exchange(__m128 a) { return _mm_shuffle_ps(a, a, 0xB1); }
+/// Real and imaginary part of each element exchanged. The integer shuffle leaves its operand alone,
+/// which saves a copy wherever the plain value is needed too.
+inline __m128d exchange(__m128d a) {
+  return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(a), 0x4E));
+}
+inline __m128 exchange(__m128 a) {
+  return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a), 0xB1));
+}
 
 /// Element `HalfA` of a below element `HalfB` of b, parts exchanged where Cross is 1.
 template <int HalfA, int HalfB, int CrossA, int CrossB>
@@ -31,8 +36,7 @@ inline __m128 gather(__m128 a, __m128 b) {
   } else {
     constexpr int kFirst = 2 * HalfA + CrossA;
     constexpr int kSecond = 2 * HalfB + CrossB;
-    return _mm_shuffle_ps(a, b,
-                          kFirst | (kFirst ^ 1) << 2 | kSecond << 4 | (kSecond ^ 1) << 6);
+    return _mm_shuffle_ps(a, b, kFirst | (kFirst ^ 1) << 2 | kSecond << 4 | (kSecond ^ 1) << 6);
   }
 }
 
@@ -59,9 +63,7 @@ struct Aligned {
 
 /// Whole vectors anywhere: 64-bit elements by their halves, pairs of 32-bit elements at once.
 struct Unaligned {
-  static __m128d load(const double* from) {
-    return _mm_loadh_pd(_mm_load_sd(from), from + 1);
-  }
+  static __m128d load(const double* from) { return _mm_loadh_pd(_mm_load_sd(from), from + 1); }
   static void store(double* to, __m128d a) {
     _mm_storel_pd(to, a);
     _mm_storeh_pd(to + 1, a);

@@ -131,7 +131,8 @@ class PackedLowering {
     }
     held[first] = emit(Op::exchange, held.at(exchanged(first)));
     for (const Form form : crossed) {
-      if (held.count(form) == 0) held[form] = sign_change(held[first], form.negated ^ first.negated);
+      if (held.count(form) == 0)
+        held[form] = sign_change(held[first], form.negated ^ first.negated);
     }
   }
 
@@ -175,10 +176,11 @@ class PackedLowering {
         const int direct = multiply(operand, n, [&, from = form](int lane, const WideComplex& w) {
           return signed_by(w.re, c.form, from, lane);
         });
-        const int turned = multiply(cross, n, [&, from = cross_form](int lane, const WideComplex& w) {
-          const bool real_part = (lane ^ c.form.exchanged) == 0;
-          return signed_by(real_part ? -w.im : w.im, c.form, from, lane);
-        });
+        const int turned =
+            multiply(cross, n, [&, from = cross_form](int lane, const WideComplex& w) {
+              const bool real_part = (lane ^ c.form.exchanged) == 0;
+              return signed_by(real_part ? -w.im : w.im, c.form, from, lane);
+            });
         return emit(Op::add, direct, turned);
       }
       case PackedKind::gather: {
@@ -213,10 +215,15 @@ class PackedLowering {
     return emit(instruction);
   }
 
+  // Neighbours that an aligned array of pairs holds in one aligned vector.
+  static bool whole_vector(const PackedNode& n) {
+    return n.element[0] >= 0 && n.element[0] % 2 == 0 && n.element[1] == n.element[0] + 1;
+  }
+
   int load(const PackedNode& n) {
     Instruction instruction;
     instruction.address = {2 * n.element[0], 2 * n.element[1]};
-    if (graph_.halves == 1 || n.element[1] == n.element[0] + 1) {
+    if (graph_.halves == 1 || whole_vector(n)) {
       instruction.op = Op::load;
     } else {
       instruction.op = n.element[1] < 0 ? Op::load_single : Op::load_pair;
@@ -237,10 +244,10 @@ class PackedLowering {
   void store(int node) {
     const PackedNode& n = graph_.nodes[at(node)];
     Instruction instruction;
-    instruction.a = scale(held(n.a, demand_of(n, choice(node)).a),
-                          static_cast<int>(choice(node).lowering));
+    instruction.a =
+        scale(held(n.a, demand_of(n, choice(node)).a), static_cast<int>(choice(node).lowering));
     instruction.address = {2 * n.element[0], 2 * n.element[1]};
-    if (graph_.halves == 1 || (n.element[0] >= 0 && n.element[1] == n.element[0] + 1)) {
+    if (graph_.halves == 1 || whole_vector(n)) {
       instruction.op = Op::store;
     } else if (n.element[0] >= 0 && n.element[1] >= 0) {
       instruction.op = Op::store_pair;

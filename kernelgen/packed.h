@@ -13,13 +13,13 @@
 namespace haldgen::kernelgen {
 
 enum class PackedKind {
-  load,     ///< elements `element[h]` of the source
-  zero,     ///< zeros
-  sum,      ///< a + i^turn b
-  scale,    ///< each half by a real constant
-  rotate,   ///< each half by a complex constant
-  gather,   ///< half `half[0]` of a, half `half[1]` of b
-  store,    ///< i^turn a into elements `element[h]` of the destination
+  load,    ///< elements `element[h]` of the source
+  zero,    ///< zeros
+  sum,     ///< a + i^turn b
+  scale,   ///< each half by a real constant
+  rotate,  ///< each half by a complex constant
+  gather,  ///< half `half[0]` of a, half `half[1]` of b
+  store,   ///< i^turn a into elements `element[h]` of the destination
 };
 
 struct PackedNode {

@@ -108,8 +108,7 @@ bool is_load(Op op) {
 }
 
 bool is_store(Op op) {
-  return op == Op::store || op == Op::store_pair || op == Op::store_single ||
-         op == Op::store_upper;
+  return op == Op::store || op == Op::store_pair || op == Op::store_single || op == Op::store_upper;
 }
 
 Program pruned(const Program& program) {

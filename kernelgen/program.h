@@ -20,12 +20,12 @@ enum class Op {
   multiply,   ///< a times the constants
   sign,       ///< lanes of a negated where the constant is -0
   exchange,   ///< lanes 2j and 2j+1 of a exchanged
-  gather,     ///< element half[0] of a below element half[1] of b, each exchanged if cross[.] says so
-  negate,     ///< 0 - a
-  widen,      ///< the 64-bit value of a 32-bit one
-  narrow,     ///< a 64-bit value rounded to 32 bits
-  scale,      ///< a times the scale of the call
-  store,      ///< all lanes to consecutive destination floats from `address[0]`
+  gather,  ///< element half[0] of a below element half[1] of b, each exchanged if cross[.] says so
+  negate,  ///< 0 - a
+  widen,   ///< the 64-bit value of a 32-bit one
+  narrow,  ///< a 64-bit value rounded to 32 bits
+  scale,   ///< a times the scale of the call
+  store,   ///< all lanes to consecutive destination floats from `address[0]`
   store_pair,    ///< lower half to the element at `address[0]`, upper half to `address[1]`
   store_single,  ///< lower half to the element at `address[0]`
   store_upper,   ///< upper half to the element at `address[0]`

@@ -331,8 +331,8 @@ Program scheduled(const Program& program, Order order, int cap) {
   }
   std::vector<int> rank(halved.size());
   for (std::size_t i = 0; i < halved.size(); ++i) rank[at(halved[i])] = static_cast<int>(i);
-  return permuted(program, ListSchedule(program, dependences, rank, cap)
-                               .run(order == Order::critical));
+  return permuted(program,
+                  ListSchedule(program, dependences, rank, cap).run(order == Order::critical));
 }
 
 int spill_traffic(const Program& program, int registers) {

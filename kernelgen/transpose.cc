@@ -24,9 +24,8 @@ std::vector<Value> transpose_into(Graph& into, const Graph& forward, std::span<c
     const Statement& statement = forward.node(node);
     if (statement.input >= 0) result[static_cast<std::size_t>(statement.input)] = total;
     for (const Term& t : statement.terms) {
-      const Value v = t.constant == kNoConstant
-                          ? total
-                          : into.multiply(forward.constant(t.constant), total);
+      const Value v =
+          t.constant == kNoConstant ? total : into.multiply(forward.constant(t.constant), total);
       contribute(t.node, turned(v, t.turn));
     }
   }

@@ -25,7 +25,8 @@ Wide two_product(double a, double b) {
 // 2 pi = 6.28318530717958647692528676655900576839433879875021...
 constexpr Wide kTwoPi{6.283185307179586, 2.4492935982947064e-16};
 
-// Taylor series on an angle of at most pi/4: the terms fall below 2^-107 well before the 28th power.
+// Taylor series on an angle of at most pi/4: the terms fall below 2^-107 well before the 28th
+// power.
 Wide sin_series(Wide angle) {
   const Wide square = angle * angle;
   Wide term = angle;
@@ -53,7 +54,8 @@ struct CosSin {
   Wide sine;
 };
 
-// Reduced in integers to the first eighth of the circle, so that symmetric angles give equal digits.
+// Reduced in integers to the first eighth of the circle, so that symmetric angles give equal
+// digits.
 CosSin turn(std::int64_t k, std::int64_t n) {
   k %= n;
   if (k < 0) k += n;

@@ -1,7 +1,7 @@
-// Double-double arithmetic: an unevaluated sum of two doubles, about 106 bits. Constants are computed
-// here and rounded once to their final type; graphs are valued here against the plain transform.
-// Error-free transformations after T. J. Dekker, "A floating-point technique for extending the
-// available precision", Numer. Math. 18 (1971), and D. E. Knuth, TAOCP vol. 2, 4.2.2.
+// Double-double arithmetic: an unevaluated sum of two doubles, about 106 bits. Constants are
+// computed here and rounded once to their final type; graphs are valued here against the plain
+// transform. Error-free transformations after T. J. Dekker, "A floating-point technique for
+// extending the available precision", Numer. Math. 18 (1971), and D. E. Knuth, TAOCP vol. 2, 4.2.2.
 #pragma once
 
 #include <complex>

@@ -139,7 +139,7 @@ struct Figures {
   double mean = 0;
   double worst_call = 0;
   double largest = 0;
-  double mean_by_root_log = 0;   ///< over epsilon sqrt(log2 N)
+  double mean_by_root_log = 0;  ///< over epsilon sqrt(log2 N)
   double worst_by_root_log = 0;
 
   void raise_to(const Figures& other) {

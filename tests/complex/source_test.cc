@@ -11,8 +11,7 @@ std::string head_of(const std::string& source) { return source.substr(0, source.
 TEST(Source, IsTheSameOnEveryCall) {
   for (const int n : {2, 5, 8, 13, 16}) {
     for (const ElementType type : {ElementType::c32, ElementType::c64}) {
-      EXPECT_EQ(kernel_source(n, type, true, std::nullopt),
-                kernel_source(n, type, true, std::nullopt))
+      EXPECT_EQ(kernel_source(n, type, std::nullopt), kernel_source(n, type, std::nullopt))
           << n << suffix(type);
     }
   }
@@ -20,7 +19,7 @@ TEST(Source, IsTheSameOnEveryCall) {
 
 TEST(Source, HeadNamesAlgorithmAndCounts) {
   const auto expect_head = [](int n, ElementType type, std::initializer_list<const char*> parts) {
-    const std::string head = head_of(kernel_source(n, type, false, std::nullopt));
+    const std::string head = head_of(kernel_source(n, type, std::nullopt));
     for (const char* part : parts) {
       EXPECT_NE(head.find(part), std::string::npos) << part << " in\n" << head;
     }
@@ -33,18 +32,15 @@ TEST(Source, HeadNamesAlgorithmAndCounts) {
   expect_head(15, ElementType::c64, {"PFA(5, 3)", "156 additions, 68 multiplications, depth 9"});
 }
 
-TEST(Source, DefinesTheAskedDirectionsOnly) {
-  const std::string forward = kernel_source(4, ElementType::c64, false, std::nullopt);
-  EXPECT_NE(forward.find("haldgImpl_DFTFwd_CToC_4_64fc("), std::string::npos);
-  EXPECT_EQ(forward.find("haldgImpl_DFTInv_CToC_4_64fc("), std::string::npos);
-  const std::string both = kernel_source(4, ElementType::c64, true, std::nullopt);
-  EXPECT_NE(both.find("haldgImpl_DFTFwd_CToC_4_64fc("), std::string::npos);
-  EXPECT_NE(both.find("haldgImpl_DFTInv_CToC_4_64fc("), std::string::npos);
+TEST(Source, DefinesBothDirections) {
+  const std::string source = kernel_source(4, ElementType::c64, std::nullopt);
+  EXPECT_NE(source.find("haldgImpl_DFTFwd_CToC_4_64fc("), std::string::npos);
+  EXPECT_NE(source.find("haldgImpl_DFTInv_CToC_4_64fc("), std::string::npos);
 }
 
 TEST(Source, ScaleConstantsAreRoundedOnce) {
   const auto expect_part = [](int n, ElementType type, const char* part) {
-    const std::string source = kernel_source(n, type, false, std::nullopt);
+    const std::string source = kernel_source(n, type, std::nullopt);
     EXPECT_NE(source.find(part), std::string::npos) << n << " " << part;
   };
   expect_part(3, ElementType::c32, "kByLength = 0.33333334f;");

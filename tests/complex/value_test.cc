@@ -91,23 +91,13 @@ void expect_program(int length, ElementType type, bool inverse) {
       << length << suffix(type) << (inverse ? " inverse" : "");
 }
 
-TEST(Value, EveryForwardProgramOf32BitElements) {
-  for (int n = kFirstLength; n <= kLastLength; ++n) {
-    expect_program<float>(n, ElementType::c32, false);
-  }
-}
-
-TEST(Value, EveryForwardProgramOf64BitElements) {
-  for (int n = kFirstLength; n <= kLastLength; ++n) {
-    expect_program<double>(n, ElementType::c64, false);
-  }
-}
-
 // The longer ones differ from these in nothing but time.
-TEST(Value, InversePrograms) {
+TEST(Value, ShortPrograms) {
   for (int n = kFirstLength; n <= 20; ++n) {
-    expect_program<float>(n, ElementType::c32, true);
-    expect_program<double>(n, ElementType::c64, true);
+    for (const bool inverse : {false, true}) {
+      expect_program<float>(n, ElementType::c32, inverse);
+      expect_program<double>(n, ElementType::c64, inverse);
+    }
   }
 }
 

@@ -197,7 +197,12 @@ TEST_F(ComplexGraph, PairsOfColumns) {
   }
   EXPECT_EQ(paired, (std::vector<bool>{true, true, false, true}));
   EXPECT_FALSE(g.inside_pair());
-  EXPECT_EQ(g.columns()[0].fans.size(), 1U);
+  for (const int i : {0, 1}) {
+    g.enter_column(i, 2);
+    EXPECT_TRUE(g.inside_pair()) << i;
+    g.leave_column();
+  }
+  ASSERT_EQ(g.columns()[0].fans.size(), 2U);
   EXPECT_EQ(g.columns()[0].fans[0].size(), 3U);
 }
 

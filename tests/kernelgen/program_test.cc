@@ -95,11 +95,11 @@ TEST(Interpreter, MemoryOperations) {
 }
 
 TEST(Interpreter, ScaleIsAMultiplication) {
-  const Program program{FloatType::f32, 4, {load(0), make(Op::scale, 0), store(1)}};
-  const auto out = run(program, std::vector<float>{1, 3, -7, 0}, 0.1F);
-  for (std::size_t i = 0; i < 4; ++i) {
-    EXPECT_EQ(out[i], 0.1F * std::vector<float>({1, 3, -7, 0})[i]);
-  }
+  Instruction scale = make(Op::scale, 0);
+  scale.constant = {1, -1, 1, -1};  // the lanes' signs of the scale
+  const Program program{FloatType::f32, 4, {load(0), scale, store(1)}};
+  EXPECT_EQ(run(program, std::vector<float>{1, 3, -7, 5}, 0.1F),
+            (std::vector<float>{0.1F, 0.1F * -3, 0.1F * -7, 0.1F * -5}));
 }
 
 TEST(Interpreter, EachOperationRoundsInItsOwnType) {
@@ -170,6 +170,19 @@ TEST(Interpreter, InPlaceReadsWhatWasStored) {
   interpret(Program{FloatType::f64, 2, {load(0), store(0, 2), load(2), store(2, 0)}}, data, 1.0,
             data);
   EXPECT_EQ(data, (std::vector<double>{1, 2, 1, 2}));
+}
+
+TEST(Pruned, KeepsWhatLeadsToStores) {
+  const Program program{FloatType::f64,
+                        2,
+                        {load(0), load(2), make(Op::exchange, 0), make(Op::add, 0, 1),
+                         make(Op::subtract, 2, 3), make(Op::exchange, 3), store(5)}};
+  const Program result = pruned(program);
+  std::vector<Op> ops;
+  for (const Instruction& in : result.code) ops.push_back(in.op);
+  EXPECT_EQ(ops, (std::vector<Op>{Op::load, Op::load, Op::add, Op::exchange, Op::store}));
+  const std::vector<double> source{1, 2, 30, 40};
+  EXPECT_EQ(run(result, source), run(program, source));
 }
 
 TEST(Interpreter, LoadsAndStoresAreKnown) {

@@ -1,17 +1,14 @@
-// Random statement graphs, and their direct evaluation in the arithmetic of an element type.
+// Random statement graphs.
 #pragma once
 
-#include <bit>
 #include <cstdint>
 #include <random>
-#include <type_traits>
 #include <vector>
 
 #include "kernelgen/graph.h"
+#include "tests/kernelgen/direct.h"
 
 namespace haldgen::kernelgen::test {
-
-inline std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 /// Numbers and choices from a seed; the same on every standard library.
 class Dice {
@@ -132,102 +129,6 @@ inline Graph random_real_graph(std::uint32_t seed) {
   }
   graph.set_outputs(outputs);
   return graph;
-}
-
-template <class Float>
-struct Element {
-  Float re = 0;
-  Float im = 0;
-};
-
-template <class Float>
-Element<Float> turned(Element<Float> v, int turns) {
-  switch (turns & 3) {
-    case 1:
-      return {-v.im, v.re};
-    case 2:
-      return {-v.re, -v.im};
-    case 3:
-      return {v.im, -v.re};
-    default:
-      return v;
-  }
-}
-
-template <class Float>
-Float rounded_constant(Wide c) {
-  if constexpr (std::is_same_v<Float, float>) {
-    return to_float(c);
-  } else {
-    return to_double(c);
-  }
-}
-
-/// The sum of one statement in the arithmetic of `Float`, term after term.
-template <class Float, class Operand>
-Element<Float> sum_of(const Graph& graph, const Statement& s, const Operand& operand) {
-  Element<Float> sum;
-  bool first = true;
-  for (const Term& t : s.terms) {
-    Element<Float> v = turned<Float>(operand(t.node), t.turn);
-    if (t.constant != kNoConstant) {
-      const Float c = rounded_constant<Float>(graph.constant(t.constant));
-      v = {c * v.re, c * v.im};
-    }
-    sum = first ? v : Element<Float>{sum.re + v.re, sum.im + v.im};
-    first = false;
-  }
-  return sum;
-}
-
-/// The outputs of a graph as its statements say, each operation rounded once, and the scale. The
-/// parts of element k stand at 2k and 2k + 1; a real graph has one float per input and output.
-template <class Float>
-std::vector<Float> direct(const Graph& graph, const std::vector<Float>& source, Float scale) {
-  const bool complex = graph.field() == Field::complex;
-  std::vector<Element<Float>> values(graph.nodes().size());
-  for (const int index : live_nodes(graph)) {
-    const Statement& s = graph.node(index);
-    Element<Float>& v = values[at(index)];
-    if (s.input >= 0) {
-      v = complex ? Element<Float>{source[at(2 * s.input)], source[at(2 * s.input + 1)]}
-                  : Element<Float>{source[at(s.input)], 0};
-    } else if (s.precision == Precision::wide) {
-      const auto wide = sum_of<double>(graph, s, [&](int node) {
-        return Element<double>{double{values[at(node)].re}, double{values[at(node)].im}};
-      });
-      v = {static_cast<Float>(wide.re), static_cast<Float>(wide.im)};
-    } else {
-      v = sum_of<Float>(graph, s, [&](int node) { return values[at(node)]; });
-    }
-  }
-  std::vector<Float> result;
-  for (const Value output : graph.outputs()) {
-    const auto v = turned<Float>(values[at(output.node)], output.turn);
-    result.push_back(scale * v.re);
-    if (complex) result.push_back(scale * v.im);
-  }
-  return result;
-}
-
-/// The bits of a number, both zeros alike.
-inline std::uint64_t bits(double v) { return std::bit_cast<std::uint64_t>(v == 0 ? 0.0 : v); }
-inline std::uint64_t bits(float v) { return std::bit_cast<std::uint32_t>(v == 0 ? 0.0F : v); }
-
-template <class Float>
-bool same_bits(const std::vector<Float>& a, const std::vector<Float>& b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    if (bits(a[i]) != bits(b[i])) return false;
-  }
-  return true;
-}
-
-/// Number of input elements (floats of a real graph).
-inline std::size_t inputs_of(const Graph& graph) {
-  int count = 0;
-  for (const Statement& s : graph.nodes()) count = s.input >= count ? s.input + 1 : count;
-  return at(count);
 }
 
 }  // namespace haldgen::kernelgen::test

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <tuple>
 
 #include "kernelgen/forms.h"
@@ -20,7 +21,7 @@ constexpr Order kOrders[] = {Order::program, Order::bisection, Order::pressure, 
 
 Program vector_program(std::uint32_t seed, int halves) {
   const PackedGraph packed = pack(test::random_complex_graph(seed), halves);
-  return lower_packed(packed, choose_forms(packed, false, 5),
+  return lower_packed(packed, choose_forms(packed, 5),
                       halves == 2 ? FloatType::f32 : FloatType::f64, false);
 }
 
@@ -96,6 +97,55 @@ TEST(Schedule, NoStoreComesBeforeALoadOfItsPlace) {
       }
     }
   });
+}
+
+TEST(Schedule, StoresOfHalvesKnowLoadsOfWholeVectors) {
+  // Elements 0, 1 are overwritten early, by a whole vector or by halves, and read late.
+  const auto make = [](Op op, int a, int b, std::array<int, 2> address) {
+    Instruction in;
+    in.op = op;
+    in.a = a;
+    in.b = b;
+    in.address = address;
+    in.constant = {1, 1, 1, 1};
+    return in;
+  };
+  const std::vector<Instruction> early_stores[] = {
+      {make(Op::store, 1, -1, {0, 0})},
+      {make(Op::store_pair, 1, -1, {2, 0})},
+      {make(Op::store_single, 1, -1, {2, 0}), make(Op::store_upper, 1, -1, {0, 0})},
+  };
+  const Instruction late_loads[] = {
+      make(Op::load, -1, -1, {0, 0}), make(Op::load_pair, -1, -1, {6, 2}),
+      make(Op::load_pair, -1, -1, {0, 6}), make(Op::load_single, -1, -1, {2, 0})};
+  for (const auto& stores : early_stores) {
+    for (const Instruction& late : late_loads) {
+      Program program{FloatType::f32, 4, {}};
+      auto& code = program.code;
+      code = {make(Op::load, -1, -1, {4, 0}), make(Op::scale, 0, -1, {}), late};
+      code.insert(code.end(), stores.begin(), stores.end());
+      code.push_back(make(Op::exchange, 2, -1, {}));
+      code.push_back(make(Op::store, static_cast<int>(code.size()) - 1, -1, {4, 0}));
+      for (const Order order : kOrders) {
+        const Program after = scheduled(program, order, 4);
+        const auto position = [&](auto matches) {
+          return std::find_if(after.code.begin(), after.code.end(), matches) - after.code.begin();
+        };
+        const auto load =
+            position([&](const Instruction& in) { return essence(in) == essence(late); });
+        const auto store = position([&](const Instruction& in) {
+          return std::any_of(stores.begin(), stores.end(), [&](const Instruction& s) {
+            const auto touched = places(program, late);
+            const auto written = places(program, s);
+            return essence(in) == essence(s) &&
+                   std::find_first_of(touched.begin(), touched.end(), written.begin(),
+                                      written.end()) != touched.end();
+          });
+        });
+        EXPECT_LT(load, store) << name_of(order);
+      }
+    }
+  }
 }
 
 template <class Float>
