@@ -56,12 +56,24 @@ Program scalar_program(int length, ElementType type, bool mirrored) {
   return program;
 }
 
-Program vector_program(int length, ElementType type, bool mirrored, int seed) {
+Programs scalar_programs(int length, ElementType type) {
+  return {scalar_program(length, type, false), scalar_program(length, type, true)};
+}
+
+Programs vector_programs(int length, ElementType type, int seed) {
   const bool pairs = type == ElementType::c32;
   const auto packed = kernelgen::pack(expand(recipe_of(length, type), pairs), pairs ? 2 : 1);
-  auto forms = kernelgen::choose_forms(packed, kFormSweeps, seed);
-  if (mirrored) forms = kernelgen::choose_mirrored_forms(packed, forms, kFormSweeps, seed);
-  return kernelgen::lower_packed(packed, forms, float_type(type), mirrored);
+  const auto forms = kernelgen::choose_forms(packed, kFormSweeps, seed);
+  Programs programs;
+  programs.forward = kernelgen::lower_packed(packed, forms, float_type(type), false);
+  if (is_reversed(length, type)) {
+    programs.inverse = programs.forward;
+    reverse_outputs(programs.inverse, length);
+  } else {
+    const auto mirrored = kernelgen::choose_mirrored_forms(packed, forms, kFormSweeps, seed);
+    programs.inverse = kernelgen::lower_packed(packed, mirrored, float_type(type), true);
+  }
+  return programs;
 }
 
 std::string head_comment(int length, ElementType type) {
@@ -74,8 +86,7 @@ std::string head_comment(int length, ElementType type) {
          std::to_string(counts.depth) + ", and the scale\n";
 }
 
-std::string kernel_type(int length, ElementType type, bool inverse, const Schedule& schedule) {
-  const Program program = kernel_program(length, type, inverse, schedule);
+std::string kernel_type(int length, ElementType type, bool inverse, const Program& program) {
   const bool f32 = type == ElementType::c32;
   const std::string name = inverse ? "Inverse" : "Forward";
   const Wide n(length);
@@ -113,30 +124,26 @@ std::string suffix(ElementType type) { return type == ElementType::c32 ? "32fc" 
 
 Graph kernel_graph(int length, ElementType type) { return expand(recipe_of(length, type), false); }
 
-Program kernel_program(int length, ElementType type, bool inverse, const Schedule& schedule) {
-  const bool reversed = inverse && is_reversed(length, type);
-  const bool mirrored = inverse && !reversed;
-  Program program = is_scalar(length, type) ? scalar_program(length, type, mirrored)
-                                            : vector_program(length, type, mirrored, schedule.seed);
-  if (reversed) reverse_outputs(program, length);
-  return kernelgen::scheduled(program, schedule.order, schedule.cap);
+Programs kernel_programs(int length, ElementType type, const Tuning& tuning) {
+  Programs programs = is_scalar(length, type) ? scalar_programs(length, type)
+                                              : vector_programs(length, type, tuning.seed);
+  programs.forward =
+      kernelgen::scheduled(programs.forward, tuning.forward.order, tuning.forward.cap);
+  programs.inverse =
+      kernelgen::scheduled(programs.inverse, tuning.inverse.order, tuning.inverse.cap);
+  return programs;
 }
 
-std::string kernel_source(int length, ElementType type,
-                          const std::optional<Schedule>& override_schedule) {
+std::string kernel_source(int length, ElementType type, const Tuning& tuning) {
+  const Programs programs = kernel_programs(length, type, tuning);
   std::string text = head_comment(length, type);
   text += "#include \"dft_complex/contract.h\"\n\n";
   text += "namespace haldgen::dft_complex {\nnamespace {\n\n";
-  for (const bool inverse : {false, true}) {
-    text += kernel_type(length, type, inverse,
-                        override_schedule.value_or(schedule_of(length, type, inverse)));
-    text += "\n";
-  }
+  text += kernel_type(length, type, false, programs.forward) + "\n";
+  text += kernel_type(length, type, true, programs.inverse) + "\n";
   text += "}  // namespace\n\n";
-  for (const bool inverse : {false, true}) {
-    text += entry(length, type, inverse);
-    text += "\n";
-  }
+  text += entry(length, type, false) + "\n";
+  text += entry(length, type, true) + "\n";
   text += "}  // namespace haldgen::dft_complex\n";
   return text;
 }

@@ -2,7 +2,6 @@
 // program that executes it, and the source file that holds both directions.
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "dft_complex/recipes.h"
@@ -12,29 +11,38 @@
 
 namespace haldgen::dft_complex {
 
-/// What is left open by a kernel's graph: the order of its instructions, and which of many choices
-/// of forms of like cost.
-struct Schedule {
+/// The order of a program's instructions; the cap of live values matters to list schedules only.
+struct Ordering {
   kernelgen::Order order = kernelgen::Order::bisection;
-  int cap = 0;   ///< of live values, in list schedules
-  int seed = 0;  ///< of the choice of forms
+  int cap = 0;
 };
 
-/// The frozen choice for a kernel.
-Schedule schedule_of(int length, ElementType type, bool inverse);
+/// What a kernel's graph leaves open: which of many choices of forms of like cost both directions
+/// have, and the order of the instructions of each. None of it changes a bit of a result, but for
+/// the signs of zeros, in which the directions agree.
+struct Tuning {
+  int seed = 0;
+  Ordering forward;
+  Ordering inverse;
+};
+
+/// The frozen choice for the kernels of a length and type.
+Tuning tuning_of(int length, ElementType type);
 
 /// The graph that is counted and valued; both directions have it.
 kernelgen::Graph kernel_graph(int length, ElementType type);
 
-/// The program of one direction, scheduled.
-kernelgen::Program kernel_program(int length, ElementType type, bool inverse,
-                                  const Schedule& schedule);
+/// The programs of both directions, in their orders.
+struct Programs {
+  kernelgen::Program forward;
+  kernelgen::Program inverse;
+};
+Programs kernel_programs(int length, ElementType type, const Tuning& tuning);
 
 /// "32fc" or "64fc".
 std::string suffix(ElementType type);
 
-/// The source of the kernels of one length and type; `override_schedule` is for measuring orders.
-std::string kernel_source(int length, ElementType type,
-                          const std::optional<Schedule>& override_schedule);
+/// The source of the kernels of one length and type, both directions.
+std::string kernel_source(int length, ElementType type, const Tuning& tuning);
 
 }  // namespace haldgen::dft_complex

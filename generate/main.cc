@@ -3,7 +3,6 @@
 #include <exception>
 #include <fstream>
 #include <iostream>
-#include <optional>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -16,7 +15,7 @@
 namespace {
 
 using haldgen::dft_complex::ElementType;
-using haldgen::dft_complex::Schedule;
+using haldgen::dft_complex::Tuning;
 namespace dft_complex = haldgen::dft_complex;
 namespace kernelgen = haldgen::kernelgen;
 
@@ -41,15 +40,16 @@ ElementType element_type(std::string_view text) {
   throw UsageError("unknown element type");
 }
 
-/// ORDER, ORDER:CAP or ORDER:CAP:SEED.
-Schedule schedule(const std::string& text) {
+/// ORDER, ORDER:CAP or ORDER:CAP:SEED, for both directions.
+Tuning tuning(const std::string& text) {
   std::istringstream parts(text);
   std::string order, cap, seed;
   std::getline(parts, order, ':');
   std::getline(parts, cap, ':');
   std::getline(parts, seed);
-  return {kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap),
-          seed.empty() ? 0 : std::stoi(seed)};
+  const dft_complex::Ordering ordering{kernelgen::order_named(order),
+                                       cap.empty() ? 0 : std::stoi(cap)};
+  return {seed.empty() ? 0 : std::stoi(seed), ordering, ordering};
 }
 
 void print_counts_head() { std::cout << "family\tlength\ttype\tadd\tmul\tdepth\n"; }
@@ -80,8 +80,8 @@ void run(const std::vector<std::string>& args) {
   const int length = std::stoi(args[2]);
   const ElementType type = element_type(args[3]);
   if (command == "source" && (args.size() == 5 || args.size() == 6)) {
-    const auto order = args.size() == 6 ? std::optional(schedule(args[5])) : std::nullopt;
-    return write_file(args[4], dft_complex::kernel_source(length, type, order));
+    const Tuning choice = args.size() == 6 ? tuning(args[5]) : dft_complex::tuning_of(length, type);
+    return write_file(args[4], dft_complex::kernel_source(length, type, choice));
   }
   if (args.size() != 4) throw UsageError("arguments");
   if (command == "counts") {
@@ -92,7 +92,8 @@ void run(const std::vector<std::string>& args) {
   } else if (command == "graph") {
     std::cout << kernelgen::to_dot(dft_complex::kernel_graph(length, type));
   } else if (command == "code") {
-    std::cout << dft_complex::kernel_source(length, type, std::nullopt);
+    std::cout << dft_complex::kernel_source(
+        length, type, dft_complex::tuning_of(length, type));
   } else {
     throw UsageError("unknown command");
   }
