@@ -1,5 +1,7 @@
 #include "dft_complex/kernel.h"
 
+#include <algorithm>
+#include <array>
 #include <stdexcept>
 
 #include "kernelgen/emit.h"
@@ -22,6 +24,15 @@ FloatType float_type(ElementType type) {
 
 /// 32-bit elements fill a vector by two, and the smallest lengths are scalar.
 bool is_scalar(int length, ElementType type) { return type == ElementType::c32 && length <= 5; }
+
+/// How 32-bit elements are moved at a length: whole pairs where most neighbours are wanted
+/// together.
+kernelgen::Access access_of(int length) {
+  constexpr std::array kPairs{8,  9,  16, 18, 24, 25, 27, 32, 40, 45, 46,
+                              47, 48, 49, 50, 54, 56, 59, 60, 62, 64};
+  const bool pairs = std::find(kPairs.begin(), kPairs.end(), length) != kPairs.end();
+  return pairs ? kernelgen::Access::pairs : kernelgen::Access::singles;
+}
 
 /// Lengths 3 and 5 of 32-bit elements form their products in 64 bits.
 bool has_wide_products(int length, ElementType type) {
@@ -62,7 +73,8 @@ Programs scalar_programs(int length, ElementType type) {
 
 Programs vector_programs(int length, ElementType type, int seed) {
   const bool pairs = type == ElementType::c32;
-  const auto packed = kernelgen::pack(expand(recipe_of(length, type), pairs), pairs ? 2 : 1);
+  const auto packed =
+      kernelgen::pack(expand(recipe_of(length, type), pairs), pairs ? 2 : 1, access_of(length));
   const auto forms = kernelgen::choose_forms(packed, kFormSweeps, seed);
   Programs programs;
   programs.forward = kernelgen::lower_packed(packed, forms, float_type(type), false);

@@ -29,9 +29,8 @@ constexpr Row kRows[] = {
 }  // namespace
 
 Tuning tuning_of(int length, ElementType type) {
-  const auto row = std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& r) {
-    return r.length == length && r.type == type;
-  });
+  const auto row = std::find_if(std::begin(kRows), std::end(kRows),
+                                [&](const Row& r) { return r.length == length && r.type == type; });
   return row == std::end(kRows) ? Tuning{} : row->tuning;
 }
 

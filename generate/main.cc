@@ -92,8 +92,7 @@ void run(const std::vector<std::string>& args) {
   } else if (command == "graph") {
     std::cout << kernelgen::to_dot(dft_complex::kernel_graph(length, type));
   } else if (command == "code") {
-    std::cout << dft_complex::kernel_source(
-        length, type, dft_complex::tuning_of(length, type));
+    std::cout << dft_complex::kernel_source(length, type, dft_complex::tuning_of(length, type));
   } else {
     throw UsageError("unknown command");
   }

@@ -216,14 +216,16 @@ class PackedLowering {
   }
 
   // Neighbours that an aligned array of pairs holds in one aligned vector.
-  static bool whole_vector(const PackedNode& n) {
-    return n.element[0] >= 0 && n.element[0] % 2 == 0 && n.element[1] == n.element[0] + 1;
+  bool whole_vector(const PackedNode& n) const {
+    if (graph_.halves == 1) return true;
+    return graph_.access == Access::pairs && n.element[0] >= 0 && n.element[0] % 2 == 0 &&
+           n.element[1] == n.element[0] + 1;
   }
 
   int load(const PackedNode& n) {
     Instruction instruction;
     instruction.address = {2 * n.element[0], 2 * n.element[1]};
-    if (graph_.halves == 1 || whole_vector(n)) {
+    if (whole_vector(n)) {
       instruction.op = Op::load;
     } else {
       instruction.op = n.element[1] < 0 ? Op::load_single : Op::load_pair;
@@ -247,7 +249,7 @@ class PackedLowering {
     instruction.a =
         scale(held(n.a, demand_of(n, choice(node)).a), static_cast<int>(choice(node).lowering));
     instruction.address = {2 * n.element[0], 2 * n.element[1]};
-    if (graph_.halves == 1 || whole_vector(n)) {
+    if (whole_vector(n)) {
       instruction.op = Op::store;
     } else if (n.element[0] >= 0 && n.element[1] >= 0) {
       instruction.op = Op::store_pair;

@@ -46,8 +46,10 @@ WideComplex factor_of(const Graph& graph, const Statement& s) {
 
 class Packer {
  public:
-  Packer(const Graph& graph, int halves) : graph_(graph) {
+  Packer(const Graph& graph, int halves, Access access)
+      : graph_(graph), whole_pairs_(halves == 2 && access == Access::pairs) {
     packed_.halves = halves;
+    packed_.access = access;
     live_.assign(graph.nodes().size(), 0);
     for (const int node : live_nodes(graph)) live_[at(node)] = 1;
     partner_.assign(graph.nodes().size(), 0);
@@ -186,10 +188,12 @@ class Packer {
     if (nodes[0] == kZeroNode && nodes[1] <= kZeroNode) return emit({});
     const bool loads = input(nodes[0]) >= 0 && (nodes[1] < 0 || input(nodes[1]) >= 0);
     if (loads) {
-      PackedNode node;
-      node.kind = PackedKind::load;
-      node.element = {input(nodes[0]), input(nodes[1])};
-      return emit(node);
+      const int first = input(nodes[0]);
+      const int second = input(nodes[1]);
+      if (whole_pairs_ && second >= 0 && !(first % 2 == 0 && second == first + 1)) {
+        return gather(seat_of_input(first), seat_of_input(second));
+      }
+      return load(first, second);
     }
     const Seat first = seat_of(nodes[0]);
     if (nodes[1] < 0) {
@@ -199,6 +203,24 @@ class Packer {
     const Seat second = seat_of(nodes[1]);
     if (first.vector == second.vector && first.half == 0 && second.half == 1) return first.vector;
     return gather(first, second);
+  }
+
+  int load(int first, int second) {
+    const auto [it, fresh] = loads_.try_emplace({first, second}, -1);
+    if (fresh) {
+      PackedNode node;
+      node.kind = PackedKind::load;
+      node.element = {first, second};
+      it->second = emit(node);
+    }
+    return it->second;
+  }
+
+  /// An input element within the whole vector of its pair; the last of an odd number stands alone.
+  Seat seat_of_input(int element) {
+    const int even = element - element % 2;
+    if (even + 1 >= static_cast<int>(graph_.outputs().size())) return {load(element, -1), 0};
+    return {load(even, even + 1), element % 2};
   }
 
   int gather(Seat first, Seat second) {
@@ -217,45 +239,63 @@ class Packer {
   }
 
   void store_outputs() {
-    std::vector<char> stored(graph_.outputs().size(), 0);
-    for (std::size_t k = 0; k < stored.size(); ++k) {
+    const std::size_t count = graph_.outputs().size();
+    std::vector<char> stored(count, 0);
+    for (std::size_t k = 0; k < count; ++k) {
       if (stored[k]) continue;
-      const Value value = graph_.outputs()[k];
-      PackedNode store;
-      store.kind = PackedKind::store;
-      store.turn = value.turn;
-      const Seat seat = seat_of(value.node);
-      store.a = seat.vector;
-      store.element[at(seat.half)] = static_cast<int>(k);
       stored[k] = 1;
-      if (packed_.halves == 2) {
-        for (std::size_t other = k + 1; other < stored.size(); ++other) {
-          const Value candidate = graph_.outputs()[other];
-          if (stored[other] || candidate.turn != value.turn) continue;
-          const Seat beside = seat_of(candidate.node);
-          if (beside.vector == seat.vector && beside.half != seat.half) {
-            store.element[at(beside.half)] = static_cast<int>(other);
-            stored[other] = 1;
-            break;
-          }
-        }
+      const Value value = graph_.outputs()[k];
+      const Seat seat = seat_of(value.node);
+      if (whole_pairs_ && k % 2 == 0 && k + 1 < count &&
+          graph_.outputs()[k + 1].turn == value.turn) {
+        const Seat beside = seat_of(graph_.outputs()[k + 1].node);
+        const bool joined = beside.vector == seat.vector && seat.half == 0 && beside.half == 1;
+        stored[k + 1] = 1;
+        store({joined ? seat.vector : gather(seat, beside), 0}, k, static_cast<int>(k) + 1);
+        continue;
       }
-      emit(store);
+      int other = -1;
+      if (packed_.halves == 2) other = output_beside(k, seat, stored);
+      if (other >= 0) stored[at(other)] = 1;
+      store(seat, k, other);
     }
   }
 
+  /// A later output in the other half of the same vector, turned the same way.
+  int output_beside(std::size_t k, Seat seat, const std::vector<char>& stored) {
+    for (std::size_t other = k + 1; other < stored.size(); ++other) {
+      const Value candidate = graph_.outputs()[other];
+      if (stored[other] || candidate.turn != graph_.outputs()[k].turn) continue;
+      const Seat beside = seat_of(candidate.node);
+      if (beside.vector == seat.vector && beside.half != seat.half) return static_cast<int>(other);
+    }
+    return -1;
+  }
+
+  void store(Seat seat, std::size_t element, int other) {
+    PackedNode node;
+    node.kind = PackedKind::store;
+    node.turn = graph_.outputs()[element].turn;
+    node.a = seat.vector;
+    node.element[at(seat.half)] = static_cast<int>(element);
+    node.element[at(1 - seat.half)] = other;
+    emit(node);
+  }
+
   const Graph& graph_;
+  bool whole_pairs_;
   PackedGraph packed_;
   std::vector<char> live_;
   std::vector<int> partner_;  ///< 0: none; positive: the second half; negative: minus the first
   std::map<int, Seat> seats_;
   std::map<std::array<int, 2>, int> vectors_;
+  std::map<std::array<int, 2>, int> loads_;
 };
 
 }  // namespace
 
-PackedGraph pack(const Graph& graph, int elements_per_vector) {
-  return Packer(graph, elements_per_vector).run();
+PackedGraph pack(const Graph& graph, int elements_per_vector, Access access) {
+  return Packer(graph, elements_per_vector, access).run();
 }
 
 }  // namespace haldgen::kernelgen

@@ -32,12 +32,19 @@ struct PackedNode {
   std::array<WideComplex, 2> factor{};
 };
 
+/// How vectors of two elements touch memory.
+enum class Access {
+  pairs,    ///< elements 2q and 2q+1 at once, by whole vectors; other pairs are gathered from these
+  singles,  ///< element by element, two of them filling a vector
+};
+
 struct PackedGraph {
   int halves = 1;  ///< complex elements in a vector
+  Access access = Access::pairs;
   std::vector<PackedNode> nodes;
 };
 
-/// `elements_per_vector` is 1 or 2.
-PackedGraph pack(const Graph& graph, int elements_per_vector);
+/// `elements_per_vector` is 1 or 2; `access` matters to 2 only.
+PackedGraph pack(const Graph& graph, int elements_per_vector, Access access = Access::pairs);
 
 }  // namespace haldgen::kernelgen

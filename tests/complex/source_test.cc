@@ -11,7 +11,8 @@ std::string head_of(const std::string& source) { return source.substr(0, source.
 TEST(Source, IsTheSameOnEveryCall) {
   for (const int n : {2, 5, 8, 13, 16}) {
     for (const ElementType type : {ElementType::c32, ElementType::c64}) {
-      EXPECT_EQ(kernel_source(n, type, std::nullopt), kernel_source(n, type, std::nullopt))
+      EXPECT_EQ(kernel_source(n, type, tuning_of(n, type)),
+                kernel_source(n, type, tuning_of(n, type)))
           << n << suffix(type);
     }
   }
@@ -19,7 +20,7 @@ TEST(Source, IsTheSameOnEveryCall) {
 
 TEST(Source, HeadNamesAlgorithmAndCounts) {
   const auto expect_head = [](int n, ElementType type, std::initializer_list<const char*> parts) {
-    const std::string head = head_of(kernel_source(n, type, std::nullopt));
+    const std::string head = head_of(kernel_source(n, type, tuning_of(n, type)));
     for (const char* part : parts) {
       EXPECT_NE(head.find(part), std::string::npos) << part << " in\n" << head;
     }
@@ -33,19 +34,21 @@ TEST(Source, HeadNamesAlgorithmAndCounts) {
 }
 
 TEST(Source, DefinesBothDirections) {
-  const std::string source = kernel_source(4, ElementType::c64, std::nullopt);
+  const std::string source = kernel_source(4, ElementType::c64, Tuning{});
   EXPECT_NE(source.find("haldgImpl_DFTFwd_CToC_4_64fc("), std::string::npos);
   EXPECT_NE(source.find("haldgImpl_DFTInv_CToC_4_64fc("), std::string::npos);
 }
 
 TEST(Source, ScaleConstantsAreRoundedOnce) {
   const auto expect_part = [](int n, ElementType type, const char* part) {
-    const std::string source = kernel_source(n, type, std::nullopt);
+    const std::string source = kernel_source(n, type, tuning_of(n, type));
     EXPECT_NE(source.find(part), std::string::npos) << n << " " << part;
   };
   expect_part(3, ElementType::c32, "kByLength = 0.33333334f;");
   expect_part(3, ElementType::c32, "kByRoot = 0.57735026f;");
   expect_part(5, ElementType::c32, "kByLength = 0.2f;");
+  expect_part(3, ElementType::c64, "kByLength = 0.3333333333333333;");
+  expect_part(3, ElementType::c64, "kByRoot = 0.5773502691896258;");
   expect_part(64, ElementType::c64, "kByRoot = 0.125;");
 }
 

@@ -80,8 +80,8 @@ void expect_program(int length, ElementType type, bool inverse) {
     source.push_back(static_cast<Float>(v.im.hi));
   }
   std::vector<Float> result(source.size());
-  kernelgen::interpret(kernel_program(length, type, inverse, schedule_of(length, type, inverse)),
-                       source, Float{1}, result);
+  const Programs programs = kernel_programs(length, type, tuning_of(length, type));
+  kernelgen::interpret(inverse ? programs.inverse : programs.forward, source, Float{1}, result);
   std::vector<WideComplex> y;
   for (std::size_t k = 0; k < result.size(); k += 2) {
     y.push_back({double{result[k]}, double{result[k + 1]}});
