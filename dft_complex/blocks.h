@@ -156,12 +156,13 @@ Elements<E> dft8(const Elements<E>& x, Direction direction) {
 
 /// 16 as 2 then 8. The odd outputs need W^n d[n] and W^3n d[n] of the differences d; for odd n both
 /// are made of the same products of d[n] by cos(pi/8) and sin(pi/8), so that past the products the
-/// odd half runs on additions only.
+/// odd half runs on additions only. d[2] and d[6] go through an eighth root each; `eighths_joined`
+/// takes their sum and difference first and multiplies those, at the same counts. Where the upper
+/// half of x is zero, that sum and difference are the even half's too.
 template <class E>
-Elements<E> dft16_shared(const Elements<E>& x, Direction direction) {
+Elements<E> dft16_shared(const Elements<E>& x, Direction direction, bool eighths_joined) {
   const Wide c = kernelgen::cos_turn(1, 16);
   const Wide s = kernelgen::sin_turn(1, 16);
-  const Wide r = sqrt(Wide(0.5));
   Elements<E> z, d;
   for (std::size_t n = 0; n < 8; ++n) z.push_back(x[n] + x[n + 8]);
   for (std::size_t n = 0; n < 8; ++n) d.push_back(x[n] - x[n + 8]);
@@ -172,12 +173,22 @@ Elements<E> dft16_shared(const Elements<E>& x, Direction direction) {
   const E a0 = d[0] + turned(d[4], direction.quarter());
   const E b0 = d[0] - turned(d[4], direction.quarter());
 
-  const E difference = d[2] - d[6];
-  const E alpha = r * difference;
-  const E sum = d[2] + d[6];
-  const E beta = turned(r * sum, direction.quarter());
-  const E a2 = alpha + beta;
-  const E b2 = beta - alpha;
+  E a2 = d[2];
+  E b2 = d[6];
+  if (eighths_joined) {
+    const Wide r = sqrt(Wide(0.5));
+    const E difference = d[2] - d[6];
+    const E alpha = r * difference;
+    const E sum = d[2] + d[6];
+    const E beta = turned(r * sum, direction.quarter());
+    a2 = alpha + beta;
+    b2 = beta - alpha;
+  } else {
+    const E e2 = twiddle(d[2], 8, -direction.exponent, EighthRoot::sum_first);
+    const E e6 = twiddle(d[6], 8, -3 * direction.exponent, EighthRoot::sum_first);
+    a2 = e2 + e6;
+    b2 = turned(e2 - e6, direction.quarter());
+  }
 
   const E c_d1 = c * d[1];
   const E s_d5 = s * d[5];

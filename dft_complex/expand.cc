@@ -109,7 +109,7 @@ class Expander {
       case Method::split_eight:
         return dft8(x, direction_);
       case Method::shared_sixteen:
-        return dft16_shared(x, direction_);
+        return dft16_shared(x, direction_, r.eighths_joined);
       case Method::coprime:
         return coprime_steps(r, x);
       case Method::cooley_tukey:

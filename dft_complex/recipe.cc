@@ -59,7 +59,7 @@ std::string to_string(const Recipe& r) {
     case Method::split_eight:
       return length;
     case Method::shared_sixteen:
-      return "16 shared";
+      return r.eighths_joined ? "16 shared, eighths joined" : "16 shared";
     case Method::five_folded:
       return "5w";
     case Method::direct:
@@ -103,6 +103,11 @@ Recipe five_folded() { return make(Method::five_folded, 5); }
 Recipe direct(int prime) { return make(Method::direct, prime); }
 Recipe split_eight() { return make(Method::split_eight, 8); }
 Recipe shared_sixteen() { return make(Method::shared_sixteen, 16); }
+Recipe shared_sixteen_joined() {
+  Recipe recipe = shared_sixteen();
+  recipe.eighths_joined = true;
+  return recipe;
+}
 
 Recipe coprime(Columns first, Columns second) {
   const int length = product_of_lengths(first, second);

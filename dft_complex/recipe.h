@@ -50,12 +50,13 @@ struct Recipe {
   /// The twiddles stand with the second stage's columns instead of the first's: the same
   /// arithmetic, other neighbours in vectors of two elements.
   bool late_twiddles = false;
-  bool fold_there = false;  ///< constants meet and become one, on the way there
-  bool fold_back = false;   ///< and on the way back
-  int zero_lanes = 0;       ///< executed additions of lanes that hold zero
-  int mate = 0;             ///< the bin that shares a vector with bin 0
-  int carried = 0;          ///< Bluestein: places carried as values on the way there
-  int computed = 0;         ///< Bluestein: outputs computed on the way back
+  bool eighths_joined = false;  ///< 16 shared: sum and difference before the eighth roots
+  bool fold_there = false;      ///< constants meet and become one, on the way there
+  bool fold_back = false;       ///< and on the way back
+  int zero_lanes = 0;           ///< executed additions of lanes that hold zero
+  int mate = 0;                 ///< the bin that shares a vector with bin 0
+  int carried = 0;              ///< Bluestein: places carried as values on the way there
+  int computed = 0;             ///< Bluestein: outputs computed on the way back
 
   friend bool operator==(const Recipe&, const Recipe&) = default;
 };
@@ -68,6 +69,7 @@ Recipe five_folded();
 Recipe direct(int prime);
 Recipe split_eight();
 Recipe shared_sixteen();
+Recipe shared_sixteen_joined();
 
 // Combinators. `first` reads the input.
 using Columns = std::vector<Recipe>;

@@ -126,7 +126,7 @@ std::map<int, Recipe> cplx32_recipes() {
       {56, ct(pfa(b2, b7), b4)},
       {57, pfa(r19, b3)},
       {58, pfa(b2, r29)},
-      {59, with_zero_lanes(bluestein(59, ct(b16, b8), 64,
+      {59, with_zero_lanes(bluestein(59, ct(shared_sixteen_joined(), b8), 64,
                                      with_split_eighths(ct(b8, b16), {{8, 2}, {8, 6}}), 59),
                            2)},
       {60, n60},

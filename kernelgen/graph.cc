@@ -20,7 +20,7 @@ ConstantId Graph::intern(Wide magnitude) {
   }
   const auto id = static_cast<ConstantId>(constants_.size());
   constants_.push_back(magnitude);
-  constant_index_.emplace(magnitude.hi, id);
+  constant_index_.emplace(magnitude.hi, id);  // several may share their leading digits
   return id;
 }
 

@@ -130,7 +130,7 @@ class Graph {
   bool folding_ = false;
   std::vector<Statement> nodes_;
   std::vector<Wide> constants_;
-  std::map<double, ConstantId> constant_index_;
+  std::multimap<double, ConstantId> constant_index_;
   std::map<std::tuple<std::vector<Term>, bool, bool>, Value> index_;  ///< node and its key's turn
   std::map<int, int> inputs_;
   std::vector<Value> outputs_;

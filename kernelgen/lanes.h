@@ -40,8 +40,11 @@ inline __m128 gather(__m128 a, __m128 b) {
   }
 }
 
+// Copied, since a float's address need not do for a double.
 inline __m128 load_single(const float* from) {
-  return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(from)));
+  double element;
+  __builtin_memcpy(&element, from, sizeof element);
+  return _mm_castpd_ps(_mm_set_sd(element));
 }
 inline __m128 load_pair(const float* lower, const float* upper) {
   return _mm_loadh_pi(load_single(lower), reinterpret_cast<const __m64*>(upper));

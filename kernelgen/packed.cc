@@ -246,7 +246,7 @@ class Packer {
       stored[k] = 1;
       const Value value = graph_.outputs()[k];
       const Seat seat = seat_of(value.node);
-      if (whole_pairs_ && k % 2 == 0 && k + 1 < count &&
+      if (whole_pairs_ && k % 2 == 0 && k + 1 < count && !stored[k + 1] &&
           graph_.outputs()[k + 1].turn == value.turn) {
         const Seat beside = seat_of(graph_.outputs()[k + 1].node);
         const bool joined = beside.vector == seat.vector && seat.half == 0 && beside.half == 1;

@@ -48,7 +48,7 @@ TEST(Source, ScaleConstantsAreRoundedOnce) {
   expect_part(3, ElementType::c32, "kByRoot = 0.57735026f;");
   expect_part(5, ElementType::c32, "kByLength = 0.2f;");
   expect_part(3, ElementType::c64, "kByLength = 0.3333333333333333;");
-  expect_part(3, ElementType::c64, "kByRoot = 0.5773502691896258;");
+  expect_part(3, ElementType::c64, "kByRoot = 0.5773502691896257;");
   expect_part(64, ElementType::c64, "kByRoot = 0.125;");
 }
 

@@ -77,7 +77,7 @@ template <class Float>
 void expect_bits_of_graph(const Graph& graph, const Program& program, bool mirrored,
                           std::uint32_t seed) {
   Dice dice(seed);
-  const auto source = dice.numbers<Float>(2 * test::inputs_of(graph));
+  const auto source = dice.numbers<Float>(2 * graph.outputs().size());
   const Float scale = static_cast<Float>(0.3);
   auto expected = test::direct<Float>(graph, mirrored ? exchanged_parts(source) : source, scale);
   if (mirrored) expected = exchanged_parts(expected);
@@ -86,14 +86,20 @@ void expect_bits_of_graph(const Graph& graph, const Program& program, bool mirro
   ASSERT_TRUE(test::same_bits(actual, expected)) << "seed " << seed << " mirrored " << mirrored;
 }
 
-/// Both element types, both directions, chosen and wild forms; `check` gets the packed graph, the
-/// choices and the program.
+struct Layout {
+  int halves;
+  Access access;
+};
+constexpr Layout kLayouts[] = {{1, Access::pairs}, {2, Access::pairs}, {2, Access::singles}};
+
+/// All layouts, both directions, chosen and wild forms; `check` gets the packed graph, the choices
+/// and the program.
 template <class Check>
 void for_all_lowerings(const Check& check) {
   for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
     const Graph graph = test::random_complex_graph(seed);
-    for (const int halves : {1, 2}) {
-      const PackedGraph packed = pack(graph, halves);
+    for (const auto& [halves, access] : kLayouts) {
+      const PackedGraph packed = pack(graph, halves, access);
       const FloatType type = halves == 1 ? FloatType::f64 : FloatType::f32;
       for (const bool mirrored : {false, true}) {
         Dice dice(seed);
@@ -186,7 +192,7 @@ TEST(Forms, TheMirrorHasTheSameSignsOfZeros) {
       }
       return values;
     };
-    const auto source = small(2 * test::inputs_of(graph));
+    const auto source = small(2 * graph.outputs().size());
     const std::vector<double> source64(source.begin(), source.end());
     const PackedGraph pairs = pack(graph, 2);
     const PackedGraph singles = pack(graph, 1);
@@ -260,7 +266,7 @@ TEST(Packing, EqualColumnsShareTheirVectors) {
       g.leave_column();
     }
     g.set_outputs(outputs);
-    const PackedGraph packed = pack(g, 2);
+    const PackedGraph packed = pack(g, 2, Access::singles);
     const int vectors = (columns + 1) / 2;
     EXPECT_EQ(count_kind(packed, PackedKind::sum), vectors) << columns;
     EXPECT_EQ(count_kind(packed, PackedKind::scale), vectors) << columns;
@@ -285,9 +291,9 @@ TEST(Packing, DependentNodesDoNotShareAVector) {
 TEST(Packing, EachOutputIsStoredOnce) {
   for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
     const Graph graph = test::random_complex_graph(seed);
-    for (const int halves : {1, 2}) {
+    for (const auto& [halves, access] : kLayouts) {
       std::vector<int> stored(graph.outputs().size(), 0);
-      for (const PackedNode& n : pack(graph, halves).nodes) {
+      for (const PackedNode& n : pack(graph, halves, access).nodes) {
         if (n.kind != PackedKind::store) continue;
         for (const int element : n.element) {
           if (element >= 0) ++stored[at(element)];
@@ -295,6 +301,29 @@ TEST(Packing, EachOutputIsStoredOnce) {
       }
       ASSERT_EQ(stored, std::vector<int>(stored.size(), 1)) << "seed " << seed;
     }
+  }
+}
+
+TEST(Packing, PairsAreReadAsWholeVectorsInsideTheArray) {
+  for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
+    const Graph graph = test::random_complex_graph(seed);
+    const int count = static_cast<int>(graph.outputs().size());
+    for (const PackedNode& n : pack(graph, 2, Access::pairs).nodes) {
+      if (n.kind != PackedKind::load) continue;
+      if (n.element[1] >= 0) {
+        ASSERT_EQ(n.element[0] % 2, 0) << "seed " << seed;
+        ASSERT_EQ(n.element[1], n.element[0] + 1) << "seed " << seed;
+        ASSERT_LT(n.element[1], count) << "seed " << seed;
+      }
+    }
+  }
+}
+
+TEST(Packing, SinglesAreNeverReadOrWrittenAsWholeVectors) {
+  for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
+    const PackedGraph packed = pack(test::random_complex_graph(seed), 2, Access::singles);
+    const Program program = lower_packed(packed, choose_forms(packed, 1), FloatType::f32, false);
+    ASSERT_EQ(count_ops(program, {Op::load, Op::store}), 0) << "seed " << seed;
   }
 }
 

@@ -67,7 +67,7 @@ inline std::vector<Value> random_work(Graph& graph, std::vector<Value> values, D
 }
 
 /// Two fans of equal columns, so that vectors of two elements have something to share, with loose
-/// statements between them.
+/// statements between them. As many outputs as inputs.
 inline Graph random_complex_graph(std::uint32_t seed) {
   Dice dice(seed);
   Graph graph(Field::complex);
@@ -96,7 +96,10 @@ inline Graph random_complex_graph(std::uint32_t seed) {
     values = results;
   }
   std::vector<Value> outputs;
-  for (const Value v : values) outputs.push_back(turned(v, dice.below(4)));
+  for (int k = 0; k < columns * rows; ++k) {
+    const int from = static_cast<int>(values.size()) - 1 - k;
+    outputs.push_back(turned(values[at(from < 0 ? 0 : from)], dice.below(4)));
+  }
   graph.set_outputs(outputs);
   return graph;
 }
