@@ -1,5 +1,6 @@
 #include "kernelgen/packed.h"
 
+#include <algorithm>
 #include <map>
 #include <stdexcept>
 
@@ -51,7 +52,10 @@ class Packer {
     packed_.halves = halves;
     packed_.access = access;
     live_.assign(graph.nodes().size(), 0);
-    for (const int node : live_nodes(graph)) live_[at(node)] = 1;
+    for (const int node : live_nodes(graph)) {
+      live_[at(node)] = 1;
+      inputs_ = std::max(inputs_, graph.node(node).input + 1);
+    }
     partner_.assign(graph.nodes().size(), 0);
     if (halves == 2) pair_fans(graph.columns()[0]);
   }
@@ -219,7 +223,7 @@ class Packer {
   /// An input element within the whole vector of its pair; the last of an odd number stands alone.
   Seat seat_of_input(int element) {
     const int even = element - element % 2;
-    if (even + 1 >= static_cast<int>(graph_.outputs().size())) return {load(element, -1), 0};
+    if (even + 1 >= inputs_) return {load(element, -1), 0};
     return {load(even, even + 1), element % 2};
   }
 
@@ -285,6 +289,7 @@ class Packer {
   const Graph& graph_;
   bool whole_pairs_;
   PackedGraph packed_;
+  int inputs_ = 0;  ///< elements that the source has for certain
   std::vector<char> live_;
   std::vector<int> partner_;  ///< 0: none; positive: the second half; negative: minus the first
   std::map<int, Seat> seats_;
