@@ -1,6 +1,7 @@
 #include "kernelgen/packed.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 #include <stdexcept>
 
@@ -47,17 +48,26 @@ WideComplex factor_of(const Graph& graph, const Statement& s) {
 
 class Packer {
  public:
-  Packer(const Graph& graph, int halves, Access access)
+  /// `leftovers` says how far nodes without a column's partner are paired: not at all, where all
+  /// operands stand side by side, or also where one does not.
+  Packer(const Graph& graph, int halves, Access access, int leftovers)
       : graph_(graph), whole_pairs_(halves == 2 && access == Access::pairs) {
     packed_.halves = halves;
     packed_.access = access;
     live_.assign(graph.nodes().size(), 0);
+    users_.resize(graph.nodes().size());
     for (const int node : live_nodes(graph)) {
       live_[at(node)] = 1;
-      inputs_ = std::max(inputs_, graph.node(node).input + 1);
+      const int input = graph.node(node).input;
+      inputs_ = std::max(inputs_, input + 1);
+      if (input >= 0) input_nodes_.emplace(input, node);
+      for (const Term& t : graph.node(node).terms) users_[at(t.node)].push_back(node);
     }
     partner_.assign(graph.nodes().size(), 0);
-    if (halves == 2) pair_fans(graph.columns()[0]);
+    if (halves == 2) {
+      pair_fans(graph.columns()[0]);
+      for (int missing = 0; missing < leftovers; ++missing) pair_leftovers(missing);
+    }
   }
 
   PackedGraph run() {
@@ -71,8 +81,6 @@ class Packer {
   struct Seat {
     int vector = -1;
     int half = 0;
-
-    friend auto operator<=>(const Seat&, const Seat&) = default;
   };
 
   void pair_fans(const Column& column) {
@@ -101,26 +109,100 @@ class Packer {
     }
   }
 
+  bool unpaired(int node) const {
+    return node != kZeroNode && live_[at(node)] && partner_[at(node)] == 0 &&
+           !graph_.node(node).terms.empty();
+  }
+
   void pair_nodes(int a, int b) {
-    const auto free = [&](int node) {
-      return node != kZeroNode && live_[at(node)] && partner_[at(node)] == 0 &&
-             !graph_.node(node).terms.empty();
-    };
-    if (a == b || !free(a) || !free(b)) return;
-    if (shape_of(graph_.node(a)) != shape_of(graph_.node(b))) return;
-    if (depends(a, b) || depends(b, a)) return;
+    if (a == b || !unpaired(a) || !unpaired(b)) return;
+    if (shape_of(graph_.node(a)) != shape_of(graph_.node(b)) || entangled(a, b)) return;
     partner_[at(a)] = b;
     partner_[at(b)] = -a;  // second half
   }
 
-  /// Whether `node` needs `other`; only nodes in between are looked at.
-  bool depends(int node, int other) const {
-    if (node == other) return true;
-    if (node < other) return false;
-    for (const Term& t : graph_.node(node).terms) {
-      if (depends(t.node, other)) return true;
+  /// Whether one vector of both nodes would need itself, by way of other vectors.
+  bool entangled(int a, int b) const {
+    std::vector<char> seen(graph_.nodes().size(), 0);
+    std::vector<int> stack;
+    const auto visit = [&](int node) {
+      if (!seen[at(node)]) {
+        seen[at(node)] = 1;
+        stack.push_back(node);
+      }
+    };
+    const auto visit_operands = [&](int node) {
+      for (const Term& t : graph_.node(node).terms) visit(t.node);
+    };
+    visit_operands(a);
+    visit_operands(b);
+    while (!stack.empty()) {
+      const int node = stack.back();
+      stack.pop_back();
+      if (node == a || node == b) return true;
+      visit_operands(node);
+      if (const int mate = partner_[at(node)]; mate != 0) visit(std::abs(mate));
     }
     return false;
+  }
+
+  /// The node that shares a vector with this one, and which half this one is: a paired node's
+  /// partner, or the neighbour of an input.
+  struct Neighbor {
+    int node = kZeroNode;
+    int half = 0;
+
+    friend bool operator==(const Neighbor&, const Neighbor&) = default;
+  };
+  Neighbor neighbor(int node) const {
+    const int input = graph_.node(node).input;
+    if (input >= 0) {
+      const auto beside = input_nodes_.find(input ^ 1);
+      return beside == input_nodes_.end() ? Neighbor{} : Neighbor{beside->second, input % 2};
+    }
+    const int mate = partner_[at(node)];
+    return {std::abs(mate), mate < 0 ? 1 : 0};
+  }
+
+  /// How many operands of a and b stand side by side in the given order.
+  int joined_operands(int a, int b, int half_of_a) const {
+    int joined = 0;
+    for (std::size_t i = 0; i < graph_.node(a).terms.size(); ++i) {
+      const Neighbor beside = neighbor(graph_.node(a).terms[i].node);
+      joined +=
+          beside == Neighbor{graph_.node(b).terms[i].node, half_of_a} && beside.node != kZeroNode
+              ? 1
+              : 0;
+    }
+    return joined;
+  }
+
+  /// Nodes outside of columns, and in a column without a partner: two of a shape share a vector if
+  /// their operands do, all but `missing` of them.
+  void pair_leftovers(int missing) {
+    for (const int a : live_nodes(graph_)) {
+      if (!unpaired(a)) continue;
+      const Statement& statement = graph_.node(a);
+      const int wanted =
+          (statement.terms.size() == 2 && shape_of(statement).kind == PackedKind::sum ? 2 : 1) -
+          missing;
+      if (wanted < 1) continue;
+      for (const Term& t : statement.terms) {
+        const Neighbor beside = neighbor(t.node);
+        if (beside.node == kZeroNode) continue;
+        for (const int b : users_[at(beside.node)]) {
+          if (!unpaired(b) || b == a || shape_of(graph_.node(b)) != shape_of(statement)) continue;
+          if (joined_operands(a, b, beside.half) < wanted) continue;
+          if (beside.half == 0) {
+            pair_nodes(a, b);
+          } else {
+            pair_nodes(b, a);
+          }
+          if (!unpaired(a)) break;
+        }
+        if (!unpaired(a)) break;
+      }
+    }
   }
 
   int emit(PackedNode node) {
@@ -291,16 +373,48 @@ class Packer {
   PackedGraph packed_;
   int inputs_ = 0;  ///< elements that the source has for certain
   std::vector<char> live_;
+  std::vector<std::vector<int>> users_;
+  std::map<int, int> input_nodes_;
   std::vector<int> partner_;  ///< 0: none; positive: the second half; negative: minus the first
   std::map<int, Seat> seats_;
   std::map<std::array<int, 2>, int> vectors_;
   std::map<std::array<int, 2>, int> loads_;
 };
 
+/// Vector instructions that the packed nodes come to, sign changes and exchanges aside.
+int instructions(const PackedGraph& graph) {
+  int total = 0;
+  for (const PackedNode& node : graph.nodes) {
+    switch (node.kind) {
+      case PackedKind::zero:
+        break;
+      case PackedKind::load:  // filling the upper half from elsewhere is an instruction
+        total += node.element[1] >= 0 && node.element[1] != node.element[0] + 1 ? 1 : 0;
+        break;
+      case PackedKind::rotate:
+        total += 3;
+        break;
+      case PackedKind::sum:
+      case PackedKind::scale:
+      case PackedKind::gather:
+      case PackedKind::store:
+        ++total;
+        break;
+    }
+  }
+  return total;
+}
+
 }  // namespace
 
 PackedGraph pack(const Graph& graph, int elements_per_vector, Access access) {
-  return Packer(graph, elements_per_vector, access).run();
+  PackedGraph best = Packer(graph, elements_per_vector, access, 0).run();
+  if (elements_per_vector == 1) return best;
+  for (const int leftovers : {1, 2}) {
+    PackedGraph other = Packer(graph, elements_per_vector, access, leftovers).run();
+    if (instructions(other) < instructions(best)) best = std::move(other);
+  }
+  return best;
 }
 
 }  // namespace haldgen::kernelgen
