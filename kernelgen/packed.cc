@@ -277,7 +277,9 @@ class Packer {
       const int first = input(nodes[0]);
       const int second = input(nodes[1]);
       if (whole_pairs_ && second >= 0 && !(first % 2 == 0 && second == first + 1)) {
-        return gather(seat_of_input(first), seat_of_input(second));
+        const Seat lower = seat_of_input(first);  // in this order: calls evaluate in none
+        const Seat upper = seat_of_input(second);
+        return gather(lower, upper);
       }
       return load(first, second);
     }
