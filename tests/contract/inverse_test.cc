@@ -14,8 +14,8 @@ namespace {
 constexpr frame::SizeSet reversed_32{19, 23, 37, 61};
 
 // Lengths at which mirror and reversal of the forward kernel need not round alike.
-constexpr frame::SizeSet asymmetric_32{9,  18, 22, 24, 25, 27, 32, 33, 36, 38, 41, 44, 45,
-                                       47, 48, 49, 50, 54, 55, 57, 58, 59, 60, 62, 63, 64};
+constexpr frame::SizeSet asymmetric_32{9,  18, 22, 24, 25, 27, 32, 33, 36, 38, 44, 45, 47,
+                                       48, 49, 50, 54, 55, 57, 58, 59, 60, 62, 63, 64};
 constexpr frame::SizeSet asymmetric_64{11, 22, 25, 29, 31, 33, 43, 44, 46,
                                        47, 49, 50, 55, 58, 59, 61, 62};
 
