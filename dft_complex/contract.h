@@ -1,8 +1,8 @@
 // What every complex kernel does around its arithmetic: the choice of path, the checks and their
 // order, the scale. A kernel is a type with
 //   Float, Element       the element's float type and the public complex type
-//   kLength              2..64
 //   kInverse             which flag selects 1/N
+//   kByLength, kByRoot   1/N and 1/sqrt(N)
 //   kPathsDiffer         whether an aligned and an unaligned path touch memory differently
 //   transform<Access>(src, dst, scale)
 #pragma once

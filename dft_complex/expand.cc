@@ -1,6 +1,5 @@
 // From a recipe to its graph.
 #include <algorithm>
-#include <cstdint>
 #include <map>
 #include <stdexcept>
 

@@ -77,13 +77,13 @@ Programs vector_programs(int length, ElementType type, int seed) {
       kernelgen::pack(expand(recipe_of(length, type), pairs), pairs ? 2 : 1, access_of(length));
   const auto forms = kernelgen::choose_forms(packed, kFormSweeps, seed);
   Programs programs;
-  programs.forward = kernelgen::lower_packed(packed, forms, float_type(type), false);
+  programs.forward = kernelgen::lower_packed(packed, forms, float_type(type));
   if (is_reversed(length, type)) {
     programs.inverse = programs.forward;
     reverse_outputs(programs.inverse, length);
   } else {
     const auto mirrored = kernelgen::choose_mirrored_forms(packed, forms, kFormSweeps, seed);
-    programs.inverse = kernelgen::lower_packed(packed, mirrored, float_type(type), true);
+    programs.inverse = kernelgen::lower_packed(packed, mirrored, float_type(type));
   }
   return programs;
 }

@@ -1,5 +1,4 @@
 // haldgen-generate: writes the source of a kernel, or shows its recipe, counts, graph or code.
-#include <cstdio>
 #include <exception>
 #include <fstream>
 #include <iostream>

@@ -1,7 +1,6 @@
 #include "kernelgen/emit.h"
 
 #include <charconv>
-#include <cmath>
 
 namespace haldgen::kernelgen {
 namespace {

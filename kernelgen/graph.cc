@@ -1,14 +1,11 @@
 #include "kernelgen/graph.h"
 
-#include <cmath>
-#include <stdexcept>
-
 namespace haldgen::kernelgen {
+
 Graph::Graph(Field field) : field_(field) {
   nodes_.emplace_back();         // the zero
   constants_.emplace_back(1.0);  // the absent constant
   columns_.emplace_back();       // the kernel itself
-  fan_sizes_.push_back(1);
 }
 
 ConstantId Graph::intern(Wide magnitude) {
@@ -141,15 +138,13 @@ Value Graph::twiddle(WideComplex w, Value a, bool keep_trivial) {
 void Graph::enter_column(int index, int count) {
   auto& parent = columns_[static_cast<std::size_t>(column_)];
   if (index == 0) parent.fans.emplace_back();
-  const int fan = static_cast<int>(parent.fans.size()) - 1;
   const int id = static_cast<int>(columns_.size());
   parent.fans.back().push_back(id);
   Column column;
   column.parent = column_;
-  column.fan = fan;
   column.index = index;
+  column.count = count;
   columns_.push_back(std::move(column));
-  fan_sizes_.push_back(count);
   column_ = id;
 }
 
@@ -158,7 +153,7 @@ void Graph::leave_column() { column_ = columns_[static_cast<std::size_t>(column_
 bool Graph::inside_pair() const {
   for (int id = column_; id > 0; id = columns_[static_cast<std::size_t>(id)].parent) {
     const Column& column = columns_[static_cast<std::size_t>(id)];
-    if ((column.index ^ 1) < fan_sizes_[static_cast<std::size_t>(id)]) return true;
+    if ((column.index ^ 1) < column.count) return true;
   }
   return false;
 }

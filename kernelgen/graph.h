@@ -68,8 +68,8 @@ struct Statement {
 /// so that columns can be laid side by side in the lanes of a vector.
 struct Column {
   int parent = -1;
-  int fan = -1;   ///< which fan of the parent
-  int index = 0;  ///< which column of that fan
+  int index = 0;  ///< which column of its fan
+  int count = 1;  ///< columns of its fan
   std::vector<Value> calls;
   std::vector<std::vector<int>> fans;  ///< columns of each fan opened inside
 };
@@ -136,7 +136,6 @@ class Graph {
   std::vector<Value> outputs_;
   std::vector<Value> kept_;
   std::vector<Column> columns_;
-  std::vector<int> fan_sizes_;
   int column_ = 0;
 };
 

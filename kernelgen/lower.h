@@ -9,10 +9,9 @@
 
 namespace haldgen::kernelgen {
 
-/// Vector program of a complex kernel, in the order of the packed nodes. `mirrored` exchanges real
-/// and imaginary part at the loads and stores, which turns a forward kernel into the inverse one.
-Program lower_packed(const PackedGraph& graph, const std::vector<Choice>& choices, FloatType type,
-                     bool mirrored);
+/// Vector program of a complex kernel, in the order of the packed nodes. With the choices of the
+/// mirrored kernel, whose loads and stores have exchanged forms, it is the inverse kernel.
+Program lower_packed(const PackedGraph& graph, const std::vector<Choice>& choices, FloatType type);
 
 /// The real graph of a complex one: inputs and outputs 2k and 2k+1 are the parts of element k.
 Graph split_parts(const Graph& graph);

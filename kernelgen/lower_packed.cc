@@ -10,9 +10,8 @@ std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 class PackedLowering {
  public:
-  PackedLowering(const PackedGraph& graph, const std::vector<Choice>& choices, FloatType type,
-                 bool mirrored)
-      : graph_(graph), choices_(choices), mirrored_(mirrored) {
+  PackedLowering(const PackedGraph& graph, const std::vector<Choice>& choices, FloatType type)
+      : graph_(graph), choices_(choices) {
     program_.type = type;
     program_.lanes = 2 * graph.halves;
     demanded_.resize(graph.nodes.size());
@@ -34,11 +33,7 @@ class PackedLowering {
   }
 
  private:
-  Choice choice(int node) const {
-    Choice c = choices_[at(node)];
-    if (mirrored_ && graph_.nodes[at(node)].kind == PackedKind::store) c.form.exchanged = 1;
-    return c;
-  }
+  const Choice& choice(int node) const { return choices_[at(node)]; }
 
   void collect_demands(int node) {
     const PackedNode& n = graph_.nodes[at(node)];
@@ -264,7 +259,6 @@ class PackedLowering {
 
   const PackedGraph& graph_;
   const std::vector<Choice>& choices_;
-  bool mirrored_;
   Program program_;
   std::vector<std::vector<Form>> demanded_;
   std::vector<int> orders_;  ///< bit p: some use takes lane order p with any signs
@@ -273,9 +267,8 @@ class PackedLowering {
 
 }  // namespace
 
-Program lower_packed(const PackedGraph& graph, const std::vector<Choice>& choices, FloatType type,
-                     bool mirrored) {
-  return PackedLowering(graph, choices, type, mirrored).run();
+Program lower_packed(const PackedGraph& graph, const std::vector<Choice>& choices, FloatType type) {
+  return PackedLowering(graph, choices, type).run();
 }
 
 }  // namespace haldgen::kernelgen

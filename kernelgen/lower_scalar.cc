@@ -1,29 +1,12 @@
 #include <algorithm>
 
+#include "kernelgen/element.h"
 #include "kernelgen/lower.h"
 
 namespace haldgen::kernelgen {
 namespace {
 
 std::size_t at(int i) { return static_cast<std::size_t>(i); }
-
-struct RealParts {
-  Value re;
-  Value im;
-};
-
-RealParts turned(RealParts v, int turns) {
-  switch (turns & 3) {
-    case 1:
-      return {-v.im, v.re};
-    case 2:
-      return {-v.re, -v.im};
-    case 3:
-      return {v.im, -v.re};
-    default:
-      return v;
-  }
-}
 
 std::vector<int> use_counts(const Graph& graph) {
   std::vector<int> uses(graph.nodes().size(), 0);
@@ -131,10 +114,8 @@ class ScalarLowering {
         result = emit(minus == negative ? Op::add : Op::subtract, result, next, flag);
       }
     }
-    if (wide && mixed()) {
-      wide_[at(node)] = -1;  // later statements widen the narrowed value anew
-      result = emit(Op::narrow, result, -1, true);
-    }
+    // Statements that need the value in 64 bits widen the narrowed one.
+    if (wide && mixed()) result = emit(Op::narrow, result, -1, true);
     narrow_[at(node)] = result;
   }
 
@@ -148,28 +129,26 @@ class ScalarLowering {
 
 Graph split_parts(const Graph& graph) {
   Graph result(Field::real);
-  std::vector<RealParts> parts(graph.nodes().size());
+  std::vector<Parts> parts(graph.nodes().size());
   for (const int node : live_nodes(graph)) {
     const Statement& s = graph.node(node);
     if (s.input >= 0) {
-      const Value re = result.input(2 * s.input);
-      parts[at(node)] = {re, result.input(2 * s.input + 1)};
+      parts[at(node)] = {&result, result.input(2 * s.input), result.input(2 * s.input + 1)};
       continue;
     }
     std::vector<Term> re, im;
     for (const Term& t : s.terms) {
       const ConstantId constant =
           t.constant == kNoConstant ? kNoConstant : result.intern(graph.constant(t.constant));
-      const RealParts operand = turned(parts[at(t.node)], t.turn);
+      const Parts operand = turned(parts[at(t.node)], t.turn);
       re.push_back({operand.re.turn, constant, operand.re.node});
       im.push_back({operand.im.turn, constant, operand.im.node});
     }
-    const Value re_value = result.statement(re);
-    parts[at(node)] = {re_value, result.statement(im)};
+    parts[at(node)] = {&result, result.statement(re), result.statement(im)};
   }
   std::vector<Value> outputs;
   for (const Value v : graph.outputs()) {
-    const RealParts p = turned(parts[at(v.node)], v.turn);
+    const Parts p = turned(parts[at(v.node)], v.turn);
     outputs.push_back(p.re);
     outputs.push_back(p.im);
   }

@@ -180,27 +180,27 @@ class Packer {
   /// Nodes outside of columns, and in a column without a partner: two of a shape share a vector if
   /// their operands do, all but `missing` of them.
   void pair_leftovers(int missing) {
-    for (const int a : live_nodes(graph_)) {
-      if (!unpaired(a)) continue;
-      const Statement& statement = graph_.node(a);
-      const int wanted =
-          (statement.terms.size() == 2 && shape_of(statement).kind == PackedKind::sum ? 2 : 1) -
-          missing;
-      if (wanted < 1) continue;
-      for (const Term& t : statement.terms) {
-        const Neighbor beside = neighbor(t.node);
-        if (beside.node == kZeroNode) continue;
-        for (const int b : users_[at(beside.node)]) {
-          if (!unpaired(b) || b == a || shape_of(graph_.node(b)) != shape_of(statement)) continue;
-          if (joined_operands(a, b, beside.half) < wanted) continue;
-          if (beside.half == 0) {
-            pair_nodes(a, b);
-          } else {
-            pair_nodes(b, a);
-          }
-          if (!unpaired(a)) break;
+    for (const int node : live_nodes(graph_)) {
+      if (!unpaired(node)) continue;
+      const int slots = shape_of(graph_.node(node)).kind == PackedKind::sum ? 2 : 1;
+      if (slots > missing) pair_beside(node, slots - missing);
+    }
+  }
+
+  /// Pairs a node with one of its shape of whose operands at least `wanted` stand beside its own.
+  void pair_beside(int a, int wanted) {
+    for (const Term& t : graph_.node(a).terms) {
+      const Neighbor beside = neighbor(t.node);
+      if (beside.node == kZeroNode) continue;
+      for (const int b : users_[at(beside.node)]) {
+        if (!unpaired(b) || shape_of(graph_.node(b)) != shape_of(graph_.node(a))) continue;
+        if (joined_operands(a, b, beside.half) < wanted) continue;
+        if (beside.half == 0) {
+          pair_nodes(a, b);
+        } else {
+          pair_nodes(b, a);
         }
-        if (!unpaired(a)) break;
+        if (!unpaired(a)) return;
       }
     }
   }

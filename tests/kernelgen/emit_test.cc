@@ -89,7 +89,7 @@ TEST(Emit, IsTheSameOnEveryCall) {
   for (std::uint32_t seed = 0; seed < 10; ++seed) {
     const auto body = [&] {
       const PackedGraph packed = pack(test::random_complex_graph(seed), 2);
-      return emit_body(lower_packed(packed, choose_forms(packed, 5), FloatType::f32, false));
+      return emit_body(lower_packed(packed, choose_forms(packed, 5), FloatType::f32));
     };
     const std::string first = body();
     EXPECT_EQ(body(), first);

@@ -105,7 +105,7 @@ void for_all_lowerings(const Check& check) {
         Dice dice(seed);
         for (const auto& choices :
              {choose(packed, mirrored), wild_choices(packed, mirrored, dice)}) {
-          const Program program = lower_packed(packed, choices, type, mirrored);
+          const Program program = lower_packed(packed, choices, type);
           ASSERT_NO_FATAL_FAILURE(check(graph, packed, choices, program, mirrored))
               << "seed " << seed << " halves " << halves << " mirrored " << mirrored;
         }
@@ -173,8 +173,8 @@ void expect_mirror(const PackedGraph& packed, const std::vector<Choice>& forward
                    std::vector<Float> source, std::size_t outputs) {
   const auto mirrored = choose_mirrored_forms(packed, forward, kSweeps);
   std::vector<Float> plain(2 * outputs), mirror(2 * outputs);
-  interpret(lower_packed(packed, forward, type, false), source, Float{1}, plain);
-  interpret(lower_packed(packed, mirrored, type, true), exchanged_parts(source), Float{1}, mirror);
+  interpret(lower_packed(packed, forward, type), source, Float{1}, plain);
+  interpret(lower_packed(packed, mirrored, type), exchanged_parts(source), Float{1}, mirror);
   mirror = exchanged_parts(mirror);
   ASSERT_EQ(std::memcmp(plain.data(), mirror.data(), plain.size() * sizeof(Float)), 0);
 }
@@ -322,7 +322,7 @@ TEST(Packing, PairsAreReadAsWholeVectorsInsideTheArray) {
 TEST(Packing, SinglesAreNeverReadOrWrittenAsWholeVectors) {
   for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
     const PackedGraph packed = pack(test::random_complex_graph(seed), 2, Access::singles);
-    const Program program = lower_packed(packed, choose_forms(packed, 1), FloatType::f32, false);
+    const Program program = lower_packed(packed, choose_forms(packed, 1), FloatType::f32);
     ASSERT_EQ(count_ops(program, {Op::load, Op::store}), 0) << "seed " << seed;
   }
 }

@@ -22,7 +22,7 @@ constexpr Order kOrders[] = {Order::program, Order::bisection, Order::pressure, 
 Program vector_program(std::uint32_t seed, int halves) {
   const PackedGraph packed = pack(test::random_complex_graph(seed), halves);
   return lower_packed(packed, choose_forms(packed, 5),
-                      halves == 2 ? FloatType::f32 : FloatType::f64, false);
+                      halves == 2 ? FloatType::f32 : FloatType::f64);
 }
 
 Program scalar_program(std::uint32_t seed) {
