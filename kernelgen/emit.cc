@@ -19,7 +19,7 @@ class Printer {
   explicit Printer(const Program& program) : program_(program) {}
 
   std::string run() {
-    if (!scalar()) define_scales();
+    if (!scalar() && program_.memory == Memory::arrays) define_scales();
     for (std::size_t i = 0; i < program_.code.size(); ++i) print(static_cast<int>(i));
     return std::move(text_);
   }
@@ -75,10 +75,18 @@ class Printer {
     return text + "}";
   }
 
+  std::string slot(const Instruction& in) const {
+    return "<" + std::to_string(in.address[0] / program_.lanes) + ">";
+  }
+
   void print(int index) {
     const Instruction& in = program_.code[static_cast<std::size_t>(index)];
     const std::string a = name(in.a);
     const std::string b = name(in.b);
+    if (program_.memory == Memory::slots) {
+      if (in.op == Op::load) return define(index, "io.template load" + slot(in) + "()");
+      if (in.op == Op::store) return line("io.template store" + slot(in) + "(" + a + ");");
+    }
     switch (in.op) {
       case Op::load:
         return define(index, scalar() ? "src[" + std::to_string(in.address[0]) + "]"
@@ -98,6 +106,12 @@ class Printer {
         return define(index, "lanes::alternate(" + a + ", " + b + ")");
       case Op::multiply:
         return define(index, constants(in) + " * " + a);
+      case Op::product:
+        return define(index, a + " * " + b);
+      case Op::interleave_lower:
+        return define(index, "lanes::interleave_lower(" + a + ", " + b + ")");
+      case Op::interleave_upper:
+        return define(index, "lanes::interleave_upper(" + a + ", " + b + ")");
       case Op::sign:
         return define(index, "lanes::change_sign(" + a + ", " + constants(in) + ")");
       case Op::exchange:

@@ -40,6 +40,18 @@ inline __m128 gather(__m128 a, __m128 b) {
   }
 }
 
+/// Lanes of the lower, or of the upper, halves of a and b in turns.
+inline __m128d interleave_lower(__m128d a, __m128d b) { return _mm_unpacklo_pd(a, b); }
+inline __m128 interleave_lower(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b); }
+inline __m128d interleave_upper(__m128d a, __m128d b) { return _mm_unpackhi_pd(a, b); }
+inline __m128 interleave_upper(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
+
+/// All lanes in the opposite order.
+inline __m128d reversed(__m128d a) { return exchange(a); }
+inline __m128 reversed(__m128 a) {
+  return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a), 0x1B));
+}
+
 // Copied, since a float's address need not do for a double.
 inline __m128 load_single(const float* from) {
   double element;

@@ -1,6 +1,7 @@
 // Lowering: from packed nodes and the forms chosen for them, or from a scalar graph, to a program.
 #pragma once
 
+#include <map>
 #include <vector>
 
 #include "kernelgen/forms.h"
@@ -23,6 +24,21 @@ Graph gather_statements(const Graph& graph);
 
 /// Marks the statements with constants as wide: 64-bit arithmetic, narrowed once.
 void widen_products(Graph& graph);
+
+/// What a lane-parallel program takes from memory besides its sequences.
+struct LaneInputs {
+  int lanes = 1;  ///< 1 for a scalar program over arrays
+  /// The constants that are read at run time, and their places in the table behind the inputs.
+  std::map<ConstantId, int> table;
+  /// Each sequence lies contiguous in memory: slot k holds elements V (k/V) ... of sequence k mod
+  /// V, and loading transposes squares of V by V. Else slot k holds element k of all V sequences.
+  bool transposed = false;
+};
+
+/// Program of a real graph over V independent sequences, one in each lane, without a scale.
+/// Products and sums of two are its only statements. What the graph holds negated is turned around
+/// inside, so that no instruction is added unless an output is a negated input.
+Program lower_lanes(const Graph& graph, FloatType type, const LaneInputs& inputs);
 
 /// Scalar program of a real graph.
 Program lower_scalar(const Graph& graph, FloatType type);

@@ -54,6 +54,15 @@ void interpret_as(const Program& program, const std::vector<Float>& source, Floa
       case Op::multiply:
         each([&](std::size_t l) { return rounded(a.lane[l] * in.constant[l]); });
         break;
+      case Op::product:
+        each([&](std::size_t l) { return rounded(a.lane[l] * b.lane[l]); });
+        break;
+      case Op::interleave_lower:
+      case Op::interleave_upper: {
+        const std::size_t first = in.op == Op::interleave_upper ? lanes / 2 : 0;
+        each([&](std::size_t l) { return (l % 2 == 0 ? a : b).lane[first + l / 2]; });
+        break;
+      }
       case Op::sign:
         each([&](std::size_t l) { return 1.0 / in.constant[l] < 0 ? -a.lane[l] : a.lane[l]; });
         break;

@@ -14,12 +14,15 @@ enum class Op {
   load_pair,    ///< two elements, from `address[0]` into the lower and `address[1]` the upper half
   load_single,  ///< one element into the lower half, zeros above
   zero,
-  add,        ///< a + b
-  subtract,   ///< a - b
-  alternate,  ///< a - b in even lanes, a + b in odd lanes
-  multiply,   ///< a times the constants
-  sign,       ///< lanes of a negated where the constant is -0
-  exchange,   ///< lanes 2j and 2j+1 of a exchanged
+  add,               ///< a + b
+  subtract,          ///< a - b
+  alternate,         ///< a - b in even lanes, a + b in odd lanes
+  multiply,          ///< a times the constants
+  product,           ///< a * b, for factors that are known at run time only
+  interleave_lower,  ///< lanes of the lower halves of a and b in turns
+  interleave_upper,  ///< lanes of the upper halves of a and b in turns
+  sign,              ///< lanes of a negated where the constant is -0
+  exchange,          ///< lanes 2j and 2j+1 of a exchanged
   gather,  ///< element half[0] of a below element half[1] of b, each exchanged if cross[.] says so
   negate,  ///< 0 - a
   widen,   ///< the 64-bit value of a 32-bit one
@@ -44,10 +47,16 @@ struct Instruction {
 
 enum class FloatType { f32, f64 };
 
+/// What the addresses of a program mean. Arrays: floats from the bases of `src` and `dst`, which
+/// may be one array. Slots: an accessor `io` knows where each whole vector lies, vector k being
+/// loaded or stored at the address k times the lanes; it never loads what the program has stored.
+enum class Memory { arrays, slots };
+
 struct Program {
   FloatType type = FloatType::f64;
   int lanes = 1;  ///< floats in a vector; 1 for scalar programs
   std::vector<Instruction> code;
+  Memory memory = Memory::arrays;
 };
 
 bool is_load(Op op);

@@ -10,8 +10,8 @@ namespace {
 
 std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
-/// Who needs what. In place a store overwrites an input, so every load of a place comes before the
-/// store to it: an edge that orders but holds no register.
+/// Who needs what. In place a store overwrites an input, so every load of an array's place comes
+/// before the store to it: an edge that orders but holds no register.
 struct Dependences {
   explicit Dependences(const Program& program) : operands(program.code.size()), users(operands) {
     std::map<int, std::vector<int>> loads;  // by address
@@ -25,6 +25,7 @@ struct Dependences {
         }
       }
       for (const int address : touched(program, in)) {
+        if (program.memory == Memory::slots) continue;
         if (is_load(in.op)) loads[address].push_back(index);
         if (is_store(in.op)) stores_.emplace_back(index, address);
       }
@@ -227,6 +228,7 @@ class ListSchedule {
       case Op::subtract:
       case Op::alternate:
       case Op::multiply:
+      case Op::product:
       case Op::scale:
         return 3;
       case Op::widen:
