@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "dft_complex/kernel.h"
+#include "generate/dct4.h"
 #include "kernelgen/dot.h"
 
 namespace {
@@ -22,6 +23,9 @@ constexpr std::string_view kUsage =
     "usage: haldgen-generate counts\n"
     "       haldgen-generate recipe|counts|graph|code complex LENGTH 32fc|64fc\n"
     "       haldgen-generate source complex LENGTH 32fc|64fc FILE [ORDER:CAP:SEED]\n"
+    "       haldgen-generate counts dct4\n"
+    "       haldgen-generate counts|graph|code dct4 KERNEL 32f|64f\n"
+    "       haldgen-generate source dct4 KERNEL 32f|64f FILE [ORDER:CAP]\n"
     "  counts   operation counts of all kernels, or of one, as a table\n"
     "  recipe   the factorisation of a kernel\n"
     "  graph    its statements for Graphviz\n"
@@ -74,6 +78,10 @@ void write_file(const std::string& path, const std::string& text) {
 
 void run(const std::vector<std::string>& args) {
   if (args.size() == 1 && args[0] == "counts") return print_all_counts();
+  if (args.size() >= 2 && args[1] == "dct4") {
+    if (haldgen::generate::run_dct4(args, write_file)) return;
+    throw UsageError("arguments");
+  }
   if (args.size() < 4 || args[1] != "complex") throw UsageError("arguments");
   const std::string& command = args[0];
   const int length = std::stoi(args[2]);

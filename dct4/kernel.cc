@@ -1,0 +1,162 @@
+#include "dct4/kernel.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+#include <vector>
+
+#include "kernelgen/count.h"
+#include "kernelgen/emit.h"
+#include "kernelgen/lower.h"
+
+namespace haldgen::dct4 {
+namespace {
+
+using kernelgen::FloatType;
+using kernelgen::Graph;
+using kernelgen::LaneInputs;
+using kernelgen::Program;
+
+/// Lengths whose rotations stand for those of any block: none of their angles is one that a
+/// recombination has inside, so each of their constants is an entry of the table.
+int stand_in_length(const Kernel& kernel) {
+  return (kernel.part == Part::recombine ? 64 : 32) * kernel.size;
+}
+
+std::vector<kernelgen::WideComplex> stand_in_rotations(const Kernel& kernel) {
+  switch (kernel.part) {
+    case Part::recombine:
+      return block_rotations(kernel.size, stand_in_length(kernel), 0);
+    case Part::inner_recombine:
+      return inner_block_rotations(kernel.size, stand_in_length(kernel), 0);
+    default:
+      return {};
+  }
+}
+
+int lanes(FloatType type) { return type == FloatType::f32 ? 4 : 2; }
+
+std::vector<Kernel> all_kernels() {
+  std::vector<Kernel> all;
+  for (const FloatType type : {FloatType::f32, FloatType::f64}) {
+    for (const int length : {2, 4, 8, 16, 32}) all.push_back({Part::fixed, length, type});
+    for (const int length : {2, 4, 8, 16, 32, 64}) all.push_back({Part::fold, length, type});
+    // A radix is a multiple of the lanes.
+    for (int radix = lanes(type); radix <= 32; radix *= 2) {
+      all.push_back({Part::recombine, radix, type});
+    }
+    for (const int radix : {2, 4, 8, 16, 32}) all.push_back({Part::inner_recombine, radix, type});
+  }
+  return all;
+}
+
+std::string_view word(Part part) {
+  switch (part) {
+    case Part::fixed:
+      return "fixed";
+    case Part::fold:
+      return "fold";
+    case Part::recombine:
+      return "recombine";
+    case Part::inner_recombine:
+      return "inner_recombine";
+  }
+  throw std::logic_error("unknown part");
+}
+
+std::string title(const Kernel& kernel) {
+  const std::string size = std::to_string(kernel.size);
+  switch (kernel.part) {
+    case Part::fixed:
+      return "DCT-IV of length " + size;
+    case Part::fold:
+      return "Fold of length " + size;
+    case Part::recombine:
+      return "Rotation and recombination of radix " + size;
+    case Part::inner_recombine:
+      return "Step of radix " + size + " from folds to a longer fold";
+  }
+  throw std::logic_error("unknown part");
+}
+
+std::string head_comment(const Kernel& kernel) {
+  const kernelgen::Counts counts = kernelgen::count(kernel_graph(kernel));
+  return "// " + title(kernel) + ", " + (kernel.type == FloatType::f32 ? "32" : "64") +
+         "-bit elements. Generated; do not edit.\n//   " + std::to_string(counts.additions) +
+         " additions, " + std::to_string(counts.multiplications) + " multiplications, depth " +
+         std::to_string(counts.depth) + (kernel.part == Part::fixed ? "" : " in each lane") + "\n";
+}
+
+std::string fixed_function(const Kernel& kernel, const Program& program) {
+  const std::string type = kernel.type == FloatType::f32 ? "float" : "double";
+  return "void " + name(kernel) + "(const " + type + "* src, " + type + "* dst) {\n" +
+         emit_body(program) + "}\n";
+}
+
+/// The body as a template over the accessor of its slots, and the pass that runs it.
+std::string pass_function(const Kernel& kernel, const Program& program) {
+  const std::string type = kernel.type == FloatType::f32 ? "float" : "double";
+  const std::string vector = kernel.type == FloatType::f32 ? "__m128" : "__m128d";
+  const std::string pass = kernel.part == Part::fold        ? "Fold"
+                           : kernel.part == Part::recombine ? "Recombine"
+                                                            : "InnerRecombine";
+  return "namespace {\n\nstruct Body {\n  using Float = " + type + ";\n  using V = " + vector +
+         ";\n  static constexpr int kSize = " + std::to_string(kernel.size) +
+         ";\n\n  template <class Io>\n  static inline void run(const Io& io) {\n" +
+         emit_body(program) + "  }\n};\n\n}  // namespace\n\nvoid " + name(kernel) + "(const " +
+         pass + "Run<" + type + ">& run) {\n  run_" + std::string(word(kernel.part)) +
+         "<Body>(run);\n}\n";
+}
+
+}  // namespace
+
+std::span<const Kernel> kernels() {
+  static const std::vector<Kernel> all = all_kernels();
+  return all;
+}
+
+std::string name(const Kernel& kernel) {
+  return std::string(word(kernel.part)) + "_" + std::to_string(kernel.size);
+}
+
+Ordering ordering_of(const Kernel& /*kernel*/) { return {}; }
+
+Graph kernel_graph(const Kernel& kernel) {
+  switch (kernel.part) {
+    case Part::fixed:
+      return fixed_graph(kernel.size);
+    case Part::fold:
+      return fold_graph(kernel.size);
+    case Part::recombine:
+      return recombine_graph(kernel.size, stand_in_length(kernel), 0);
+    case Part::inner_recombine:
+      return inner_recombine_graph(kernel.size, stand_in_length(kernel), 0);
+  }
+  throw std::logic_error("unknown part");
+}
+
+Program kernel_program(const Kernel& kernel, const Ordering& ordering) {
+  Graph graph = kernel_graph(kernel);
+  LaneInputs inputs;
+  inputs.lanes = kernel.part == Part::fixed ? 1 : lanes(kernel.type);
+  inputs.transposed = kernel.part == Part::recombine;
+  int entries = 0;
+  for (const kernelgen::WideComplex& w : stand_in_rotations(kernel)) {
+    inputs.table[graph.intern(w.re)] = entries++;
+    inputs.table[graph.intern(w.im)] = entries++;
+  }
+  if (static_cast<int>(inputs.table.size()) != entries) {
+    throw std::logic_error("two entries of a table are taken for one");
+  }
+  return scheduled(lower_lanes(graph, kernel.type, inputs), ordering.order, ordering.cap);
+}
+
+std::string kernel_source(const Kernel& kernel, const Ordering& ordering) {
+  const Program program = kernel_program(kernel, ordering);
+  return head_comment(kernel) + "#include \"dct4/passes.h\"\n\nnamespace haldgen::dct4 {\n" +
+         (kernel.part == Part::fixed ? "\n" + fixed_function(kernel, program)
+                                     : pass_function(kernel, program)) +
+         "\n}  // namespace haldgen::dct4\n";
+}
+
+}  // namespace haldgen::dct4

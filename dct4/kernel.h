@@ -1,0 +1,47 @@
+// From a part of the DCT-IV to its generated kernel: graph, program and source file.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "dct4/factorisation.h"
+#include "kernelgen/program.h"
+#include "kernelgen/schedule.h"
+
+namespace haldgen::dct4 {
+
+/// The kernels: whole transforms, scalar, and the bodies of the passes of planned transforms, each
+/// over as many sequences or blocks as a vector has lanes.
+enum class Part { fixed, fold, recombine, inner_recombine };
+
+struct Kernel {
+  Part part;
+  int size;  ///< length of a transform or fold, radix of a recombination
+  kernelgen::FloatType type;
+};
+
+/// All kernels of the library.
+std::span<const Kernel> kernels();
+
+/// Such as "fold_16".
+std::string name(const Kernel& kernel);
+
+/// The order of a program's instructions; the cap of live values matters to list schedules only.
+struct Ordering {
+  kernelgen::Order order = kernelgen::Order::bisection;
+  int cap = 0;
+};
+
+/// The frozen choice for a kernel.
+Ordering ordering_of(const Kernel& kernel);
+
+/// What one sequence or block costs, and what is computed from it. Recombinations are those of
+/// block 0; other blocks differ in their rotations only.
+kernelgen::Graph kernel_graph(const Kernel& kernel);
+
+kernelgen::Program kernel_program(const Kernel& kernel, const Ordering& ordering);
+
+/// The source file of a kernel.
+std::string kernel_source(const Kernel& kernel, const Ordering& ordering);
+
+}  // namespace haldgen::dct4
