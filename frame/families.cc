@@ -20,6 +20,7 @@ constexpr std::array<Element, 2> no_arrays{Element::none, Element::none};
 constexpr SizeSet not_built{};
 constexpr SizeSet complex_built(Range{2, 64});
 constexpr SizeSet version_built{0};
+constexpr SizeSet dct4_built{0};
 
 constexpr std::string_view forward_complex_definition =
     R"(    X[k] = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k, n = 0..N-1
@@ -62,6 +63,66 @@ constexpr std::string_view general_length_result =
 constexpr std::string_view version_result =
     R"(@return The record of this build: always the same pointer, never null. It belongs to the library;
         do not change or free it.)";
+
+constexpr std::string_view dct4_size_definition =
+    R"(Lengths are the powers of two from 2 to 2^26 (_32f) or 2^25 (_64f). Accepted as well, but no
+DCT-IV, are numbers 2^k + 1 from 33 (_32f) or 9 (_64f) to one more than those limits: their
+transform writes 2^k outputs. Beyond, set-up refuses every length; sizes are then sums that wrap
+around in 32 bits, and are refused only where they come out negative.
+
+@param length  N.
+@param size    receives the number of bytes of a state of this length.)";
+
+constexpr std::string_view dct4_size_result =
+    R"(@return haldStatusNullPointer if size is null, whatever the length is; else haldStatusSizeError
+        if there is no such length; else haldStatusOk. size is written only if haldStatusOk is
+        returned.)";
+
+constexpr std::string_view dct4_init_definition =
+    R"(Builds a state, with all its tables. The state lies in the buffer, generally not at its start,
+and lasts until the buffer is dropped; there is nothing to release besides.
+
+@param state   receives the state.
+@param length  N.
+@param buffer  at least as many bytes as the size query says for this length and element type,
+               at any alignment.)";
+
+constexpr std::string_view dct4_init_result =
+    R"(@return haldStatusNullPointer if state or buffer is null; else haldStatusSizeError if there is no
+        such length; else haldStatusOk. Nothing is written unless haldStatusOk is returned.)";
+
+constexpr std::string_view dct4_init_alloc_definition =
+    R"(The same in memory from haldMalloc; the state must be released.
+
+@param state   receives the state.
+@param length  N.)";
+
+constexpr std::string_view dct4_init_alloc_result =
+    R"(@return haldStatusNullPointer if state is null; else haldStatusSizeError if there is no such
+        length; else haldStatusNullPointer if there is no memory; else haldStatusOk. state is
+        written only if haldStatusOk is returned.)";
+
+constexpr std::string_view dct4_free_definition =
+    R"(Releases a state that was set up with allocation. Not for states in a buffer of the caller.
+
+@param state   the state.)";
+
+constexpr std::string_view dct4_free_result =
+    R"(@return haldStatusNullPointer if state is null; else haldStatusOk.)";
+
+constexpr std::string_view dct4_definition =
+    R"(    y[k] = sum over n of x[n] * cos(pi/N * (n + 1/2) * (k + 1/2)),   k, n = 0..N-1
+
+There is no scale: applied twice, the transform multiplies by N/2. From length 64 up a state
+holds scratch memory and can serve one call at a time; different states are independent.
+
+@param src     N elements x[0..N-1]; only read.
+@param dst     N elements y[0..N-1].
+@param state   a state of length N for this element type.)";
+
+constexpr std::string_view dct4_result =
+    R"(@return haldStatusNullPointer if state, src or dst is null; else haldStatusBadArgument if state is
+        not a state; else haldStatusOk. dst is written only if haldStatusOk is returned.)";
 
 using S = Signature;
 
@@ -232,43 +293,16 @@ constexpr Family table[] = {
      {},
      {}},
 
-    {"DCT4GetSize",
-     S::length_query,
-     real,
-     no_size,
-     not_built,
-     Scaling::none,
-     "DCT-IV, size of the state",
-     {},
-     {}},
-    {"DCT4Init",
-     S::plan_init,
-     real,
-     no_size,
-     not_built,
-     Scaling::none,
-     "DCT-IV, set-up in a buffer of the caller",
-     {},
-     {}},
-    {"DCT4InitAlloc",
-     S::plan_init_alloc,
-     real,
-     no_size,
-     not_built,
-     Scaling::none,
-     "DCT-IV, set-up with allocation",
-     {},
-     {}},
-    {"DCT4Free", S::plan_free, real, no_size, not_built, Scaling::none, "DCT-IV, release", {}, {}},
-    {"DCT4",
-     S::planned_transform,
-     real,
-     no_size,
-     not_built,
-     Scaling::none,
-     "DCT-IV, transform",
-     {},
-     {}},
+    {"DCT4GetSize", S::length_query, real, no_size, dct4_built, Scaling::none,
+     "DCT-IV, size of the state", dct4_size_definition, dct4_size_result},
+    {"DCT4Init", S::plan_init, real, no_size, dct4_built, Scaling::none,
+     "DCT-IV, set-up in a buffer of the caller", dct4_init_definition, dct4_init_result},
+    {"DCT4InitAlloc", S::plan_init_alloc, real, no_size, dct4_built, Scaling::none,
+     "DCT-IV, set-up with allocation", dct4_init_alloc_definition, dct4_init_alloc_result},
+    {"DCT4Free", S::plan_free, real, no_size, dct4_built, Scaling::none, "DCT-IV, release",
+     dct4_free_definition, dct4_free_result},
+    {"DCT4", S::planned_transform, real, no_size, dct4_built, Scaling::none, "DCT-IV, transform",
+     dct4_definition, dct4_result},
 
     {"GetLibVersion",
      S::version,

@@ -77,6 +77,9 @@ typedef struct {
   const char* buildDate;   /**< date of the build */
 } LibraryVersion;
 
+/** A planned DCT-IV; what is in it concerns the library alone. */
+typedef struct Dct4State Dct4State;
+
 /**
  * @name Forward complex DFT, fixed length
  *
@@ -409,6 +412,91 @@ int32_t haldgDFTInv_CToC_64_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
  */
 int32_t haldgDFTInv_CToC_32fc(const Cplx32* src, Cplx32* dst, int32_t length, int32_t flag);
 int32_t haldgDFTInv_CToC_64fc(const Cplx64* src, Cplx64* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name DCT-IV, size of the state
+ *
+ * Lengths are the powers of two from 2 to 2^26 (_32f) or 2^25 (_64f). Accepted as well, but no
+ * DCT-IV, are numbers 2^k + 1 from 33 (_32f) or 9 (_64f) to one more than those limits: their
+ * transform writes 2^k outputs. Beyond, set-up refuses every length; sizes are then sums that wrap
+ * around in 32 bits, and are refused only where they come out negative.
+ *
+ * @param length  N.
+ * @param size    receives the number of bytes of a state of this length.
+ * @return haldStatusNullPointer if size is null, whatever the length is; else haldStatusSizeError
+ *         if there is no such length; else haldStatusOk. size is written only if haldStatusOk is
+ *         returned.
+ * @{
+ */
+int32_t haldgDCT4GetSize_32f(int32_t length, int32_t* size);
+int32_t haldgDCT4GetSize_64f(int32_t length, int32_t* size);
+/** @} */
+
+/**
+ * @name DCT-IV, set-up in a buffer of the caller
+ *
+ * Builds a state, with all its tables. The state lies in the buffer, generally not at its start,
+ * and lasts until the buffer is dropped; there is nothing to release besides.
+ *
+ * @param state   receives the state.
+ * @param length  N.
+ * @param buffer  at least as many bytes as the size query says for this length and element type,
+ *                at any alignment.
+ * @return haldStatusNullPointer if state or buffer is null; else haldStatusSizeError if there is no
+ *         such length; else haldStatusOk. Nothing is written unless haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDCT4Init_32f(Dct4State** state, int32_t length, uint8_t* buffer);
+int32_t haldgDCT4Init_64f(Dct4State** state, int32_t length, uint8_t* buffer);
+/** @} */
+
+/**
+ * @name DCT-IV, set-up with allocation
+ *
+ * The same in memory from haldMalloc; the state must be released.
+ *
+ * @param state   receives the state.
+ * @param length  N.
+ * @return haldStatusNullPointer if state is null; else haldStatusSizeError if there is no such
+ *         length; else haldStatusNullPointer if there is no memory; else haldStatusOk. state is
+ *         written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDCT4InitAlloc_32f(Dct4State** state, int32_t length);
+int32_t haldgDCT4InitAlloc_64f(Dct4State** state, int32_t length);
+/** @} */
+
+/**
+ * @name DCT-IV, release
+ *
+ * Releases a state that was set up with allocation. Not for states in a buffer of the caller.
+ *
+ * @param state   the state.
+ * @return haldStatusNullPointer if state is null; else haldStatusOk.
+ * @{
+ */
+int32_t haldgDCT4Free_32f(Dct4State* state);
+int32_t haldgDCT4Free_64f(Dct4State* state);
+/** @} */
+
+/**
+ * @name DCT-IV, transform
+ *
+ *     y[k] = sum over n of x[n] * cos(pi/N * (n + 1/2) * (k + 1/2)),   k, n = 0..N-1
+ *
+ * There is no scale: applied twice, the transform multiplies by N/2. From length 64 up a state
+ * holds scratch memory and can serve one call at a time; different states are independent.
+ *
+ * @param src     N elements x[0..N-1]; only read.
+ * @param dst     N elements y[0..N-1].
+ * @param state   a state of length N for this element type.
+ * @return haldStatusNullPointer if state, src or dst is null; else haldStatusBadArgument if state is
+ *         not a state; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDCT4_32f(const float* src, float* dst, Dct4State* state);
+int32_t haldgDCT4_64f(const double* src, double* dst, Dct4State* state);
 /** @} */
 
 /**

@@ -1,0 +1,133 @@
+#include "dct4/size.h"
+
+#include "dct4/arena.h"
+#include "dct4/plan.h"
+
+namespace haldgen::dct4 {
+namespace {
+
+/// 1 to `count` for 2, 4, 8, ..., else count + 1.
+std::int32_t class_of(std::int32_t length, std::int32_t count) {
+  for (std::int32_t k = 1; k <= count; ++k) {
+    if (length == 1 << k) return k;
+  }
+  return count + 1;
+}
+
+/// A sum of amounts of the arena. Its value modulo 2^32 is what 32-bit arithmetic makes of it, so
+/// that one computation gives both the true size and the wrapped one.
+class Sum {
+ public:
+  /// The amounts of blocks that are taken together.
+  template <class... Amounts>
+  Sum& add(Amounts... amounts) {
+    value_ += (std::int64_t{amounts} + ...);
+    return tested();
+  }
+  Sum& add(const Sum& part) {
+    value_ += part.value_;
+    went_negative_ = went_negative_ || part.went_negative_;
+    return tested();
+  }
+
+  std::int64_t exact() const { return value_; }
+  std::int32_t wrapped() const { return static_cast<std::int32_t>(value_); }
+  bool went_negative() const { return went_negative_; }
+
+ private:
+  Sum& tested() {
+    went_negative_ = went_negative_ || wrapped() < 0;
+    return *this;
+  }
+
+  std::int64_t value_ = 0;
+  bool went_negative_ = false;
+};
+
+std::int64_t rounded(std::int64_t n) {
+  return (n + kBlockAlignment - 1) / kBlockAlignment * kBlockAlignment;
+}
+
+template <class Node>
+std::int64_t node() {
+  return rounded(kNodeSize<Node>);
+}
+
+constexpr std::int64_t kCell = ArenaRound(kCellSize);
+
+Sum inner_size(std::int32_t fold_length, std::int64_t node_above, std::int64_t elements) {
+  Sum sum;
+  if (FoldClass(fold_length) != kPlannedFoldClass) return sum.add(node_above, 2 * kCell);
+  const std::int32_t radix = PickRadix(fold_length / 2);
+  const std::int64_t rows = fold_length / (2 * radix);
+  sum.add(rounded(rows * InnerRowBytes(radix)), node<InnerRecombineNode>(), kCell);
+  sum.add(inner_size(fold_length / radix, node<InnerFoldNode>(), elements));
+  sum.add(elements, node<InnerPlan>(), 3 * kCell, ListCellBytes(2), node<InnerRotationFormula>(),
+          ListCellBytes(1), ListCellBytes(2));
+  return sum.add(node_above, 2 * kCell, ListCellBytes(2));
+}
+
+Sum state_size(std::int32_t length, std::int32_t element_size) {
+  Sum sum;
+  const std::int64_t first_position = 2 * ArenaRound(1);
+  if (SizeClass(length) != kPlannedClass) {
+    return sum.add(node<Dct4State>(), 3 * kCell, first_position);
+  }
+  const std::int32_t radix = PickRadix(length / 2);
+  const std::int64_t groups = length / (2 * radix) / (16 / element_size);
+  const std::int64_t elements = rounded(std::int64_t{element_size} * length);
+  sum.add(rounded(groups * 32 * radix), node<RecombineNode>(), kCell);
+  sum.add(node<SecondStage>(), 2 * kCell, ListCellBytes(2), node<RotationView>(), ListCellBytes(1));
+  Sum first_stage = inner_size(length / radix, node<FoldNode>(), elements);
+  first_stage.add(node<FirstStage>(), 2 * kCell, ListCellBytes(2));
+  sum.add(first_stage);
+  return sum.add(elements, node<Dct4State>(), 3 * kCell, ListCellBytes(2), node<RotationFormula>(),
+                 ListCellBytes(1), ListCellBytes(2), first_position);
+}
+
+}  // namespace
+
+std::int32_t SizeClass(std::int32_t length) { return class_of(length, kPlannedClass - 1); }
+
+std::int32_t FoldClass(std::int32_t length) { return class_of(length, kPlannedFoldClass - 1); }
+
+std::int32_t PickRadix(std::int32_t half_length) {
+  struct Row {
+    std::int32_t radix;
+    std::int32_t from;
+  };
+  for (const Row row : {Row{32, 512}, Row{16, 128}, Row{8, 32}, Row{4, 16}, Row{2, 4}}) {
+    if (half_length >= row.from && half_length % row.radix == 0) return row.radix;
+  }
+  return 0;
+}
+
+bool AcceptInner(std::int32_t fold_length) {
+  while (FoldClass(fold_length) == kPlannedFoldClass) {
+    const std::int32_t radix = PickRadix(fold_length / 2);
+    if (radix == 0) return false;
+    fold_length /= radix;
+  }
+  return true;
+}
+
+bool AcceptLength(std::int32_t length, std::int32_t lanes) {
+  if (SizeClass(length) != kPlannedClass) return true;
+  const std::int32_t radix = PickRadix(length / 2);
+  if (radix == 0) return false;
+  const std::int32_t rows = length / (2 * radix);
+  return rows % lanes == 0 && radix % lanes == 0 && AcceptInner(length / radix);
+}
+
+std::int64_t ExactStateSize(std::int32_t length, std::int32_t element_size) {
+  return state_size(length, element_size).exact();
+}
+
+std::optional<std::int32_t> StateSize(std::int32_t length, std::int32_t element_size) {
+  if (!AcceptLength(length, 16 / element_size)) return std::nullopt;
+  const Sum sum = state_size(length, element_size);
+  if (sum.went_negative()) return std::nullopt;
+  return sum.wrapped();
+}
+
+}  // namespace haldgen::dct4

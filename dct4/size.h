@@ -1,0 +1,40 @@
+// Which lengths there are, how they divide, and how large their states are.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace haldgen::dct4 {
+
+/// Lengths 2, 4, ..., 32 are classes 1 to 5, with a kernel each; others have a plan.
+inline constexpr std::int32_t kPlannedClass = 6;
+std::int32_t SizeClass(std::int32_t length);
+
+/// Fold lengths 2, 4, ..., 64 are classes 1 to 6, with a kernel each; others have an inner plan.
+inline constexpr std::int32_t kPlannedFoldClass = 7;
+std::int32_t FoldClass(std::int32_t length);
+
+/// The radix for a half-length; 0 if there is none.
+std::int32_t PickRadix(std::int32_t half_length);
+
+/// Whether folds of this length can be computed.
+bool AcceptInner(std::int32_t fold_length);
+
+/// Whether there is a transform of this length, for an element type with this many lanes. Besides
+/// 2, 4, ..., 32 and the powers of two from 64 up, these are numbers 2^k + 1: divisions truncate,
+/// so they have the plan of 2^k, with rotations by angles of their own length.
+bool AcceptLength(std::int32_t length, std::int32_t lanes);
+
+/// Bytes of one row of an inner rotation table: a vector for each cosine and sine of radix - 1
+/// rotations.
+constexpr std::int32_t InnerRowBytes(std::int32_t radix) { return 32 * (radix - 1); }
+
+/// Bytes of the state of an accepted length.
+std::int64_t ExactStateSize(std::int32_t length, std::int32_t element_size);
+
+/// The same in signed 32-bit arithmetic that wraps; none for a length that is not accepted or at
+/// which a sum on the way comes out negative. Where some products wrap around more than once, the
+/// size is too small for the length.
+std::optional<std::int32_t> StateSize(std::int32_t length, std::int32_t element_size);
+
+}  // namespace haldgen::dct4

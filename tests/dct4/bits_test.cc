@@ -1,0 +1,213 @@
+// The compiled kernels against the interpreter of their programs, bit by bit, at the places in
+// memory where the passes want them.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <random>
+#include <vector>
+
+#include "dct4/kernel.h"
+#include "dct4/passes.h"
+
+namespace haldgen::dct4 {
+namespace {
+
+using kernelgen::FloatType;
+using kernelgen::Program;
+
+template <class Float>
+constexpr FloatType kType = sizeof(Float) == 4 ? FloatType::f32 : FloatType::f64;
+
+/// Aligned as a state's blocks are.
+template <class Float>
+class Block {
+ public:
+  explicit Block(std::size_t count) : floats_(count + 32 / sizeof(Float)), count_(count) {
+    const auto beyond = reinterpret_cast<std::uintptr_t>(floats_.data()) % 32;
+    start_ = floats_.data() + (32 - beyond) % 32 / sizeof(Float);
+  }
+  Block(const Block&) = delete;
+  Block& operator=(const Block&) = delete;
+  Float* data() { return start_; }
+  Float& operator[](std::ptrdiff_t i) { return start_[i]; }
+  void fill_random(unsigned seed) {
+    std::mt19937 random(seed);
+    std::uniform_real_distribution<Float> uniform(-1, 1);
+    for (std::size_t i = 0; i < count_; ++i) start_[i] = uniform(random);
+  }
+
+ private:
+  std::vector<Float> floats_;
+  std::size_t count_;
+  Float* start_;
+};
+
+template <class Float>
+bool same_bits(Float a, Float b) {
+  return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+/// What the kernel's program makes of these slots.
+template <class Float>
+std::vector<Float> interpreted(Part part, int size, const std::vector<Float>& slots,
+                               std::size_t outputs) {
+  const Kernel kernel{part, size, kType<Float>};
+  const Program program = kernel_program(kernel, ordering_of(kernel));
+  std::vector<Float> result(outputs);
+  interpret(program, slots, Float{1}, result);
+  return result;
+}
+
+template <class Float>
+void check_fixed(int length, void (*kernel)(const Float*, Float*)) {
+  Block<Float> src(static_cast<std::size_t>(length)), dst(static_cast<std::size_t>(length));
+  src.fill_random(1);
+  kernel(src.data(), dst.data());
+  const auto expected = interpreted<Float>(Part::fixed, length, {src.data(), src.data() + length},
+                                           static_cast<std::size_t>(length));
+  for (int k = 0; k < length; ++k) {
+    EXPECT_TRUE(same_bits(dst[k], expected[static_cast<std::size_t>(k)])) << length << " " << k;
+  }
+}
+
+/// All sequences of a transform of length radix * m.
+template <class Float>
+void check_fold(int m, int radix, void (*kernel)(const FoldRun<Float>&)) {
+  constexpr int kWidth = kLanes<Float>;
+  const auto count = static_cast<std::size_t>(radix * m);
+  Block<Float> x(count), z(count);
+  x.fill_random(2);
+  const std::ptrdiff_t row = 2 * radix;
+  kernel({{x.data(), x.data() + row - kWidth, row},
+          {z.data(), row, radix},
+          kWidth,
+          kWidth,
+          radix / kWidth});
+  for (int group = 0; group < radix / kWidth; ++group) {
+    std::vector<Float> slots;
+    for (const bool ahead : {true, false}) {
+      for (int t = ahead ? 0 : 1; t < m / 2 + (ahead ? 0 : 1); ++t) {
+        for (int lane = 0; lane < kWidth; ++lane) {
+          const int j = kWidth * group + lane;
+          slots.push_back(ahead ? x[row * t + j] : x[row * t - 1 - j]);
+        }
+      }
+    }
+    const auto expected =
+        interpreted<Float>(Part::fold, m, slots, static_cast<std::size_t>(m * kWidth));
+    for (int k = 0; k < m; ++k) {
+      for (int lane = 0; lane < kWidth; ++lane) {
+        const Float actual = z[k / 2 * row + k % 2 * radix + kWidth * group + lane];
+        EXPECT_TRUE(same_bits(actual, expected[static_cast<std::size_t>(k * kWidth + lane)]))
+            << "length " << m << ", radix " << radix << ", output " << k;
+      }
+    }
+  }
+}
+
+/// All blocks of a transform of length radix * m, by rotations that are any numbers.
+template <class Float>
+void check_recombine(int radix, int m, void (*kernel)(const RecombineRun<Float>&)) {
+  constexpr int kWidth = kLanes<Float>;
+  const auto count = static_cast<std::size_t>(radix * m);
+  Block<Float> z(count), table(count), y(count);
+  z.fill_random(3);
+  table.fill_random(4);
+  const int groups = m / 2 / kWidth;
+  kernel({z.data(), table.data(), y.data(), y.data() + m - kWidth, m, groups});
+  const int row = 2 * radix;
+  for (int group = 0; group < groups; ++group) {
+    std::vector<Float> slots;
+    for (int element = 0; element < row; element += kWidth) {
+      for (int lane = 0; lane < kWidth; ++lane) {
+        const Float* const from = z.data() + (kWidth * group + lane) * row + element;
+        slots.insert(slots.end(), from, from + kWidth);
+      }
+    }
+    const Float* const rotations = table.data() + row * kWidth * group;
+    slots.insert(slots.end(), rotations, rotations + row * kWidth);
+    const auto expected =
+        interpreted<Float>(Part::recombine, radix, slots, static_cast<std::size_t>(row * kWidth));
+    for (int k = 0; k < row; ++k) {
+      for (int lane = 0; lane < kWidth; ++lane) {
+        const int b = kWidth * group + lane;
+        const Float actual = k < radix ? y[b + m * k] : y[m - 1 - b + m * (k - radix)];
+        EXPECT_TRUE(same_bits(actual, expected[static_cast<std::size_t>(k * kWidth + lane)]))
+            << "radix " << radix << ", m " << m << ", output " << k;
+      }
+    }
+  }
+}
+
+template <class Float>
+void check_inner_recombine(int radix, void (*kernel)(const InnerRecombineRun<Float>&)) {
+  constexpr int kWidth = kLanes<Float>;
+  const int sub_length = 8, rows = sub_length / 2, m = radix * sub_length;
+  const int row = 2 * radix * kWidth, entries = 2 * (radix - 1) * kWidth;
+  Block<Float> e(static_cast<std::size_t>(rows * row));
+  Block<Float> table(static_cast<std::size_t>(rows * entries));
+  // Blocks three vectors apart, the imaginary parts two vectors behind.
+  const std::ptrdiff_t block = 3 * kWidth, imaginary = 2 * kWidth;
+  Block<Float> z(static_cast<std::size_t>(m / 2 * block));
+  e.fill_random(5);
+  table.fill_random(6);
+  kernel({e.data(), table.data(), {z.data(), block, imaginary}, sub_length});
+  for (int b = 0; b < rows; ++b) {
+    std::vector<Float> slots(e.data() + b * row, e.data() + (b + 1) * row);
+    slots.insert(slots.end(), table.data() + b * entries, table.data() + (b + 1) * entries);
+    const auto expected =
+        interpreted<Float>(Part::inner_recombine, radix, slots, static_cast<std::size_t>(row));
+    for (int p = 0; p < radix; ++p) {
+      const int k = b + p * sub_length;
+      const std::ptrdiff_t place = block * (k < m / 2 ? k : m - 1 - k);
+      for (int lane = 0; lane < 2 * kWidth; ++lane) {
+        const Float actual = z[place + lane / kWidth * imaginary + lane % kWidth];
+        EXPECT_TRUE(same_bits(actual, expected[static_cast<std::size_t>(2 * p * kWidth + lane)]))
+            << "radix " << radix << ", output " << p;
+      }
+    }
+  }
+}
+
+template <class Float>
+class Bits : public ::testing::Test {};
+using FloatTypes = ::testing::Types<float, double>;
+TYPED_TEST_SUITE(Bits, FloatTypes);
+
+TYPED_TEST(Bits, FixedKernels) {
+  using Kernel = void (*)(const TypeParam*, TypeParam*);
+  const Kernel kernels[] = {fixed_2, fixed_4, fixed_8, fixed_16, fixed_32};
+  for (int k = 0; k < 5; ++k) check_fixed<TypeParam>(2 << k, kernels[k]);
+}
+
+TYPED_TEST(Bits, FoldsAtEveryRadix) {
+  using Kernel = void (*)(const FoldRun<TypeParam>&);
+  const Kernel kernels[] = {fold_2, fold_4, fold_8, fold_16, fold_32, fold_64};
+  for (int k = 0; k < 6; ++k) {
+    for (int radix = kLanes<TypeParam>; radix <= 32; radix *= 2) {
+      check_fold<TypeParam>(2 << k, radix, kernels[k]);
+    }
+  }
+}
+
+TYPED_TEST(Bits, RecombinationsAtSeveralLengths) {
+  using Kernel = void (*)(const RecombineRun<TypeParam>&);
+  const std::pair<int, Kernel> kernels[] = {
+      {4, recombine_4}, {8, recombine_8}, {16, recombine_16}, {32, recombine_32}};
+  for (const auto& [radix, kernel] : kernels) {
+    for (int m = radix < 8 ? 8 : radix; m <= 4 * radix; m *= 2) {
+      check_recombine<TypeParam>(radix, m, kernel);
+    }
+  }
+  if constexpr (kLanes<TypeParam> == 2) check_recombine<double>(2, 8, recombine_2);
+}
+
+TYPED_TEST(Bits, InnerRecombinations) {
+  using Kernel = void (*)(const InnerRecombineRun<TypeParam>&);
+  const Kernel kernels[] = {inner_recombine_2, inner_recombine_4, inner_recombine_8,
+                            inner_recombine_16, inner_recombine_32};
+  for (int k = 0; k < 5; ++k) check_inner_recombine<TypeParam>(2 << k, kernels[k]);
+}
+
+}  // namespace
+}  // namespace haldgen::dct4

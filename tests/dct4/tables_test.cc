@@ -1,0 +1,120 @@
+// The rotation tables, read back from states.
+#include "dct4/tables.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+#include <span>
+
+#include "dct4/passes.h"
+#include "dct4/walk.h"
+#include "tests/dct4/state.h"
+
+namespace haldgen::dct4 {
+namespace {
+
+using test::OwnState;
+
+template <class Float>
+std::span<const Float> entries(const Link<std::byte>& table, std::int32_t count) {
+  return {reinterpret_cast<const Float*>(table.get()), static_cast<std::size_t>(count)};
+}
+
+/// What a table holds at the angle pi numerator / denominator: its value is that of the angle
+/// rounded to the type of the elements.
+template <class Float>
+Float value(bool sine, std::int64_t numerator, std::int64_t denominator) {
+  const Float x = static_cast<Float>(numerator) / static_cast<Float>(denominator);
+  const double angle = double{x} * 3.141592653589793;
+  return static_cast<Float>(sine ? std::sin(angle) : std::cos(angle));
+}
+
+template <class Float>
+class Tables : public ::testing::Test {};
+using FloatTypes = ::testing::Types<float, double>;
+TYPED_TEST_SUITE(Tables, FloatTypes);
+
+TYPED_TEST(Tables, RotationsInTheOrderOfTheWalk) {
+  constexpr int kWidth = kLanes<TypeParam>;
+  for (const int length : {64, 65, 256, 1024, 2048, 8192}) {
+    OwnState<TypeParam> state(length);
+    const int radix = state->radix;
+    const int groups = length / (2 * radix) / kWidth;
+    const auto table =
+        entries<TypeParam>(state.recombination()->table, 2 * groups * kWidth * radix);
+    std::size_t index = 0;
+    for (int g = 0; g < groups; ++g) {
+      for (int s = 0; s < radix; ++s) {
+        for (const bool sine : {false, true}) {
+          for (int lane = 0; lane < kWidth; ++lane) {
+            const std::int64_t odd_j = 2 * WalkIndex(radix, s) + 1;
+            const std::int64_t odd_b = 2 * (kWidth * g + lane) + 1;
+            ASSERT_EQ(table[index], value<TypeParam>(sine, odd_j * odd_b, 4 * length))
+                << length << ", entry " << index;
+            ++index;
+          }
+        }
+      }
+    }
+  }
+}
+
+TYPED_TEST(Tables, InnerRotationsFillWholeVectors) {
+  constexpr int kWidth = kLanes<TypeParam>;
+  for (const int length : {4096, 65536}) {
+    OwnState<TypeParam> state(length);
+    const auto* plan = state.template item<InnerPlan>(state.folds()->stageList.get());
+    const auto* node = state.template item<InnerRecombineNode>(plan->secondList.get());
+    const int radix = node->innerRadix, m = plan->foldLength;
+    const auto table = entries<TypeParam>(node->table, node->rowCount * 2 * (radix - 1) * kWidth);
+    std::size_t index = 0;
+    for (int b = 0; b < node->rowCount; ++b) {
+      for (int a = 1; a < radix; ++a) {
+        for (const bool sine : {false, true}) {
+          for (int lane = 0; lane < kWidth; ++lane) {
+            ASSERT_EQ(table[index], value<TypeParam>(sine, std::int64_t{a} * (2 * b + 1), m))
+                << length << ", entry " << index;
+            ++index;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST(TableValues, FirstVectorsAt64Points) {
+  OwnState<float> state(64);
+  const auto table = entries<float>(state.recombination()->table, 64);
+  const float expected[] = {0.99992472F,  0.99932235F,  0.99811810F,  0.99631262F,
+                            0.012271538F, 0.036807224F, 0.061320737F, 0.085797310F};
+  for (std::size_t i = 0; i < 8; ++i) EXPECT_FLOAT_EQ(table[i], expected[i]);
+  // Then come the cosines of the last j.
+  EXPECT_FLOAT_EQ(table[8], std::cos(15 * std::numbers::pi_v<float> / 256));
+}
+
+TEST(TableValues, WalkOfRadix32At2048Points) {
+  OwnState<double> state(2048);
+  const auto table = entries<double>(state.recombination()->table, 2048);
+  // Vectors of two: cosines and sines of j = 0, 31, 16.
+  EXPECT_DOUBLE_EQ(table[4], std::cos(63 * std::numbers::pi / 8192));
+  EXPECT_DOUBLE_EQ(table[6], std::sin(63 * std::numbers::pi / 8192));
+  EXPECT_DOUBLE_EQ(table[8], std::cos(33 * std::numbers::pi / 8192));
+  EXPECT_DOUBLE_EQ(table[11], std::sin(33 * 3 * std::numbers::pi / 8192));
+}
+
+// At powers of two the angles are exact. Elsewhere the rounding of an angle to 32 bits shows.
+TEST(TableValues, Angles32fAreRoundedFirst) {
+  OwnState<float> state(8193);
+  const auto table = entries<float>(state.recombination()->table, 8192);
+  int different = 0;
+  for (int b = 0; b < 4; ++b) {
+    const float exact =
+        static_cast<float>(std::sin((2 * b + 1) * std::numbers::pi_v<long double> / (4 * 8193.0L)));
+    different += table[static_cast<std::size_t>(4 + b)] != exact ? 1 : 0;
+  }
+  EXPECT_GT(different, 0);
+}
+
+}  // namespace
+}  // namespace haldgen::dct4

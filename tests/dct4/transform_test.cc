@@ -1,0 +1,154 @@
+// What a transform reads and writes, and which bits nothing changes.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <atomic>
+#include <thread>
+
+#include "tests/contract/memory.h"
+#include "tests/dct4/functions.h"
+
+namespace haldgen::dct4 {
+namespace {
+
+using haldgen::test::GuardedPages;
+using test::Functions;
+using test::random_floats;
+using test::same_bits;
+using test::State;
+
+template <class Float>
+class Transform : public ::testing::Test {};
+TYPED_TEST_SUITE(Transform, test::FloatTypes);
+
+constexpr std::int32_t lengths[] = {2,   4,    8,    16,   32,   64,    128,   256,
+                                    512, 1024, 2048, 4096, 8192, 16384, 131072};
+
+TYPED_TEST(Transform, NullPointersOutrankABrokenState) {
+  using F = Functions<TypeParam>;
+  State<TypeParam> state(64);
+  std::vector<TypeParam> x(64), y(64, TypeParam{7});
+  const auto before = y;
+  // The class is the ninth word of the record.
+  const std::int32_t bad = 7;
+  std::memcpy(reinterpret_cast<std::byte*>(state.get()) + 32, &bad, sizeof bad);
+  EXPECT_EQ(F::transform(nullptr, y.data(), state.get()), haldStatusNullPointer);
+  EXPECT_EQ(F::transform(x.data(), nullptr, state.get()), haldStatusNullPointer);
+  EXPECT_EQ(F::transform(x.data(), y.data(), nullptr), haldStatusNullPointer);
+  EXPECT_EQ(F::transform(x.data(), y.data(), state.get()), haldStatusBadArgument);
+  EXPECT_EQ(y, before);
+  const std::int32_t good = 6;
+  std::memcpy(reinterpret_cast<std::byte*>(state.get()) + 32, &good, sizeof good);
+}
+
+/// Places an array of `count` floats so that it ends `distance` bytes before an inaccessible page.
+template <class Float>
+Float* place(const GuardedPages& pages, std::int32_t count, std::size_t distance) {
+  const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(Float);
+  return reinterpret_cast<Float*>(pages.bytes().data() + pages.bytes().size() - bytes - distance);
+}
+
+// The source is read-only and both arrays end at a guard at distance 0.
+TYPED_TEST(Transform, NoPlacementChangesABit) {
+  using Float = TypeParam;
+  for (const std::int32_t length : lengths) {
+    State<Float> state(length);
+    const std::vector<Float> x = random_floats<Float>(length, 1);
+    const std::vector<Float> expected = state(x);
+    const std::size_t bytes = x.size() * sizeof(Float);
+    const GuardedPages src(bytes + 64), dst(bytes + 64);
+    for (std::size_t from = 0; from < 32; from += sizeof(Float)) {
+      src.allow(GuardedPages::Access::write);
+      Float* const source = place<Float>(src, length, from);
+      std::copy(x.begin(), x.end(), source);
+      src.allow(GuardedPages::Access::read);
+      for (std::size_t to = 0; to < 32; to += sizeof(Float)) {
+        if (length > 4096 && (from + to) % 12 != 0) continue;
+        const auto inner = dst.bytes();
+        std::fill(inner.begin(), inner.end(), std::byte{0xA5});
+        Float* const target = place<Float>(dst, length, to);
+        ASSERT_FALSE(haldgen::test::faults([&] { state.run(source, target); }))
+            << length << ", " << from << ", " << to;
+        EXPECT_EQ(std::memcmp(target, expected.data(), bytes), 0)
+            << length << ", " << from << ", " << to;
+        const auto* const first = reinterpret_cast<const std::byte*>(target);
+        EXPECT_EQ(first[-1], std::byte{0xA5}) << length;
+        if (to == 0) continue;
+        EXPECT_EQ(first[bytes], std::byte{0xA5}) << length;
+      }
+    }
+  }
+}
+
+TYPED_TEST(Transform, InPlaceGivesTheSameBits) {
+  for (const std::int32_t length : lengths) {
+    State<TypeParam> state(length);
+    const std::vector<TypeParam> x = random_floats<TypeParam>(length, 2);
+    const std::vector<TypeParam> expected = state(x);
+    for (std::size_t shift = 0; shift < 4; ++shift) {
+      std::vector<TypeParam> array(x.size() + shift);
+      std::copy(x.begin(), x.end(), array.begin() + static_cast<std::ptrdiff_t>(shift));
+      state.run(array.data() + shift, array.data() + shift);
+      EXPECT_EQ(std::memcmp(array.data() + shift, expected.data(), x.size() * sizeof(TypeParam)), 0)
+          << length << ", " << shift;
+    }
+  }
+}
+
+// A transform leaves nothing in its scratch memory on which the next depends.
+TYPED_TEST(Transform, StatesCanBeUsedAgain) {
+  for (const std::int32_t length : lengths) {
+    State<TypeParam> state(length);
+    const std::vector<TypeParam> x = random_floats<TypeParam>(length, 3);
+    const std::vector<TypeParam> first = state(x);
+    state(random_floats<TypeParam>(length, 4));
+    EXPECT_TRUE(same_bits(state(x), first)) << length;
+    State<TypeParam> other(length);
+    EXPECT_TRUE(same_bits(other(x), first)) << length;
+  }
+}
+
+TYPED_TEST(Transform, StatesAreIndependent) {
+  constexpr std::int32_t kLength = 4096;
+  std::array<std::vector<TypeParam>, 2> x, expected;
+  for (unsigned i = 0; i < 2; ++i) {
+    x[i] = random_floats<TypeParam>(kLength, 5 + i);
+    expected[i] = State<TypeParam>(kLength)(x[i]);
+  }
+  std::atomic<int> different = 0;
+  std::vector<std::thread> threads;
+  for (std::size_t i = 0; i < 2; ++i) {
+    threads.emplace_back([&, i] {
+      State<TypeParam> state(kLength);
+      for (int call = 0; call < 200; ++call)
+        different += same_bits(state(x[i]), expected[i]) ? 0 : 1;
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(different, 0);
+}
+
+TYPED_TEST(Transform, ZerosGiveZeros) {
+  for (const std::int32_t length : lengths) {
+    const std::vector<TypeParam> zeros(static_cast<std::size_t>(length));
+    EXPECT_EQ(State<TypeParam>(length)(zeros), zeros) << length;
+  }
+}
+
+// The plan of 2^k + 1 is that of 2^k: one output is never written, and the rest are finite.
+TYPED_TEST(Transform, LengthsBesidePowersOfTwoWriteAllButTheLast) {
+  std::vector<std::int32_t> odd = {33, 65, 129, 1025, 4097};
+  if (sizeof(TypeParam) == 8) odd.insert(odd.end(), {9, 17});
+  for (const std::int32_t length : odd) {
+    const std::vector<TypeParam> x = random_floats<TypeParam>(length, 8);
+    std::vector<TypeParam> y(x.size(), TypeParam{1000000});
+    State<TypeParam>(length).run(x.data(), y.data());
+    for (std::size_t k = 0; k + 1 < y.size(); ++k) {
+      EXPECT_LT(std::abs(y[k]), TypeParam{1000}) << length << ", " << k;
+    }
+    EXPECT_EQ(y.back(), TypeParam{1000000}) << length;
+  }
+}
+
+}  // namespace
+}  // namespace haldgen::dct4
