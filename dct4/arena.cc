@@ -15,8 +15,9 @@ void set_position(Arena* arena, std::byte* position) {
 }  // namespace
 
 void ArenaReset(Arena* arena) {
+  constexpr std::ptrdiff_t kFirst = std::ptrdiff_t{2} * ArenaRound(1);
   const auto beyond = reinterpret_cast<std::uintptr_t>(arena) % kBlockAlignment;
-  set_position(arena, reinterpret_cast<std::byte*>(arena) + 2 * ArenaRound(1) - beyond);
+  set_position(arena, reinterpret_cast<std::byte*>(arena) + kFirst - beyond);
 }
 
 std::byte* ArenaPosition(const Arena* arena) {

@@ -126,8 +126,7 @@ template int32_t FoldPass<float>(const FoldNode&, float*, const float*);
 template int32_t FoldPass<double>(const FoldNode&, double*, const double*);
 template int32_t RecombinePass<float>(const RecombineNode&, float*, const float*);
 template int32_t RecombinePass<double>(const RecombineNode&, double*, const double*);
-template int32_t InnerRun<float>(const InnerPlan&, const Spectrum<float>&,
-                                 const Sequences<float>&);
+template int32_t InnerRun<float>(const InnerPlan&, const Spectrum<float>&, const Sequences<float>&);
 template int32_t InnerRun<double>(const InnerPlan&, const Spectrum<double>&,
                                   const Sequences<double>&);
 template int32_t RunState<float>(const float*, float*, const Dct4State&);

@@ -99,7 +99,9 @@ std::vector<Parts> dft(const std::vector<Parts>& x) {
   const int n = static_cast<int>(x.size());
   if (n == 1) return x;
   if (n == 2) return two_way(x);
-  std::vector<Parts> even, first, third;
+  std::vector<Parts> even;
+  std::vector<Parts> first;
+  std::vector<Parts> third;
   for (int a = 0; a < n; a += 2) even.push_back(x[at(a)]);
   for (int a = 1; a < n; a += 4) first.push_back(x[at(a)]);
   for (int a = 3; a < n; a += 4) third.push_back(x[at(a)]);

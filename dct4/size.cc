@@ -69,7 +69,7 @@ Sum inner_size(std::int32_t fold_length, std::int64_t node_above, std::int64_t e
 
 Sum state_size(std::int32_t length, std::int32_t element_size) {
   Sum sum;
-  const std::int64_t first_position = 2 * ArenaRound(1);
+  const std::int32_t first_position = 2 * ArenaRound(1);
   if (SizeClass(length) != kPlannedClass) {
     return sum.add(node<Dct4State>(), 3 * kCell, first_position);
   }

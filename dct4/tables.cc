@@ -23,8 +23,8 @@ Float RotationElement(const RotationFormula& formula, int32_t row, int32_t colum
   const int32_t element = formula.rowLength * row + column;
   const int32_t block = element / 2 / formula.radix;
   const int32_t j = element / 2 % formula.radix;
-  const Float x = static_cast<Float>((4 * block + 2) * (2 * j + 1)) /
-                  static_cast<Float>(formula.angleDenominator);
+  const auto x = static_cast<Float>((4 * block + 2) * (2 * j + 1)) /
+                 static_cast<Float>(formula.angleDenominator);
   return element % 2 == 0 ? CosPi(x) : SinPi(x);
 }
 
@@ -51,8 +51,8 @@ void FillRotationTable(const RecombineNode& node) {
 
 template <class Float>
 Float InnerRotationElement(const InnerRotationFormula& formula, int32_t row) {
-  return (static_cast<Float>(row) + Float{0.5}) /
-         static_cast<Float>(formula.foldLength / formula.innerRadix);
+  const int32_t sub_length = formula.foldLength / formula.innerRadix;
+  return (static_cast<Float>(row) + Float{0.5}) / static_cast<Float>(sub_length);
 }
 
 template <class Float>

@@ -121,8 +121,8 @@ holds scratch memory and can serve one call at a time; different states are inde
 @param state   a state of length N for this element type.)";
 
 constexpr std::string_view dct4_result =
-    R"(@return haldStatusNullPointer if state, src or dst is null; else haldStatusBadArgument if state is
-        not a state; else haldStatusOk. dst is written only if haldStatusOk is returned.)";
+    R"(@return haldStatusNullPointer if state, src or dst is null; else haldStatusBadArgument if state
+        is not a state; else haldStatusOk. dst is written only if haldStatusOk is returned.)";
 
 using S = Signature;
 

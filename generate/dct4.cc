@@ -27,7 +27,8 @@ const Kernel* find(const std::string& name, const std::string& type) {
 /// ORDER or ORDER:CAP.
 Ordering ordering(const std::string& text) {
   std::istringstream parts(text);
-  std::string order, cap;
+  std::string order;
+  std::string cap;
   std::getline(parts, order, ':');
   std::getline(parts, cap);
   return {kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap)};

@@ -491,8 +491,8 @@ int32_t haldgDCT4Free_64f(Dct4State* state);
  * @param src     N elements x[0..N-1]; only read.
  * @param dst     N elements y[0..N-1].
  * @param state   a state of length N for this element type.
- * @return haldStatusNullPointer if state, src or dst is null; else haldStatusBadArgument if state is
- *         not a state; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @return haldStatusNullPointer if state, src or dst is null; else haldStatusBadArgument if state
+ *         is not a state; else haldStatusOk. dst is written only if haldStatusOk is returned.
  * @{
  */
 int32_t haldgDCT4_32f(const float* src, float* dst, Dct4State* state);

@@ -8,8 +8,8 @@
 namespace haldgen::kernelgen {
 
 /// Statements of a function body over `src`, `dst` (pointers to floats) and `scale`, one per
-/// instruction; programs over slots call `io` instead. Vector programs speak the vocabulary of lanes.h and touch memory through a type
-/// `Access`; scalar programs are plain expressions.
+/// instruction; programs over slots call `io` instead. Vector programs speak the vocabulary of
+/// lanes.h and touch memory through a type `Access`; scalar programs are plain expressions.
 std::string emit_body(const Program& program);
 
 /// Whether memory is touched in a way that an aligned and an unaligned path do differently.

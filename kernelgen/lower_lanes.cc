@@ -26,7 +26,7 @@ class HeldSigns {
     for (const int node : live) {
       const Statement& s = graph.node(node);
       // A number of the table cannot be negated.
-      if (s.input >= 0 || table.count(s.terms[0].constant) != 0) fixed_[at(node)] = 1;
+      if (s.input >= 0 || table.contains(s.terms[0].constant)) fixed_[at(node)] = 1;
       if (s.terms.size() != 2) continue;
       for (const int about : {node, s.terms[0].node, s.terms[1].node}) {
         sums_[at(about)].push_back(node);
