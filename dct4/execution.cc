@@ -1,5 +1,7 @@
 #include "dct4/execution.h"
 
+#include <cstring>
+
 #include "dct4/size.h"
 
 namespace haldgen::dct4 {
@@ -35,21 +37,40 @@ const Float* floats(const Link<std::byte>& block) {
   return reinterpret_cast<const Float*>(block.get());
 }
 
+/// Room for as many lines as the longest kernel has inputs or outputs.
+template <class Float>
+struct alignas(64) Lines {
+  Float line[64][kLine<Float>];
+};
+
+/// The sequences of a line, brought together. In the source their elements lie a power of two
+/// apart, many of them in the same set of a cache, and would be evicted between lane groups.
+template <class Float>
+Sequences<Float> gathered(const Sequences<Float>& source, int length, Lines<Float>& lines) {
+  const int half = length / 2;
+  const Float* const behind = source.behind + kLanes<Float> - kLine<Float>;
+  for (int t = 0; t < half; ++t) {
+    copy_line(lines.line[t], source.ahead + source.step * t);
+    copy_line(lines.line[half + t], behind + source.step * t);
+  }
+  return {lines.line[0], lines.line[half] + kLine<Float> - kLanes<Float>, kLine<Float>};
+}
+
 /// The folds of length m' = m/r' of the positions t = r'u + a, a = 0..r'-1, side by side in the
 /// rows of the inner scratch.
 template <class Float>
 void InnerFoldPass(const InnerFoldNode& node, Float* destination, const Sequences<Float>& source) {
-  const int count = node.innerRadix;
-  const Spectrum<Float> rows{destination, std::ptrdiff_t{2} * kLanes<Float> * count, kLanes<Float>};
-  constexpr std::ptrdiff_t kNext = 2 * kLanes<Float>;
-  if (node.foldClass != kPlannedFoldClass) {
-    Kernels<Float>::kFold[node.foldClass - 1](
-        {source.every(count, 0), rows, source.step, kNext, count});
-    return;
-  }
-  const auto& plan = first_item<InnerPlan>(node.stageList.get());
-  for (int a = 0; a < count; ++a) {
-    InnerRun(plan, {rows.first + kNext * a, rows.block, rows.imaginary}, source.every(count, a));
+  Lines<Float> lines;
+  for (int a = 0; a < node.innerRadix; ++a) {
+    const Spectrum<Float> column{destination + 2 * a * kLine<Float>,
+                                 inner_pitch<Float>(node.innerRadix), kLine<Float>};
+    const Sequences<Float> part = source.every(node.innerRadix, a);
+    if (node.foldClass == kPlannedFoldClass) {
+      InnerRun(first_item<InnerPlan>(node.stageList.get()), column, part);
+    } else {
+      Kernels<Float>::kFold[node.foldClass - 1](
+          {gathered(part, node.subLength, lines), column, kLineGroups});
+    }
   }
 }
 
@@ -58,6 +79,36 @@ void InnerRecombinePass(const InnerRecombineNode& node, const Spectrum<Float>& d
                         const Float* source) {
   Kernels<Float>::kInnerRecombine[node.tableClass - 1](
       {source, floats<Float>(node.table), destination, node.subLength});
+}
+
+/// Bytes between rows of the output from which on the rows compete for few sets of a cache, so that
+/// a line would be evicted between the stores of its vectors.
+constexpr std::ptrdiff_t kFarRows = 4096;
+
+/// The recombination of 16 blocks at a time into a tile, as if it were all of a transform with rows
+/// of 32, and from there by whole lines into the output.
+template <class Float>
+void recombine_by_tiles(typename Kernels<Float>::Recombine kernel, const RecombineNode& node,
+                        Float* destination, const Float* source) {
+  constexpr int kRow = 32;
+  constexpr int kBlocks = kRow / 2;
+  constexpr int kGroups = kBlocks / kLanes<Float>;
+  alignas(64) Float tile[32][kRow];
+  const auto* table = floats<Float>(node.table);
+  const std::ptrdiff_t length = node.innerLength;
+  Float* ascending = destination;
+  Float* descending = destination + length - kBlocks;
+  for (int g = 0; g < node.groupCount; g += kGroups) {
+    kernel({source, table, tile[0], tile[0] + kRow - kLanes<Float>, kRow, kGroups});
+    for (int l = 0; l < node.radix; ++l) {
+      std::memcpy(ascending + length * l, tile[l], kBlocks * sizeof(Float));
+      std::memcpy(descending + length * l, tile[l] + kBlocks, kBlocks * sizeof(Float));
+    }
+    source += kGroups * node.vectorStride;
+    table += kGroups * node.vectorStride;
+    ascending += kBlocks;
+    descending -= kBlocks;
+  }
 }
 
 }  // namespace
@@ -76,20 +127,20 @@ int32_t InnerRun(const InnerPlan& plan, const Spectrum<Float>& destination,
 template <class Float>
 int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source) {
   if (node.foldClass < 1 || node.foldClass > kPlannedFoldClass) return haldStatusBadArgument;
-  constexpr int kWidth = kLanes<Float>;
   const std::ptrdiff_t row = node.rowLength;
-  Sequences<Float> from{source, source + row - kWidth, row};
+  Sequences<Float> from{source, source + row - kLanes<Float>, row};
   Spectrum<Float> to{destination, row, node.radix};
   if (node.foldClass != kPlannedFoldClass) {
-    Kernels<Float>::kFold[node.foldClass - 1]({from, to, kWidth, kWidth, node.laneGroups});
+    Kernels<Float>::kFold[node.foldClass - 1]({from, to, node.laneGroups});
     return haldStatusOk;
   }
+  // Plans with an inner one have a radix of 32, a multiple of a line.
   const auto& plan = first_item<InnerPlan>(node.stageList.get());
-  for (int32_t i = 0; i < node.laneGroups; ++i) {
+  for (int32_t i = 0; i < node.laneGroups; i += kLineGroups) {
     InnerRun(plan, to, from);
-    from.ahead += kWidth;
-    from.behind -= kWidth;
-    to.first += kWidth;
+    from.ahead += kLine<Float>;
+    from.behind -= kLine<Float>;
+    to.first += kLine<Float>;
   }
   return haldStatusOk;
 }
@@ -97,9 +148,15 @@ int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source) 
 template <class Float>
 int32_t RecombinePass(const RecombineNode& node, Float* destination, const Float* source) {
   if (node.tableClass < 1 || node.tableClass > 6) return haldStatusBadArgument;
-  Kernels<Float>::kRecombine[node.tableClass - 1]({source, floats<Float>(node.table), destination,
-                                                   destination + node.innerLength - kLanes<Float>,
-                                                   node.innerLength, node.groupCount});
+  const auto kernel = Kernels<Float>::kRecombine[node.tableClass - 1];
+  const std::ptrdiff_t length = node.innerLength;
+  const auto* const table = floats<Float>(node.table);
+  if (length * static_cast<std::ptrdiff_t>(sizeof(Float)) < kFarRows) {
+    kernel({source, table, destination, destination + length - kLanes<Float>, length,
+            node.groupCount});
+  } else {
+    recombine_by_tiles<Float>(kernel, node, destination, source);
+  }
   return haldStatusOk;
 }
 

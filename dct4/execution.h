@@ -15,7 +15,7 @@ int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source);
 template <class Float>
 int32_t RecombinePass(const RecombineNode& node, Float* destination, const Float* source);
 
-/// Folds longer than the kernels', of as many sequences as a vector has lanes.
+/// Folds longer than the kernels', of as many sequences as a line has elements (passes.h).
 template <class Float>
 int32_t InnerRun(const InnerPlan& plan, const Spectrum<Float>& destination,
                  const Sequences<Float>& source);

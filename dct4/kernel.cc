@@ -119,7 +119,30 @@ std::string name(const Kernel& kernel) {
   return std::string(word(kernel.part)) + "_" + std::to_string(kernel.size);
 }
 
-Ordering ordering_of(const Kernel& /*kernel*/) { return {}; }
+Ordering ordering_of(const Kernel& kernel) {
+  using kernelgen::Order;
+  struct Row {
+    Part part;
+    int size;
+    Ordering ordering;
+  };
+  // Measured with both element types. Kernels that are not listed do best by bisection.
+  static constexpr Row kRows[] = {
+      {Part::fixed, 8, {Order::pressure, 16}},
+      {Part::fixed, 16, {Order::critical, 16}},
+      {Part::fold, 16, {Order::critical, 24}},
+      {Part::recombine, 8, {Order::critical, 12}},
+      {Part::recombine, 16, {Order::pressure, 18}},
+      {Part::recombine, 32, {Order::pressure, 18}},
+      {Part::inner_recombine, 8, {Order::critical, 12}},
+      {Part::inner_recombine, 16, {Order::critical, 14}},
+      {Part::inner_recombine, 32, {Order::critical, 14}},
+  };
+  for (const Row& row : kRows) {
+    if (row.part == kernel.part && row.size == kernel.size) return row.ordering;
+  }
+  return {};
+}
 
 Graph kernel_graph(const Kernel& kernel) {
   switch (kernel.part) {

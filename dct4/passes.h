@@ -15,6 +15,12 @@ namespace haldgen::dct4 {
 template <class Float>
 inline constexpr int kLanes = static_cast<int>(16 / sizeof(Float));
 
+/// Lane groups that inner plans work on together, and their elements: a cache line, which is then
+/// moved once and as a whole.
+inline constexpr int kLineGroups = 4;
+template <class Float>
+inline constexpr int kLine = kLineGroups* kLanes<Float>;
+
 /// Sequences S(j, t) of neighbouring j, as many as lanes: S(0), S(1), ... lie `step` apart from
 /// `ahead` on, S(-1), S(-2), ... from `behind` on, there with the lanes reversed.
 template <class Float>
@@ -38,15 +44,12 @@ struct Spectrum {
   std::ptrdiff_t imaginary;
 };
 
-/// Folds of `count` such sets of sequences; from one to the next the sequences move by
-/// `next_sequence`, those behind the other way, and the spectrum by `next_spectrum`.
+/// Folds of neighbouring lane groups, each a vector further on, or further back behind.
 template <class Float>
 struct FoldRun {
   Sequences<Float> from;
   Spectrum<Float> to;
-  std::ptrdiff_t next_sequence;
-  std::ptrdiff_t next_spectrum;
-  int count;
+  int groups;
 };
 
 /// Rotation and recombination of groups of blocks, in the order of the rotation table. Output l of
@@ -62,8 +65,9 @@ struct RecombineRun {
   int groups;
 };
 
-/// The step from r folds of length `sub_length` to one. Row b holds their values at index b side by
-/// side.
+/// The step from r folds of length `sub_length` to one, for the lane groups of a line. In row b,
+/// value a of a group lies 2a lines from the start, its imaginary part a line further on; rows are
+/// inner_pitch() apart.
 template <class Float>
 struct InnerRecombineRun {
   const Float* rows;
@@ -72,15 +76,47 @@ struct InnerRecombineRun {
   int sub_length;
 };
 
+/// From a line to the next row of an inner plan. Rows have a spare place, lest all of them fall
+/// into the same sets of a cache.
+template <class Float>
+constexpr std::ptrdiff_t inner_pitch(int radix) {
+  return std::ptrdiff_t{2} * kLine<Float> * (radix + 1);
+}
+
+template <class Float>
+inline void copy_line(Float* to, const Float* from) {
+  __builtin_memcpy(to, from, kLine<Float> * sizeof(Float));
+}
+
 /// `Known` if it is not 0.
 template <std::ptrdiff_t Known>
 constexpr std::ptrdiff_t known_or(std::ptrdiff_t at_run_time) {
   return Known == 0 ? at_run_time : Known;
 }
 
-/// Radix is that of the plan if the fold is the first pass and the radix is one that fold lengths
-/// mostly come with; else 0.
-template <class Body, int Radix>
+/// Steps that are known when a kernel is compiled; 0 where they are not.
+template <std::ptrdiff_t StepOfSequence, std::ptrdiff_t BlockOfSpectrum,
+          std::ptrdiff_t ImaginaryOfSpectrum>
+struct FoldShape {
+  static constexpr std::ptrdiff_t kStep = StepOfSequence;
+  static constexpr std::ptrdiff_t kBlock = BlockOfSpectrum;
+  static constexpr std::ptrdiff_t kImaginary = ImaginaryOfSpectrum;
+
+  template <class Float>
+  static bool fits(const FoldRun<Float>& run) {
+    return run.from.step == kStep && run.to.block == kBlock && run.to.imaginary == kImaginary;
+  }
+};
+
+/// The first pass of a plan of this radix.
+template <int Radix>
+using FirstPass = FoldShape<2 * Radix, 2 * Radix, Radix>;
+
+/// A fold of an inner plan of this radix, from lines that follow one another.
+template <class Float, int Radix>
+using InnerPass = FoldShape<kLine<Float>, inner_pitch<Float>(Radix), kLine<Float>>;
+
+template <class Body, class Shape>
 struct FoldIo {
   using Float = typename Body::Float;
   using V = typename Body::V;
@@ -90,7 +126,7 @@ struct FoldIo {
   template <int K>
   V load() const {
     constexpr int kHalf = Body::kSize / 2;
-    const std::ptrdiff_t step = known_or<2 * Radix>(from.step);
+    const std::ptrdiff_t step = known_or<Shape::kStep>(from.step);
     if constexpr (K < kHalf) {
       return lanes::Unaligned::load(from.ahead + K * step);
     } else {
@@ -99,35 +135,46 @@ struct FoldIo {
   }
   template <int K>
   void store(V value) const {
-    const std::ptrdiff_t block = known_or<2 * Radix>(to.block);
-    const std::ptrdiff_t imaginary = known_or<Radix>(to.imaginary);
+    const std::ptrdiff_t block = known_or<Shape::kBlock>(to.block);
+    const std::ptrdiff_t imaginary = known_or<Shape::kImaginary>(to.imaginary);
     lanes::Aligned::store(to.first + K / 2 * block + K % 2 * imaginary, value);
   }
 };
 
-template <class Body, int Radix>
+template <class Body, class Shape>
 inline void run_folds(const FoldRun<typename Body::Float>& run) {
   auto from = run.from;
   auto to = run.to;
-  for (int i = 0; i < run.count; ++i) {
-    Body::run(FoldIo<Body, Radix>{from, to});
-    from.ahead += run.next_sequence;
-    from.behind -= run.next_sequence;
-    to.first += run.next_spectrum;
+  for (int i = 0; i < run.groups; ++i) {
+    Body::run(FoldIo<Body, Shape>{from, to});
+    from.ahead += kLanes<typename Body::Float>;
+    from.behind -= kLanes<typename Body::Float>;
+    to.first += kLanes<typename Body::Float>;
   }
 }
 
-/// Below 4096 points the radix of a plan is its fold length or half of it.
+/// Runs the folds if they have one of the shapes.
+template <class Body, class... Shapes>
+inline bool run_known_folds(const FoldRun<typename Body::Float>& run) {
+  return ((Shapes::fits(run) && (run_folds<Body, Shapes>(run), true)) || ...);
+}
+
+/// The radix of a plan, and of an inner plan, is the length of its folds or half of it.
 template <class Body>
 inline void run_fold(const FoldRun<typename Body::Float>& run) {
-  if constexpr (Body::kSize >= 8) {
-    constexpr int kSame = Body::kSize <= 32 ? Body::kSize : 0;
-    constexpr int kHalf = Body::kSize >= 16 ? Body::kSize / 2 : 0;
-    const bool first_pass = 2 * run.to.imaginary == run.to.block && run.to.block == run.from.step;
-    if (kSame != 0 && first_pass && run.to.imaginary == kSame) return run_folds<Body, kSame>(run);
-    if (kHalf != 0 && first_pass && run.to.imaginary == kHalf) return run_folds<Body, kHalf>(run);
+  using Float = typename Body::Float;
+  constexpr int kSize = Body::kSize;
+  if constexpr (kSize == 64) {
+    if (run_known_folds<Body, FirstPass<32>, InnerPass<Float, 32>>(run)) return;
+  } else if constexpr (kSize >= 16) {
+    if (run_known_folds<Body, FirstPass<kSize>, FirstPass<kSize / 2>, InnerPass<Float, kSize>,
+                        InnerPass<Float, kSize / 2>>(run)) {
+      return;
+    }
+  } else if constexpr (kSize == 8) {
+    if (run_known_folds<Body, FirstPass<8>>(run)) return;
   }
-  run_folds<Body, 0>(run);
+  run_folds<Body, FoldShape<0, 0, 0>>(run);
 }
 
 /// Length is the m of the plan, or 0.
@@ -178,48 +225,93 @@ inline void run_recombine(const RecombineRun<typename Body::Float>& run) {
   run_recombinations<Body, 0>(run);
 }
 
-template <class Body>
-struct InnerRecombineIo {
-  using Float = typename Body::Float;
-  using V = typename Body::V;
-  static constexpr int kWidth = kLanes<Float>;
-  const Float* row;
-  const Float* table;
+/// Where the outputs of a row lie: those of the first half of p from `ascending` on, those of the
+/// second half, in the opposite order, from `descending` on.
+template <class Float>
+struct RowOutputs {
   Float* ascending;
   Float* descending;
   std::ptrdiff_t part;  ///< from output p to p + 1
   std::ptrdiff_t imaginary;
+};
+
+template <class Body, class Outputs>
+struct InnerRecombineIo {
+  using Float = typename Body::Float;
+  using V = typename Body::V;
+  const Float* row;
+  const Float* table;
+  Outputs outputs;
 
   template <int K>
   V load() const {
     constexpr int kRow = 2 * Body::kSize;
-    return lanes::Aligned::load(K < kRow ? row + K * kWidth : table + (K - kRow) * kWidth);
+    return lanes::Aligned::load(K < kRow ? row + K * kLine<Float>
+                                         : table + (K - kRow) * kLanes<Float>);
   }
   template <int K>
   void store(V value) const {
     constexpr int kOutput = K / 2;
     Float* const place = kOutput < Body::kSize / 2
-                             ? ascending + kOutput * part
-                             : descending + (Body::kSize - 1 - kOutput) * part;
-    lanes::Aligned::store(place + K % 2 * imaginary, value);
+                             ? outputs.ascending + kOutput * outputs.part
+                             : outputs.descending + (Body::kSize - 1 - kOutput) * outputs.part;
+    lanes::Aligned::store(place + K % 2 * outputs.imaginary, value);
+  }
+};
+
+template <class Body, class Outputs>
+inline void run_inner_row(InnerRecombineIo<Body, Outputs> io) {
+  for (int i = 0; i < kLineGroups; ++i) {
+    Body::run(io);
+    io.row += kLanes<typename Body::Float>;
+    io.outputs.ascending += kLanes<typename Body::Float>;
+    io.outputs.descending += kLanes<typename Body::Float>;
+  }
+}
+
+/// Outputs of a row side by side, to be moved on line by line.
+template <class Float, int Radix>
+struct LineOutputs {
+  Float* ascending;
+  Float* descending;
+  static constexpr std::ptrdiff_t part = 2 * kLine<Float>;
+  static constexpr std::ptrdiff_t imaginary = kLine<Float>;
+
+  explicit LineOutputs(Float* lines) : ascending(lines), descending(lines + Radix / 2 * part) {}
+  void move_to(const RowOutputs<Float>& to) const {
+    for (int p = 0; p < Radix / 2; ++p) {
+      copy_line(to.ascending + to.part * p, ascending + part * p);
+      copy_line(to.ascending + to.part * p + to.imaginary, ascending + part * p + imaginary);
+      copy_line(to.descending + to.part * p, descending + part * p);
+      copy_line(to.descending + to.part * p + to.imaginary, descending + part * p + imaginary);
+    }
   }
 };
 
 template <class Body>
 inline void run_inner_recombine(const InnerRecombineRun<typename Body::Float>& run) {
-  constexpr int kWidth = kLanes<typename Body::Float>;
-  InnerRecombineIo<Body> io{run.rows,
-                            run.table,
-                            run.to.first,
-                            run.to.first + run.to.block * (run.sub_length - 1),
-                            run.to.block * run.sub_length,
+  using Float = typename Body::Float;
+  constexpr int kRadix = Body::kSize;
+  // So many outputs, a power of two apart, evict one another's lines before these are full.
+  constexpr bool kCrowded = kRadix >= 32;
+  alignas(64) Float lines[kCrowded ? 2 * kRadix * kLine<Float> : 1];
+  const Float* row = run.rows;
+  const Float* table = run.table;
+  const std::ptrdiff_t part = run.to.block * run.sub_length;
+  RowOutputs<Float> outputs{run.to.first, run.to.first + part - run.to.block, part,
                             run.to.imaginary};
   for (int b = 0; b < run.sub_length / 2; ++b) {
-    Body::run(io);
-    io.row += 2 * Body::kSize * kWidth;
-    io.table += 2 * (Body::kSize - 1) * kWidth;
-    io.ascending += run.to.block;
-    io.descending -= run.to.block;
+    if constexpr (kCrowded) {
+      const LineOutputs<Float, kRadix> tile(lines);
+      run_inner_row(InnerRecombineIo<Body, LineOutputs<Float, kRadix>>{row, table, tile});
+      tile.move_to(outputs);
+    } else {
+      run_inner_row(InnerRecombineIo<Body, RowOutputs<Float>>{row, table, outputs});
+    }
+    row += inner_pitch<Float>(kRadix);
+    table += 2 * (kRadix - 1) * kLanes<Float>;
+    outputs.ascending += run.to.block;
+    outputs.descending -= run.to.block;
   }
 }
 

@@ -70,36 +70,40 @@ void check_fixed(int length, void (*kernel)(const Float*, Float*)) {
   }
 }
 
-/// All sequences of a transform of length radix * m.
+/// Steps between the elements of a sequence, the blocks of a spectrum and its parts.
+struct Shape {
+  int step;
+  int block;
+  int imaginary;
+  int groups;
+};
+
 template <class Float>
-void check_fold(int m, int radix, void (*kernel)(const FoldRun<Float>&)) {
+void check_fold(int m, const Shape& shape, void (*kernel)(const FoldRun<Float>&)) {
   constexpr int kWidth = kLanes<Float>;
-  const auto count = static_cast<std::size_t>(radix * m);
-  Block<Float> x(count), z(count);
+  const int half = m / 2 * shape.step;  // where the elements behind begin
+  Block<Float> x(static_cast<std::size_t>(2 * half));
+  Block<Float> z(static_cast<std::size_t>(m / 2 * shape.block));
   x.fill_random(2);
-  const std::ptrdiff_t row = 2 * radix;
-  kernel({{x.data(), x.data() + row - kWidth, row},
-          {z.data(), row, radix},
-          kWidth,
-          kWidth,
-          radix / kWidth});
-  for (int group = 0; group < radix / kWidth; ++group) {
+  kernel({{x.data(), x.data() + half + shape.step - kWidth, shape.step},
+          {z.data(), shape.block, shape.imaginary},
+          shape.groups});
+  for (int group = 0; group < shape.groups; ++group) {
     std::vector<Float> slots;
-    for (const bool ahead : {true, false}) {
-      for (int t = ahead ? 0 : 1; t < m / 2 + (ahead ? 0 : 1); ++t) {
-        for (int lane = 0; lane < kWidth; ++lane) {
-          const int j = kWidth * group + lane;
-          slots.push_back(ahead ? x[row * t + j] : x[row * t - 1 - j]);
-        }
+    for (int slot = 0; slot < m; ++slot) {
+      for (int lane = 0; lane < kWidth; ++lane) {
+        const int j = kWidth * group + lane;
+        const int t = slot < m / 2 ? slot : m / 2 - 1 - slot;
+        slots.push_back(t >= 0 ? x[shape.step * t + j] : x[half - shape.step * t - 1 - j]);
       }
     }
     const auto expected =
         interpreted<Float>(Part::fold, m, slots, static_cast<std::size_t>(m * kWidth));
     for (int k = 0; k < m; ++k) {
       for (int lane = 0; lane < kWidth; ++lane) {
-        const Float actual = z[k / 2 * row + k % 2 * radix + kWidth * group + lane];
-        EXPECT_TRUE(same_bits(actual, expected[static_cast<std::size_t>(k * kWidth + lane)]))
-            << "length " << m << ", radix " << radix << ", output " << k;
+        const int place = k / 2 * shape.block + k % 2 * shape.imaginary + kWidth * group + lane;
+        EXPECT_TRUE(same_bits(z[place], expected[static_cast<std::size_t>(k * kWidth + lane)]))
+            << "length " << m << ", step " << shape.step << ", output " << k;
       }
     }
   }
@@ -142,28 +146,36 @@ void check_recombine(int radix, int m, void (*kernel)(const RecombineRun<Float>&
 template <class Float>
 void check_inner_recombine(int radix, void (*kernel)(const InnerRecombineRun<Float>&)) {
   constexpr int kWidth = kLanes<Float>;
+  constexpr int kElements = kLine<Float>;
   const int sub_length = 8, rows = sub_length / 2, m = radix * sub_length;
-  const int row = 2 * radix * kWidth, entries = 2 * (radix - 1) * kWidth;
-  Block<Float> e(static_cast<std::size_t>(rows * row));
+  const auto pitch = static_cast<int>(inner_pitch<Float>(radix));
+  const int entries = 2 * (radix - 1) * kWidth;
+  Block<Float> e(static_cast<std::size_t>(rows * pitch));
   Block<Float> table(static_cast<std::size_t>(rows * entries));
-  // Blocks three vectors apart, the imaginary parts two vectors behind.
-  const std::ptrdiff_t block = 3 * kWidth, imaginary = 2 * kWidth;
+  // Blocks four lines apart, the imaginary parts two lines behind.
+  const int block = 4 * kElements, imaginary = 2 * kElements;
   Block<Float> z(static_cast<std::size_t>(m / 2 * block));
   e.fill_random(5);
   table.fill_random(6);
   kernel({e.data(), table.data(), {z.data(), block, imaginary}, sub_length});
-  for (int b = 0; b < rows; ++b) {
-    std::vector<Float> slots(e.data() + b * row, e.data() + (b + 1) * row);
+  for (int row = 0; row < rows * kLineGroups; ++row) {
+    const int b = row / kLineGroups, group = row % kLineGroups;
+    std::vector<Float> slots;
+    for (int k = 0; k < 2 * radix; ++k) {
+      const Float* const from = e.data() + pitch * b + kElements * k + kWidth * group;
+      slots.insert(slots.end(), from, from + kWidth);
+    }
     slots.insert(slots.end(), table.data() + b * entries, table.data() + (b + 1) * entries);
-    const auto expected =
-        interpreted<Float>(Part::inner_recombine, radix, slots, static_cast<std::size_t>(row));
-    for (int p = 0; p < radix; ++p) {
-      const int k = b + p * sub_length;
-      const std::ptrdiff_t place = block * (k < m / 2 ? k : m - 1 - k);
-      for (int lane = 0; lane < 2 * kWidth; ++lane) {
-        const Float actual = z[place + lane / kWidth * imaginary + lane % kWidth];
-        EXPECT_TRUE(same_bits(actual, expected[static_cast<std::size_t>(2 * p * kWidth + lane)]))
-            << "radix " << radix << ", output " << p;
+    const auto expected = interpreted<Float>(Part::inner_recombine, radix, slots,
+                                             static_cast<std::size_t>(2 * radix * kWidth));
+    for (int k = 0; k < 2 * radix; ++k) {
+      const int index = b + k / 2 * sub_length;
+      const int place =
+          block * (index < m / 2 ? index : m - 1 - index) + k % 2 * imaginary + kWidth * group;
+      for (int lane = 0; lane < kWidth; ++lane) {
+        EXPECT_TRUE(
+            same_bits(z[place + lane], expected[static_cast<std::size_t>(k * kWidth + lane)]))
+            << "radix " << radix << ", output " << k;
       }
     }
   }
@@ -180,13 +192,18 @@ TYPED_TEST(Bits, FixedKernels) {
   for (int k = 0; k < 5; ++k) check_fixed<TypeParam>(2 << k, kernels[k]);
 }
 
-TYPED_TEST(Bits, FoldsAtEveryRadix) {
+TYPED_TEST(Bits, FoldsOfEveryShape) {
   using Kernel = void (*)(const FoldRun<TypeParam>&);
+  constexpr int kWidth = kLanes<TypeParam>;
+  constexpr int kElements = kLine<TypeParam>;
   const Kernel kernels[] = {fold_2, fold_4, fold_8, fold_16, fold_32, fold_64};
   for (int k = 0; k < 6; ++k) {
-    for (int radix = kLanes<TypeParam>; radix <= 32; radix *= 2) {
-      check_fold<TypeParam>(2 << k, radix, kernels[k]);
+    for (int radix = kWidth; radix <= 32; radix *= 2) {
+      const auto pitch = static_cast<int>(inner_pitch<TypeParam>(radix));
+      check_fold<TypeParam>(2 << k, {2 * radix, 2 * radix, radix, radix / kWidth}, kernels[k]);
+      check_fold<TypeParam>(2 << k, {kElements, pitch, kElements, kLineGroups}, kernels[k]);
     }
+    check_fold<TypeParam>(2 << k, {40, 48, 24, 20 / kWidth}, kernels[k]);
   }
 }
 
