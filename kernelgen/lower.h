@@ -21,10 +21,8 @@ Graph split_parts(const Graph& graph);
 /// of arithmetic with constants is one statement.
 Graph gather_statements(const Graph& graph);
 
-/// Marks the statements with constants as wide: 64-bit arithmetic, narrowed once.
-void widen_products(Graph& graph);
-
-/// Scalar program of a real graph.
+/// Scalar program of a real graph. An output that is the result of a wide statement and nothing
+/// else is scaled, and negated where it carries a minus, before it is narrowed.
 Program lower_scalar(const Graph& graph, FloatType type);
 
 }  // namespace haldgen::kernelgen

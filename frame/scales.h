@@ -1,0 +1,29 @@
+// The scaling flags of a kernel: which values are flags, and the factor behind each. A kernel is a
+// type with
+//   Float                        the float type of its elements
+//   kFwdByN, kInvByN, kBySqrtN   the factors of these flags
+#pragma once
+
+#include <cstdint>
+
+#include "haldgen.h"
+
+namespace haldgen::frame {
+
+/// Flags are compared for equality, they are no bit mask.
+template <class Kernel>
+struct Scales {
+  using Float = typename Kernel::Float;
+  static constexpr bool valid(int32_t flag) {
+    constexpr std::uint32_t kFlags = 1U << haldScaleFwdByN | 1U << haldScaleInvByN |
+                                     1U << haldScaleBySqrtN | 1U << haldScaleNone;
+    return static_cast<std::uint32_t>(flag) <= haldScaleNone && ((kFlags >> flag) & 1U) != 0;
+  }
+  static Float of(int32_t flag) {
+    alignas(64) static constexpr Float kByFlag[9] = {
+        0, Kernel::kFwdByN, Kernel::kInvByN, 0, Kernel::kBySqrtN, 0, 0, 0, 1};
+    return kByFlag[flag];
+  }
+};
+
+}  // namespace haldgen::frame
