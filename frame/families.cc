@@ -19,6 +19,7 @@ constexpr std::array<Element, 2> no_arrays{Element::none, Element::none};
 // What is built: a size enters when its functions of both element types exist.
 constexpr SizeSet not_built{};
 constexpr SizeSet complex_built(Range{2, 64});
+constexpr SizeSet real_built(Range{2, 64});
 constexpr SizeSet version_built{0};
 
 constexpr std::string_view forward_complex_definition =
@@ -51,6 +52,120 @@ constexpr std::string_view inverse_complex_general_definition =
 @param dst     N complex elements X[0..N-1].
 @param length  N, for lengths known at run time only: any length that has a function of its own.)";
 
+constexpr std::string_view forward_ccs_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+The length N is the number in the name.
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N.)";
+
+constexpr std::string_view inverse_ccs_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+The length N is the number in the name.
+
+@param src     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N; only read.
+@param dst     N real samples x[0..N-1].)";
+
+constexpr std::string_view forward_ccs_general_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N.
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view inverse_ccs_general_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+@param src     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N; only read.
+@param dst     N real samples x[0..N-1].
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view forward_pack_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+The length N is the number in the name.
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in Pack format: N elements.)";
+
+constexpr std::string_view inverse_pack_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+The length N is the number in the name.
+
+@param src     Half spectrum in Pack format: N elements; only read.
+@param dst     N real samples x[0..N-1].)";
+
+constexpr std::string_view forward_pack_general_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in Pack format: N elements.
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view inverse_pack_general_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+@param src     Half spectrum in Pack format: N elements; only read.
+@param dst     N real samples x[0..N-1].
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view forward_perm_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+The length N is the number in the name.
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in Perm format: N elements.)";
+
+constexpr std::string_view inverse_perm_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+The length N is the number in the name.
+
+@param src     Half spectrum in Perm format: N elements; only read.
+@param dst     N real samples x[0..N-1].)";
+
+constexpr std::string_view forward_perm_general_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in Perm format: N elements.
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view inverse_perm_general_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+@param src     Half spectrum in Perm format: N elements; only read.
+@param dst     N real samples x[0..N-1].
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
 constexpr std::string_view transform_result =
     R"(@return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.)";
@@ -75,115 +190,31 @@ constexpr Family table[] = {
     {"DFTInv_CToC", S::sized_transform, complex, dft_lengths, complex_built, Scaling::inverse,
      "Inverse complex DFT, general", inverse_complex_general_definition, general_length_result},
 
-    {"DFTFwd_RToCCS",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to CCS, fixed length",
-     {},
-     {}},
-    {"DFTFwd_RToCCS",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to CCS, general",
-     {},
-     {}},
-    {"DFTFwd_RToPack",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to Pack, fixed length",
-     {},
-     {}},
-    {"DFTFwd_RToPack",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to Pack, general",
-     {},
-     {}},
-    {"DFTFwd_RToPerm",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to Perm, fixed length",
-     {},
-     {}},
-    {"DFTFwd_RToPerm",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to Perm, general",
-     {},
-     {}},
+    {"DFTFwd_RToCCS", S::transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to CCS, fixed length", forward_ccs_definition, transform_result},
+    {"DFTFwd_RToCCS", S::sized_transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to CCS, general", forward_ccs_general_definition, general_length_result},
+    {"DFTFwd_RToPack", S::transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to Pack, fixed length", forward_pack_definition, transform_result},
+    {"DFTFwd_RToPack", S::sized_transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to Pack, general", forward_pack_general_definition, general_length_result},
+    {"DFTFwd_RToPerm", S::transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to Perm, fixed length", forward_perm_definition, transform_result},
+    {"DFTFwd_RToPerm", S::sized_transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to Perm, general", forward_perm_general_definition, general_length_result},
 
-    {"DFTInv_CCSToR",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from CCS, fixed length",
-     {},
-     {}},
-    {"DFTInv_CCSToR",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from CCS, general",
-     {},
-     {}},
-    {"DFTInv_PackToR",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from Pack, fixed length",
-     {},
-     {}},
-    {"DFTInv_PackToR",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from Pack, general",
-     {},
-     {}},
-    {"DFTInv_PermToR",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from Perm, fixed length",
-     {},
-     {}},
-    {"DFTInv_PermToR",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from Perm, general",
-     {},
-     {}},
+    {"DFTInv_CCSToR", S::transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from CCS, fixed length", inverse_ccs_definition, transform_result},
+    {"DFTInv_CCSToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from CCS, general", inverse_ccs_general_definition, general_length_result},
+    {"DFTInv_PackToR", S::transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from Pack, fixed length", inverse_pack_definition, transform_result},
+    {"DFTInv_PackToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from Pack, general", inverse_pack_general_definition, general_length_result},
+    {"DFTInv_PermToR", S::transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from Perm, fixed length", inverse_perm_definition, transform_result},
+    {"DFTInv_PermToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from Perm, general", inverse_perm_general_definition, general_length_result},
 
     {"Hartley",
      S::transform,

@@ -33,10 +33,22 @@ struct Shape {
   std::size_t dst_floats;
 };
 
+std::size_t spectrum_floats(std::string_view format, std::size_t samples) {
+  return format == "CCS" ? samples / 2 * 2 + 2 : samples;
+}
+
 Shape shape(const Family& family, int size) {
   if (family.word == "DFTFwd_CToC" || family.word == "DFTInv_CToC") {
     const auto floats = 2 * static_cast<std::size_t>(size);
     return {size, floats, floats};
+  }
+  const auto samples = static_cast<std::size_t>(size);
+  if (const auto direction = family.word.find("_RTo"); direction != std::string_view::npos) {
+    return {size, samples, spectrum_floats(family.word.substr(direction + 4), samples)};
+  }
+  if (family.word.starts_with("DFTInv_") && family.word.ends_with("ToR")) {
+    const std::string_view format = family.word.substr(7, family.word.size() - 10);
+    return {size, spectrum_floats(format, samples), samples};
   }
   throw std::logic_error("the arrays of " + std::string(family.word) + " are not described");
 }
