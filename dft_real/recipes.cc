@@ -159,7 +159,7 @@ std::vector<Row> inverse_rows() {
   constexpr auto unfolded = kernelgen::Into::none;
   const Recipe eight = power_of_two(8, EighthRoot::sum_first);
   const Recipe sixteen = power_of_two(16);
-  const Recipe& eleven = rader_eleven;
+  const Recipe eleven = rader(11, coprime(permuted(2, five), two), five, alternated(five));
   const Recipe thirteen = rader(13, thirteen_block, coprime(two, three), twisted(three));
   const Recipe thirteen_complex =
       rader(13, thirteen_block, coprime(two, three), coprime_odd(three, odd_two));

@@ -195,6 +195,14 @@ Bins renamed(const Bins& bins, int n, int r) {
   return result;
 }
 
+Bins permuted_bins(Graph& g, const Recipe& recipe, const Reals& x) {
+  Reals permuted;
+  for (int i = 0; i < recipe.length; ++i) {
+    permuted.push_back(x[at(recipe.multiplier * i % recipe.length)]);
+  }
+  return renamed(real_bins(g, block(recipe, 0), permuted), recipe.length, recipe.multiplier);
+}
+
 Bins relabelled_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int n = recipe.length;
   const int r = recipe.multiplier;
@@ -383,6 +391,8 @@ Bins real_bins(Graph& g, const Recipe& recipe, const Reals& x) {
       return rader_bins(g, recipe, x);
     case Method::by_column:
       return real_bins(g, block(recipe, 0), x);
+    case Method::permuted:
+      return permuted_bins(g, recipe, x);
     case Method::relabelled:
       return relabelled_bins(g, recipe, x);
     default:

@@ -38,6 +38,8 @@ std::string word(const Recipe& recipe) {
       return "by column";
     case Method::decimated:
       return "decimated";
+    case Method::permuted:
+      return "permuted " + std::to_string(recipe.multiplier);
     case Method::relabelled:
       return "relabelled " + std::to_string(recipe.multiplier);
     case Method::alternated:
@@ -103,6 +105,13 @@ Recipe by_column(Recipe real, Recipe complex) {
 Recipe decimated(Recipe half) {
   const int length = 2 * half.length;
   return composed(Method::decimated, length, {std::move(half)});
+}
+
+Recipe permuted(int multiplier, Recipe block) {
+  const int length = block.length;
+  Recipe recipe = composed(Method::permuted, length, {std::move(block)});
+  recipe.multiplier = multiplier;
+  return recipe;
 }
 
 Recipe relabelled(int multiplier, Recipe cooley_tukey) {

@@ -20,6 +20,7 @@ enum class Method {
   rader,         ///< C. M. Rader, Proc. IEEE 56 (1968), on real data, two sides of half the length
   by_column,     ///< one block for real columns, another for complex ones
   decimated,     ///< complex columns only: sums and twiddled differences, two half-length blocks
+  permuted,      ///< a block on x[r n], whose bins are those at r k: another order of its sums
   relabelled,    ///< a Cooley-Tukey block on multiplied exponents, its bins renamed accordingly
 
   // Blocks of the odd bins j = 1, 3, .. of length 2n, fed with n values and their negatives.
@@ -41,7 +42,7 @@ struct Recipe {
   std::vector<Recipe> blocks = {};
   EighthRoot eighth = EighthRoot::products_first;
   int shift = 0;             ///< Rader: power of the root at which the outputs start
-  int multiplier = 1;        ///< relabelled: factor of the exponents
+  int multiplier = 1;        ///< permuted and relabelled: r, factor of the exponents
   bool from_behind = false;  ///< classes of two: the second has the places -1, 1, 3, ..
 
   friend bool operator==(const Recipe&, const Recipe&) = default;
@@ -62,6 +63,7 @@ Recipe rader(int prime, Recipe block, Recipe even, Recipe odd);
 Recipe shifted(int shift, Recipe rader);
 Recipe by_column(Recipe real, Recipe complex);
 Recipe decimated(Recipe half);
+Recipe permuted(int multiplier, Recipe block);
 Recipe relabelled(int multiplier, Recipe cooley_tukey);
 
 Recipe alternated(Recipe block);

@@ -61,9 +61,9 @@ TEST(Counts, EveryForwardRowIsMet) {
   for (const auto& [length, promise] : rows) {
     const Tally t = tally(length, Direction::forward, FloatType::f32);
     EXPECT_EQ(row({total(&Operations::additions, t), total(&Operations::negations, t),
-                   total(&Operations::products, t), t.depth,
-                   t.in32.additions + t.in32.negations, t.in64.additions + t.in64.negations,
-                   t.in64.products + t.in64.scales, t.in32.scales, t.narrowings}),
+                   total(&Operations::products, t), t.depth, t.in32.additions + t.in32.negations,
+                   t.in64.additions + t.in64.negations, t.in64.products + t.in64.scales,
+                   t.in32.scales, t.narrowings}),
               promise)
         << length;
     EXPECT_EQ(t.in32.products, 0) << length;
@@ -73,8 +73,8 @@ TEST(Counts, EveryForwardRowIsMet) {
 }
 
 TEST(Counts, EveryInverseRowIsMet) {
-  const auto rows = promised(INVERSE_COUNTS,
-                             "length\tadd\tdbl\tmul\tdepth\tadd32\tadd64\tmul32\tmul64\tnarrow");
+  const auto rows =
+      promised(INVERSE_COUNTS, "length\tadd\tdbl\tmul\tdepth\tadd32\tadd64\tmul32\tmul64\tnarrow");
   for (const auto& [length, promise] : rows) {
     const Tally t = tally(length, Direction::inverse, FloatType::f32);
     // The products in 32 bits are the doublings.
