@@ -23,7 +23,8 @@ constexpr std::string_view prologue =
  *   do (4 bytes for Cplx32, 8 bytes for Cplx64), and the alignment changes no bit of a result.
  *   The transforms of real arrays take any address at all.
  * - dst may be the same array as src. The arrays must not overlap in any other way.
- * - Any number of threads may call at once, also with one src. Nothing is allocated or locked.
+ * - Any number of threads may call at once, also with one src. Nothing is locked, and nothing is
+ *   allocated, but for the work area of a large Walsh-Hadamard transform called without one.
  * - The same input gives the same bits on every call and on every machine.
  * - A failure is only returned as a status, and then dst is not written.
  *

@@ -20,6 +20,8 @@ constexpr std::array<Element, 2> no_arrays{Element::none, Element::none};
 constexpr SizeSet not_built{};
 constexpr SizeSet complex_built(Range{2, 64});
 constexpr SizeSet real_built(Range{2, 64});
+constexpr SizeSet wht_built(wht_orders);
+constexpr SizeSet wht_query_built{0};
 constexpr SizeSet version_built{0};
 
 constexpr std::string_view forward_complex_definition =
@@ -174,6 +176,52 @@ constexpr std::string_view general_length_result =
     R"(@return haldStatusSizeError if no function has this length, whatever the other arguments are;
         else what the function of this length returns.)";
 
+constexpr std::string_view wht_definition =
+    R"(    Y[k] = s * sum over n of (-1)^popcount(k & n) * x[n],   k, n = 0..N-1
+
+N is two to the power of the order, which is the number in the name. Outputs are in the natural
+(Hadamard) order of k. The transform is its own inverse: two calls with haldScaleBySqrtN give the
+input back, and so do one with haldScaleNone and one with a flag that divides by N.
+
+The results are those of sums and differences taken in place, first of neighbours x[n], x[n+1],
+then of elements 2, 4, .. N/2 apart, each rounded to the element type, and of one multiplication
+by s at the end.
+
+@param src     N elements x[0..N-1]; only read. Need not even be aligned to an element.
+@param dst     N elements Y[0..N-1]; likewise.)";
+
+constexpr std::string_view wht_general_definition =
+    R"(    Y[k] = s * sum over n of (-1)^popcount(k & n) * x[n],   k, n = 0..N-1,   N = 2^order
+
+@param src     N elements x[0..N-1]; only read. Need not even be aligned to an element.
+@param dst     N elements Y[0..N-1]; likewise.
+@param order   1 to 13, for orders known at run time only.)";
+
+constexpr std::string_view wht_result =
+    R"(@param buffer  work area of as many bytes as haldgWHTGetBufferSize tells for the order and the
+        element type, at a multiple of 16 bytes, apart from src and dst. It needs no contents,
+        and nothing is kept in it. Orders 1 to 7 pass over this argument.
+        If it is null, orders 8 to 13 take the area from haldMalloc and give it back to haldFree
+        before they return. There is no status for a haldMalloc that fails: the call crashes.
+@return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+        the four values; else haldStatusOk. Only if haldStatusOk is returned is dst written or
+        memory taken.)";
+
+constexpr std::string_view wht_general_result =
+    R"(@param buffer  as for the function of this order.
+@return haldStatusSizeError if no function has this order, whatever the other arguments are; else
+        what the function of this order returns.)";
+
+constexpr std::string_view wht_query_definition =
+    R"(Bytes that the buffer of a Walsh-Hadamard transform needs: 0 for orders 1 to 7.
+
+@param order   1 to 13.
+@param size    where to store the number of bytes.)";
+
+constexpr std::string_view wht_query_result =
+    R"(@return haldStatusNullPointer if size is null; else haldStatusSizeError if no function has this
+        order, and nothing is stored; else haldStatusOk.)";
+
 constexpr std::string_view version_result =
     R"(@return The record of this build: always the same pointer, never null. It belongs to the library;
         do not change or free it.)";
@@ -235,33 +283,12 @@ constexpr Family table[] = {
      {},
      {}},
 
-    {"WHT",
-     S::buffered_transform,
-     real,
-     wht_orders,
-     not_built,
-     Scaling::directionless,
-     "Walsh-Hadamard transform, fixed order",
-     {},
-     {}},
-    {"WHT",
-     S::sized_buffered_transform,
-     real,
-     wht_orders,
-     not_built,
-     Scaling::directionless,
-     "Walsh-Hadamard transform, general",
-     {},
-     {}},
-    {"WHTGetBufferSize",
-     S::order_query,
-     real,
-     no_size,
-     not_built,
-     Scaling::none,
-     "Walsh-Hadamard transform, size of the work buffer",
-     {},
-     {}},
+    {"WHT", S::buffered_transform, real, wht_orders, wht_built, Scaling::directionless,
+     "Walsh-Hadamard transform, fixed order", wht_definition, wht_result},
+    {"WHT", S::sized_buffered_transform, real, wht_orders, wht_built, Scaling::directionless,
+     "Walsh-Hadamard transform, general", wht_general_definition, wht_general_result},
+    {"WHTGetBufferSize", S::order_query, real, no_size, wht_query_built, Scaling::none,
+     "Walsh-Hadamard transform, size of the work buffer", wht_query_definition, wht_query_result},
 
     {"DCT4GetSize",
      S::length_query,

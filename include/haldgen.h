@@ -10,7 +10,8 @@
  *   do (4 bytes for Cplx32, 8 bytes for Cplx64), and the alignment changes no bit of a result.
  *   The transforms of real arrays take any address at all.
  * - dst may be the same array as src. The arrays must not overlap in any other way.
- * - Any number of threads may call at once, also with one src. Nothing is allocated or locked.
+ * - Any number of threads may call at once, also with one src. Nothing is locked, and nothing is
+ *   allocated, but for the work area of a large Walsh-Hadamard transform called without one.
  * - The same input gives the same bits on every call and on every machine.
  * - A failure is only returned as a status, and then dst is not written.
  *
@@ -1450,6 +1451,101 @@ int32_t haldgDFTInv_PermToR_64_64f(const double* src, double* dst, int32_t flag)
  */
 int32_t haldgDFTInv_PermToR_32f(const float* src, float* dst, int32_t length, int32_t flag);
 int32_t haldgDFTInv_PermToR_64f(const double* src, double* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Walsh-Hadamard transform, fixed order
+ *
+ *     Y[k] = s * sum over n of (-1)^popcount(k & n) * x[n],   k, n = 0..N-1
+ *
+ * N is two to the power of the order, which is the number in the name. Outputs are in the natural
+ * (Hadamard) order of k. The transform is its own inverse: two calls with haldScaleBySqrtN give the
+ * input back, and so do one with haldScaleNone and one with a flag that divides by N.
+ *
+ * The results are those of sums and differences taken in place, first of neighbours x[n], x[n+1],
+ * then of elements 2, 4, .. N/2 apart, each rounded to the element type, and of one multiplication
+ * by s at the end.
+ *
+ * @param src     N elements x[0..N-1]; only read. Need not even be aligned to an element.
+ * @param dst     N elements Y[0..N-1]; likewise.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @param buffer  work area of as many bytes as haldgWHTGetBufferSize tells for the order and the
+ *         element type, at a multiple of 16 bytes, apart from src and dst. It needs no contents,
+ *         and nothing is kept in it. Orders 1 to 7 pass over this argument.
+ *         If it is null, orders 8 to 13 take the area from haldMalloc and give it back to haldFree
+ *         before they return. There is no status for a haldMalloc that fails: the call crashes.
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. Only if haldStatusOk is returned is dst written or
+ *         memory taken.
+ * @{
+ */
+int32_t haldgWHT_1_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_2_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_3_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_4_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_5_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_6_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_7_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_8_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_9_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_10_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_11_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_12_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_13_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_1_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_2_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_3_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_4_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_5_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_6_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_7_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_8_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_9_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_10_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_11_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_12_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_13_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+/** @} */
+
+/**
+ * @name Walsh-Hadamard transform, general
+ *
+ *     Y[k] = s * sum over n of (-1)^popcount(k & n) * x[n],   k, n = 0..N-1,   N = 2^order
+ *
+ * @param src     N elements x[0..N-1]; only read. Need not even be aligned to an element.
+ * @param dst     N elements Y[0..N-1]; likewise.
+ * @param order   1 to 13, for orders known at run time only.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @param buffer  as for the function of this order.
+ * @return haldStatusSizeError if no function has this order, whatever the other arguments are; else
+ *         what the function of this order returns.
+ * @{
+ */
+int32_t haldgWHT_32f(const float* src, float* dst, int32_t order, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_64f(const double* src, double* dst, int32_t order, int32_t flag, uint8_t* buffer);
+/** @} */
+
+/**
+ * @name Walsh-Hadamard transform, size of the work buffer
+ *
+ * Bytes that the buffer of a Walsh-Hadamard transform needs: 0 for orders 1 to 7.
+ *
+ * @param order   1 to 13.
+ * @param size    where to store the number of bytes.
+ * @return haldStatusNullPointer if size is null; else haldStatusSizeError if no function has this
+ *         order, and nothing is stored; else haldStatusOk.
+ * @{
+ */
+int32_t haldgWHTGetBufferSize_32f(int32_t order, uint32_t* size);
+int32_t haldgWHTGetBufferSize_64f(int32_t order, uint32_t* size);
 /** @} */
 
 /**
