@@ -25,6 +25,20 @@ const std::vector<Complex>& roots(std::size_t n) {
   return found;
 }
 
+// By the recursion of the Hadamard matrix on the highest bit: H(2n) = (H(n) H(n); H(n) -H(n)).
+void walsh_hadamard(long double* values, std::size_t n) {
+  if (n == 1) return;
+  const std::size_t half = n / 2;
+  for (std::size_t i = 0; i < half; ++i) {
+    const long double low = values[i];
+    const long double high = values[half + i];
+    values[i] = low + high;
+    values[half + i] = low - high;
+  }
+  walsh_hadamard(values, half);
+  walsh_hadamard(values + half, half);
+}
+
 std::vector<long double> complex_dft(const std::vector<long double>& src, bool inverse) {
   const std::size_t n = src.size() / 2;
   const std::vector<Complex>& root = roots(n);
@@ -119,6 +133,11 @@ Spectrum unpacked(std::string_view format, std::size_t samples,
 
 std::vector<long double> definition(std::string_view word, int points,
                                     const std::vector<long double>& src) {
+  if (word == "WHT") {
+    std::vector<long double> dst = src;
+    walsh_hadamard(dst.data(), dst.size());
+    return dst;
+  }
   if (word == "DFTFwd_CToC") return complex_dft(src, false);
   if (word == "DFTInv_CToC") return complex_dft(src, true);
   const auto n = static_cast<std::size_t>(points);
