@@ -79,10 +79,14 @@ inline constexpr std::array<Blocking, kLastOrder> kBlockings<double>{{
     {7, 3, 3},
 }};
 
+/// The sizes of the work buffers in bytes, that of order k at [k - 1].
 template <class Float>
-constexpr std::int32_t buffer_bytes(int order) {
-  return static_cast<std::int32_t>(
-      kBlockings<Float>[static_cast<std::size_t>(order) - 1].buffer_elements() * sizeof(Float));
-}
+inline constexpr std::array<std::int32_t, kLastOrder> kBufferBytes = [] {
+  std::array<std::int32_t, kLastOrder> bytes{};
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    bytes[i] = static_cast<std::int32_t>(kBlockings<Float>[i].buffer_elements() * sizeof(Float));
+  }
+  return bytes;
+}();
 
 }  // namespace haldgen::wht

@@ -10,8 +10,9 @@ namespace {
 template <class Float>
 std::int32_t buffer_size(std::int32_t order, std::uint32_t* size) {
   if (size == nullptr) return haldStatusNullPointer;
-  if (order < 1 || order > kLastOrder) return haldStatusSizeError;
-  *size = static_cast<std::uint32_t>(buffer_bytes<Float>(order));
+  const std::uint32_t index = static_cast<std::uint32_t>(order) - 1;
+  if (index >= kBufferBytes<Float>.size()) return haldStatusSizeError;
+  *size = static_cast<std::uint32_t>(kBufferBytes<Float>[index]);
   return haldStatusOk;
 }
 

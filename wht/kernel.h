@@ -18,6 +18,7 @@ struct Kernel {
   using Float = FloatType;
   static constexpr Blocking kBlocking = kBlockings<Float>[kOrder - 1];
   static_assert(kBlocking.order() == kOrder);
+  static constexpr std::int32_t kBufferBytes = wht::kBufferBytes<Float>[kOrder - 1];
 
   /// Vectors from four of them on; smaller transforms are scalar.
   using Vector = std::conditional_t<std::is_same_v<Float, float>, Float4, Double2>;
@@ -127,7 +128,7 @@ HALDGEN_INLINE std::int32_t checked(const typename Kernel::Float* src, typename 
     Path::in_registers(src, dst, scale);
   } else {
     const bool own = buffer == nullptr;
-    void* const area = own ? haldMalloc(buffer_bytes<Float>(Kernel::kBlocking.order())) : buffer;
+    void* const area = own ? haldMalloc(Kernel::kBufferBytes) : buffer;
     Path::in_buffer(src, dst, scale, static_cast<Float*>(area));
     if (own) haldFree(area);
   }
