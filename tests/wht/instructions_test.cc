@@ -97,6 +97,19 @@ TEST(Instructions, SmallOrdersHoldTheArithmeticOfTheNetworkAndNoOther) {
   }
 }
 
+TEST(Instructions, AlignedPathsHaveNoUnalignedAccess) {
+  const Kernels kernels;
+  for (const bool single : {true, false}) {
+    for (int order = 6; order <= 13; ++order) {
+      if (!stands_apart(order, single)) continue;
+      SCOPED_TRACE(std::to_string(order) + (single ? "_32f" : "_64f"));
+      for (const std::string access : {"movups", "movupd", "movdqu"}) {
+        EXPECT_EQ(count(kernels.exported(order, single), access), 0) << access;
+      }
+    }
+  }
+}
+
 TEST(Instructions, LongUnalignedPathsStandApart) {
   const Kernels kernels;
   for (const bool single : {true, false}) {
