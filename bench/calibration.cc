@@ -2,6 +2,7 @@
 #include "bench/calibration.h"
 
 #include <cstdint>
+#include <cstring>
 
 #include "bench/core/report.h"
 
@@ -37,7 +38,17 @@ volatile Kernel null_kernel_address = null_kernel;
 
 }  // namespace
 
-int lanes(frame::Element element) { return element == frame::Element::c32 ? 4 : 2; }
+int lanes(frame::Element element) {
+  return element == frame::Element::c32 || element == frame::Element::f32 ? 4 : 2;
+}
+
+Contestant copy_contestant(std::size_t bytes) {
+  return {copy_name, Role::calibration, [bytes](const Walk& walk, std::int64_t calls) {
+            walk_calls(walk, calls, [bytes](const std::byte* src, std::byte* dst) {
+              std::memcpy(dst, src, bytes);
+            });
+          }};
+}
 
 Contestant null_call_contestant() {
   return {null_call_name, Role::calibration, [](const Walk& walk, std::int64_t calls) {
@@ -49,7 +60,7 @@ Contestant null_call_contestant() {
 }
 
 Contestant vector_add_contestant(frame::Element element) {
-  const bool is_float = element == frame::Element::c32;
+  const bool is_float = lanes(element) == 4;
   return {vector_add_name, Role::calibration, [is_float](const Walk&, std::int64_t calls) {
             if (is_float) {
               HALDGEN_ADD_CHAINS("addps", calls);

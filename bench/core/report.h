@@ -13,9 +13,11 @@
 
 namespace haldgen::bench {
 
-/// Names of the two calibration contestants.
+/// Names of the two calibration contestants of every family.
 inline constexpr const char* null_call_name = "null_call";
 inline constexpr const char* vector_add_name = "vector_add";
+/// And of one that some families have: a copy of the source to the destination.
+inline constexpr const char* copy_name = "memcpy";
 
 /// One contestant of a finished measurement.
 struct Series {
@@ -29,9 +31,11 @@ struct Measurement {
   Mode mode;
   std::string family;  ///< transform word, such as DFTFwd_CToC
   std::string type;    ///< element suffix, such as 64fc
-  int length;
+  int length;          ///< or the order, of a family whose functions are named by it
   std::optional<double> vector_additions;  ///< of the subject, each on a whole vector
   std::vector<Series> series;
+  bool sized_by_order = false;
+  std::size_t bytes = 0;  ///< that a call has to read and to write; 0 if not known
 };
 
 /// The figures of one measurement for one statistic. A ratio is the subject's time over the
@@ -50,9 +54,15 @@ struct Figures {
   /// Time of a call plus that of the subject's additions at the full rate of the machine.
   std::optional<double> bound;
   std::optional<double> bound_ratio;
+  /// Bytes that the subject reads and writes per nanosecond.
+  std::optional<double> traffic;
 };
 
-/// One row per measurement and statistic, with the columns of all contestants that occur.
+/// The measurements of families that are sized alike: by length, then by order; none empty.
+std::vector<std::vector<Measurement>> split_by_size(const std::vector<Measurement>& measurements);
+
+/// One row per measurement and statistic, with the columns of all contestants that occur. The
+/// measurements are of families that are sized alike.
 Table figures_table(const std::vector<Measurement>& measurements, Mode mode, Statistic statistic);
 
 /// The same for all modes and statistics together, with full precision and two columns in front
@@ -63,8 +73,8 @@ Table long_table(const std::vector<Measurement>& measurements);
 /// per type and together.
 Table summary_table(const std::vector<Measurement>& measurements);
 
-/// Picture (SVG) of the medians: ratio per length to the best peer and to the narrow peer, for
-/// each type of this family and mode.
+/// Picture (SVG) of the medians: ratio per length to the best peer, to the narrow peer and to the
+/// baselines, for each type of this family and mode.
 void write_picture(std::ostream& out, const std::vector<Measurement>& measurements,
                    const std::string& family, Mode mode);
 

@@ -118,6 +118,61 @@ TEST(Summary, MeansAndWorstPerTypeAndTogether) {
   EXPECT_EQ(at(table, 5, "worst /best"), "8.000 at 32fc/12");
 }
 
+// A family named by order that meets plain loops and a copy instead of peers.
+Measurement by_order(const std::string& type, int order, double ours, double plain) {
+  return {Mode::hot,
+          "Orders",
+          type,
+          order,
+          40.0,
+          {{"haldgen", Role::subject, {ours}},
+           {"plain", Role::baseline, {plain}},
+           {"plain_fixed", Role::baseline, {plain / 2}},
+           {copy_name, Role::calibration, {5}},
+           {null_call_name, Role::calibration, {2}},
+           {vector_add_name, Role::calibration, {0.25}}},
+          true,
+          160};
+}
+
+TEST(Baselines, HaveRatiosOfTheirOwnAndAreNoPeers) {
+  const Measurement source = by_order("32f", 9, 10, 40);
+  const Figures figures(source, Statistic::median);
+  EXPECT_EQ(figures.best_ratio, std::nullopt);
+  EXPECT_EQ(figures.traffic, 16);
+  const Table table = figures_table({source}, Mode::hot, Statistic::median);
+  EXPECT_EQ(at(table, 0, "order"), "9");
+  EXPECT_EQ(at(table, 0, "/plain"), "0.250");
+  EXPECT_EQ(at(table, 0, "/plain_fixed"), "0.500");
+  EXPECT_EQ(at(table, 0, "/memcpy"), "2.000");
+  EXPECT_EQ(at(table, 0, "GB/s"), "16.0");
+  EXPECT_EQ(at(table, 0, "/best"), "no column /best");
+}
+
+TEST(Baselines, NoTrafficWhereThereIsNoCopy) {
+  const Table table =
+      figures_table({measurement("32fc", 8, 30, 20, 10)}, Mode::hot, Statistic::median);
+  EXPECT_EQ(at(table, 0, "GB/s"), "no column GB/s");
+  EXPECT_EQ(at(table, 0, "length"), "8");
+}
+
+TEST(Summary, OrdersHaveGroupsOfTheirOwn) {
+  const std::vector<Measurement> sources = {by_order("32f", 7, 10, 40), by_order("32f", 8, 10, 10),
+                                            measurement("32fc", 8, 30, 20, 10)};
+  const auto parts = split_by_size(sources);
+  ASSERT_EQ(parts.size(), 2U);
+  EXPECT_EQ(parts[0].size(), 1U);
+  const Table table = summary_table(parts[1]);
+  ASSERT_EQ(table.rows.size(), 6U);
+  EXPECT_EQ(at(table, 0, "lengths"), "orders 1..7");
+  EXPECT_EQ(at(table, 0, "/plain"), "0.250");
+  EXPECT_EQ(at(table, 1, "lengths"), "orders 8..13");
+  EXPECT_EQ(at(table, 1, "/plain"), "1.000");
+  EXPECT_EQ(at(table, 2, "lengths"), "all orders");
+  EXPECT_EQ(at(table, 2, "/plain"), "0.500");
+  EXPECT_EQ(at(table, 2, "worst /plain"), "1.000 at 32f/8");
+}
+
 TEST(Picture, HasAMarkerForEveryRatio) {
   std::ostringstream out;
   write_picture(out, {measurement("32fc", 8, 30, 20, 10), measurement("64fc", 8, 30, 20, 10)},
