@@ -15,6 +15,11 @@ Contestant vector_add_contestant(frame::Element element);
 
 inline constexpr int vector_adds_per_call = 14 * 16;
 
+/// Widenings and narrowings in turns, in as many chains.
+Contestant convert_contestant();
+
+inline constexpr int conversions_per_call = 2 * vector_adds_per_call;
+
 /// A copy of `bytes` bytes from source to destination.
 Contestant copy_contestant(std::size_t bytes);
 

@@ -143,8 +143,10 @@ class Contest::Bout {
         mode_, std::string(function.family->word), type_of(function), function.size, std::nullopt,
         {}};
     const Problem& problem = *lineup_->kernel().problem;
-    const std::optional<double> additions = problem.additions(contest_.counts_);
-    if (additions) measurement.vector_additions = *additions / lanes(function.element);
+    if (const auto work = problem.work(contest_.counts_)) {
+      measurement.vector_additions = work->additions;
+      measurement.conversions = work->conversions;
+    }
     measurement.sized_by_order = problem.sized_by_order();
     measurement.bytes = lineup_->source().size() + problem.result_bytes();
     const std::vector<Contestant>& contestants = lineup_->contestants(arena_->walk());
@@ -152,6 +154,9 @@ class Contest::Bout {
       Series series{contestants[i].name, contestants[i].role, duel_->samples()[i]};
       if (series.name == vector_add_name) {
         for (double& sample : series.samples) sample /= vector_adds_per_call;
+      }
+      if (series.name == convert_name) {
+        for (double& sample : series.samples) sample /= conversions_per_call;
       }
       measurement.series.push_back(std::move(series));
     }

@@ -131,9 +131,9 @@ void apply(Options& options, int code, const std::string& value) {
 }
 
 void require_distinct_labels(const std::vector<Variant>& variants) {
-  std::set<std::string> labels = {"haldgen",   "fftw",        "fftw128", "kissfft", "av_tx",
-                                  "null_call", "best_peer",   "best",    "bound",   "vector_add",
-                                  "plain",     "plain_fixed", "memcpy"};
+  std::set<std::string> labels = {"haldgen",   "fftw",      "fftw128",     "kissfft", "av_tx",
+                                  "null_call", "best_peer", "best",        "bound",   "vector_add",
+                                  "convert",   "plain",     "plain_fixed", "memcpy"};
   for (const Variant& variant : variants) {
     if (variant.label.empty() || !labels.insert(variant.label).second) {
       throw std::invalid_argument("the label '" + variant.label + "' of --also is taken or empty");

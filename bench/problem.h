@@ -34,8 +34,8 @@ class Problem {
   /// What needs no check: copies and the like, which say what the machine can do.
   virtual std::vector<Contestant> yardsticks() const { return {}; }
 
-  /// Real additions of the kernel; none if they are not known.
-  virtual std::optional<double> additions(const OperationCounts& counts) const = 0;
+  /// Instructions of the kernel that add or convert; none if they are not known.
+  virtual std::optional<OperationCounts::Counts> work(const OperationCounts& counts) const = 0;
 
   /// Whether the size in the kernel's name is the order of a transform of 2^order points.
   virtual bool sized_by_order() const { return false; }

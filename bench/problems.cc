@@ -1,9 +1,11 @@
 // The families that are measured.
 #include <utility>
 
+#include "bench/calibration.h"
 #include "bench/complex_problem.h"
 #include "bench/peers/peers.h"
 #include "bench/problem.h"
+#include "bench/real_problem.h"
 #include "bench/wht_problem.h"
 
 namespace haldgen::bench {
@@ -30,10 +32,11 @@ class ComplexTransform final : public Problem {
     add(narrow_fftw_contestant(problem_));
     return all;
   }
-  std::optional<double> additions(const OperationCounts& counts) const override {
+  std::optional<OperationCounts::Counts> work(const OperationCounts& counts) const override {
     // The generator's name for both directions: their counts are equal.
-    return counts.additions("complex", std::string(frame::suffix(problem_.element)),
-                            problem_.length);
+    auto work = counts.of("complex", std::string(frame::suffix(problem_.element)), problem_.length);
+    if (work) work->additions /= lanes(problem_.element);
+    return work;
   }
 
  private:
@@ -46,6 +49,9 @@ std::shared_ptr<const Problem> problem_of(const frame::Export& function) {
   if (function.size == 0) return nullptr;
   if (const std::optional<ComplexProblem> problem = complex_problem_of(function)) {
     return std::make_shared<ComplexTransform>(*problem);
+  }
+  if (const std::optional<RealTransform> transform = real_transform_of(function)) {
+    return std::make_shared<RealProblem>(*transform);
   }
   if (function.family->word == "WHT") {
     return std::make_shared<WhtProblem>(function.element, function.size);

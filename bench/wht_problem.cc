@@ -109,8 +109,8 @@ std::vector<Contestant> WhtProblem::rivals() const {
 
 std::vector<Contestant> WhtProblem::yardsticks() const { return {copy_contestant(result_bytes())}; }
 
-std::optional<double> WhtProblem::additions(const OperationCounts&) const {
-  return std::ldexp(order_, order_);
+std::optional<OperationCounts::Counts> WhtProblem::work(const OperationCounts&) const {
+  return OperationCounts::Counts{std::ldexp(order_, order_) / lanes(element_), 0};
 }
 
 }  // namespace haldgen::bench

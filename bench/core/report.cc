@@ -40,6 +40,10 @@ std::vector<Column> contestant_columns(const std::vector<Measurement>& measureme
   return columns;
 }
 
+bool is_per_instruction(const std::string& name) {
+  return name == vector_add_name || name == convert_name;
+}
+
 bool has_own_ratio(const Column& column) {
   return column.role == Role::variant || column.role == Role::narrow_peer ||
          column.role == Role::baseline || column.name == copy_name;
@@ -75,7 +79,7 @@ std::vector<std::string> row(const Figures& figures, const std::vector<Column>& 
                                     std::to_string(measurement.length)};
   for (const Column& column : columns) {
     // The time of one addition is a fraction of a clock cycle.
-    const int decimals = (column.name == vector_add_name ? 3 : 2) + extra_decimals;
+    const int decimals = (is_per_instruction(column.name) ? 3 : 2) + extra_decimals;
     cells.push_back(cell(figures.time(column.name), decimals));
   }
   if (has_role(columns, Role::peer)) {
@@ -103,6 +107,7 @@ struct Group {
 constexpr std::array groups = {
     Group{"8,16,32,64", false, [](int n) { return n == 8 || n == 16 || n == 32 || n == 64; }},
     Group{"6..64", false, [](int n) { return 6 <= n && n <= 64; }},
+    Group{"2..64", false, [](int n) { return 2 <= n && n <= 64; }},
     Group{"orders 1..7", true, [](int order) { return order <= 7; }},
     Group{"orders 8..13", true, [](int order) { return order >= 8; }},
     Group{"all orders", true, [](int) { return true; }},
@@ -167,8 +172,10 @@ Figures::Figures(const Measurement& source, Statistic which)
   best_ratio = quotient(subject, best);
   const std::optional<double> call = time(null_call_name);
   const std::optional<double> addition = time(vector_add_name);
-  if (source.vector_additions && call && addition) {
-    bound = *call + *source.vector_additions * *addition;
+  const std::optional<double> conversion =
+      source.conversions == 0 ? std::optional<double>(0) : time(convert_name);
+  if (source.vector_additions && call && addition && conversion) {
+    bound = *call + *source.vector_additions * *addition + source.conversions * *conversion;
   }
   bound_ratio = quotient(subject, bound);
   if (source.bytes != 0 && subject) traffic = static_cast<double>(source.bytes) / *subject;

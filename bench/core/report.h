@@ -16,6 +16,8 @@ namespace haldgen::bench {
 /// Names of the two calibration contestants of every family.
 inline constexpr const char* null_call_name = "null_call";
 inline constexpr const char* vector_add_name = "vector_add";
+/// Of one for families that convert between 32 and 64 bits: pairs of a widening and a narrowing.
+inline constexpr const char* convert_name = "convert";
 /// And of one that some families have: a copy of the source to the destination.
 inline constexpr const char* copy_name = "memcpy";
 
@@ -23,7 +25,8 @@ inline constexpr const char* copy_name = "memcpy";
 struct Series {
   std::string name;
   Role role;
-  std::vector<double> samples;  ///< nanoseconds per call (for vector_add: per addition)
+  std::vector<double>
+      samples;  ///< nanoseconds per call (of vector_add and convert: per instruction)
 };
 
 /// One kernel measured in one mode.
@@ -32,10 +35,11 @@ struct Measurement {
   std::string family;  ///< transform word, such as DFTFwd_CToC
   std::string type;    ///< element suffix, such as 64fc
   int length;          ///< or the order, of a family whose functions are named by it
-  std::optional<double> vector_additions;  ///< of the subject, each on a whole vector
+  std::optional<double> vector_additions;  ///< instructions of the subject that add
   std::vector<Series> series;
   bool sized_by_order = false;
-  std::size_t bytes = 0;  ///< that a call has to read and to write; 0 if not known
+  std::size_t bytes = 0;   ///< that a call has to read and to write; 0 if not known
+  double conversions = 0;  ///< instructions of the subject that convert
 };
 
 /// The figures of one measurement for one statistic. A ratio is the subject's time over the
@@ -51,7 +55,8 @@ struct Figures {
   std::optional<double> subject;
   std::string best_peer;  ///< fastest contestant with Role::peer; empty without any
   std::optional<double> best_ratio;
-  /// Time of a call plus that of the subject's additions at the full rate of the machine.
+  /// Time of a call plus that of the subject's additions and conversions at the full rate of the
+  /// machine.
   std::optional<double> bound;
   std::optional<double> bound_ratio;
   /// Bytes that the subject reads and writes per nanosecond.

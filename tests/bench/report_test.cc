@@ -56,6 +56,14 @@ TEST(Figures, BoundIsACallAndTheAdditions) {
   EXPECT_EQ(figures.bound_ratio, 2);
 }
 
+TEST(Figures, ConversionsBelongToTheBound) {
+  Measurement source = measurement("32f", 8, 54, 20, 10);
+  source.conversions = 10;
+  EXPECT_EQ(Figures(source, Statistic::median).bound, std::nullopt);
+  source.series.push_back({convert_name, Role::calibration, {0.5}});
+  EXPECT_EQ(Figures(source, Statistic::median).bound, 2 + 100 * 0.25 + 10 * 0.5);
+}
+
 TEST(Figures, NoBoundWithoutCounts) {
   Measurement source = measurement("64fc", 8, 54, 20, 10);
   source.vector_additions.reset();
@@ -98,12 +106,12 @@ TEST(LongTable, HasARowPerStatistic) {
 }
 
 TEST(Summary, MeansAndWorstPerTypeAndTogether) {
-  // Length 4 is in no group, 12 only in the wide one.
+  // Length 4 is in the widest group only, 12 not in the first one.
   const std::vector<Measurement> sources = {
       measurement("32fc", 4, 900, 1, 1), measurement("32fc", 8, 40, 20, 10),
       measurement("32fc", 12, 160, 20, 10), measurement("64fc", 64, 10, 20, 10)};
   const Table table = summary_table(sources);
-  ASSERT_EQ(table.rows.size(), 12U);
+  ASSERT_EQ(table.rows.size(), 18U);
   EXPECT_EQ(at(table, 0, "lengths"), "8,16,32,64");
   EXPECT_EQ(at(table, 0, "type"), "32fc");
   EXPECT_EQ(at(table, 0, "kernels"), "1");
@@ -116,6 +124,8 @@ TEST(Summary, MeansAndWorstPerTypeAndTogether) {
   EXPECT_EQ(at(table, 3, "/best"), "4.000");
   EXPECT_EQ(at(table, 5, "/best"), "2.000");
   EXPECT_EQ(at(table, 5, "worst /best"), "8.000 at 32fc/12");
+  EXPECT_EQ(at(table, 6, "lengths"), "2..64");
+  EXPECT_EQ(at(table, 6, "worst /best"), "900.000 at 32fc/4");
 }
 
 // A family named by order that meets plain loops and a copy instead of peers.
