@@ -144,6 +144,33 @@ TEST(Real, NonFiniteSamplesReachEveryBin) {
   });
 }
 
+template <class Float>
+Float largest_error(const std::vector<Float>& actual, const std::vector<long double>& expected) {
+  long double largest = 0;
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    largest = std::max(largest, std::abs(actual[i] - expected[i]));
+  }
+  return static_cast<Float>(largest);
+}
+
+// In the units of the samples: a half spectrum, and the samples that it gives back times N.
+TEST(Real, AbsoluteErrorsAreBounded) {
+  for_each_ccs("DFTFwd_RToCCS", []<class Float>(const Transform<Float>& forward) {
+    const Transform<Float>& inverse = *sibling(forward, "DFTInv_CCSToR");
+    const Float forward_bound = sizeof(Float) == sizeof(float) ? Float(2.2e-6) : Float(7.2e-15);
+    const Float inverse_bound = sizeof(Float) == sizeof(float) ? Float(1.92e-5) : Float(8.6e-14);
+    for (unsigned seed = 40; seed < 60; ++seed) {
+      const auto samples = random_floats<Float>(forward.src_floats, seed);
+      const auto spectrum = definition("DFTFwd_RToCCS", forward.points, widened(samples));
+      EXPECT_LE(largest_error(result(forward, samples), spectrum), forward_bound) << forward.name;
+      const std::vector<Float> rounded(spectrum.begin(), spectrum.end());
+      std::vector<long double> multiples = widened(samples);
+      for (long double& v : multiples) v *= forward.points;
+      EXPECT_LE(largest_error(result(inverse, rounded), multiples), inverse_bound) << inverse.name;
+    }
+  });
+}
+
 TEST(Real, InverseUndoesForwardOfTheSameFlag) {
   for_each_fixed([]<class Float>(const Transform<Float>& forward) {
     if (!forward.family->word.starts_with("DFTFwd_RTo")) return;
