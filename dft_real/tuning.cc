@@ -22,9 +22,12 @@ constexpr auto forward = Direction::forward;
 constexpr auto inverse = Direction::inverse;
 constexpr auto f32 = FloatType::f32;
 constexpr auto f64 = FloatType::f64;
+constexpr auto program = Order::program;
+constexpr auto pressure = Order::pressure;
+constexpr auto critical = Order::critical;
 
 constexpr Row kRows[] = {
-    {2, forward, f32, {Order::program, 0}},
+#include "dft_real/tuning.inc"
 };
 
 }  // namespace
