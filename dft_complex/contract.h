@@ -8,7 +8,7 @@
 
 #include <cstdint>
 
-#include "frame/scales.h"
+#include "frame/checked.h"
 #include "haldgen.h"
 #include "kernelgen/lanes.h"
 
@@ -18,14 +18,10 @@ template <class Kernel, class Access>
 inline int32_t checked(const typename Kernel::Element* src, typename Kernel::Element* dst,
                        int32_t flag) {
   using Float = typename Kernel::Float;
-  using Scales = frame::Scales<Kernel>;
-  if (src == nullptr || dst == nullptr) [[unlikely]]
-    return haldStatusNullPointer;
-  if (!Scales::valid(flag)) [[unlikely]]
-    return haldStatusFlagError;
-  Kernel::template transform<Access>(reinterpret_cast<const Float*>(src),
-                                     reinterpret_cast<Float*>(dst), Scales::of(flag));
-  return haldStatusOk;
+  return frame::checked<Kernel>(src, dst, flag, [=](Float scale) {
+    Kernel::template transform<Access>(reinterpret_cast<const Float*>(src),
+                                       reinterpret_cast<Float*>(dst), scale);
+  });
 }
 
 template <class Kernel>

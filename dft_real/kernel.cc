@@ -59,8 +59,6 @@ kernelgen::Overlap overlap_of(int length, Direction direction) {
   };
 }
 
-std::string type_name(FloatType type) { return type == FloatType::f32 ? "float" : "double"; }
-
 std::string packing_word(Packing packing) {
   switch (packing) {
     case Packing::ccs:
@@ -89,35 +87,24 @@ std::string symbol(int length, Direction direction, FloatType type, Packing pack
   const std::string word = direction == Direction::forward
                                ? "DFTFwd_RTo" + packing_word(packing)
                                : "DFTInv_" + packing_word(packing) + "ToR";
-  return "haldgImpl_" + word + "_" + std::to_string(length) + "_" + suffix(type);
+  return "haldgImpl_" + word + "_" + std::to_string(length) + "_" + kernelgen::suffix(type);
 }
 
 std::string head_comment(int length, Direction direction, FloatType type, const Program& program) {
   const kernelgen::Tally t = kernelgen::tally(program);
-  const auto both = [](int a, int b) { return std::to_string(a + b); };
   std::string text = direction == Direction::forward ? "// Forward" : "// Inverse";
   text += " real DFT of length " + std::to_string(length) + ", ";
   text += type == FloatType::f32 ? "32" : "64";
   text += "-bit elements. Generated; do not edit.\n//   algorithm: ";
   text += to_string(design_of(length, direction).recipe);
   text += direction == Direction::forward ? "\n" : ", transposed\n";
-  text += "//   " + both(t.in32.additions, t.in64.additions) + " additions, ";
-  text += both(t.in32.negations, t.in64.negations) + " negations, ";
-  text += both(t.in32.products, t.in64.products) + " multiplications and the scale, depth " +
-          std::to_string(t.depth) + "\n";
-  if (type == FloatType::f32) {
-    text += "//   in 64 bits: " + both(t.in64.additions, t.in64.negations) + " additions, " +
-            both(t.in64.products, t.in64.scales) + " multiplications; " +
-            std::to_string(t.widenings) + " widenings, " + std::to_string(t.narrowings) +
-            " narrowings\n";
-  }
-  return text;
+  return text + kernelgen::describe(t, type);
 }
 
 std::string entry(int length, Direction direction, FloatType type, Packing packing) {
   const std::string declaration =
       "extern \"C\" int32_t " + symbol(length, direction, type, packing) + "(const " +
-      type_name(type) + "* src, " + type_name(type) + "* dst, int32_t flag)";
+      kernelgen::type_name(type) + "* src, " + kernelgen::type_name(type) + "* dst, int32_t flag)";
   // Of odd lengths Perm is Pack.
   if (packing == Packing::perm && length % 2 == 1) {
     return declaration + "\n    __attribute__((alias(\"" +
@@ -129,8 +116,6 @@ std::string entry(int length, Direction direction, FloatType type, Packing packi
 
 }  // namespace
 
-std::string suffix(FloatType type) { return type == FloatType::f32 ? "32f" : "64f"; }
-
 Graph kernel_graph(int length, Direction direction) {
   return direction == Direction::forward ? forward_graph(length) : inverse_graph(length);
 }
@@ -138,7 +123,7 @@ Graph kernel_graph(int length, Direction direction) {
 Program kernel_program(int length, Direction direction, FloatType type, const Tuning& tuning) {
   Graph graph = kernel_graph(length, direction);
   kernelgen::widen_products(graph);
-  kernelgen::widen_sums(graph, design_of(length, direction).wide_additions);
+  kernelgen::widen_sums(graph, {design_of(length, direction).wide_additions});
   return kernelgen::scheduled(kernelgen::lower_scalar(graph, type), tuning.order, tuning.cap,
                               overlap_of(length, direction));
 }
@@ -149,7 +134,7 @@ std::string kernel_source(int length, Direction direction, FloatType type, const
   std::string text = head_comment(length, direction, type, program);
   text += "#include \"dft_real/contract.h\"\n\n";
   text += "namespace haldgen::dft_real {\nnamespace {\n\n";
-  text += "struct Kernel {\n  using Float = " + type_name(type) + ";\n";
+  text += "struct Kernel {\n  using Float = " + kernelgen::type_name(type) + ";\n";
   text += kernelgen::scale_members(
       length, forward ? kernelgen::Divides::forward : kernelgen::Divides::inverse, type);
   text += "\n  template <class Format>\n";

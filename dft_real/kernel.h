@@ -27,9 +27,6 @@ kernelgen::Graph kernel_graph(int length, Direction direction);
 kernelgen::Program kernel_program(int length, Direction direction, kernelgen::FloatType type,
                                   const Tuning& tuning);
 
-/// "32f" or "64f".
-std::string suffix(kernelgen::FloatType type);
-
 /// The source of the kernels of one length, direction and type, in all formats.
 std::string kernel_source(int length, Direction direction, kernelgen::FloatType type,
                           const Tuning& tuning);

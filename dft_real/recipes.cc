@@ -6,42 +6,19 @@
 #include <string>
 #include <utility>
 
+#include "real_blocks/pieces.h"
+
 namespace haldgen::dft_real {
 namespace {
 
-using namespace real_blocks;  // NOLINT(google-build-using-namespace): the table is written in it
+// The table is written in these words.
+using namespace real_blocks;          // NOLINT(google-build-using-namespace)
+using namespace real_blocks::pieces;  // NOLINT(google-build-using-namespace)
 
 struct Row {
   int length;
   Design design;
 };
-
-const Recipe two = power_of_two(2);
-const Recipe three = direct(3);
-const Recipe four = power_of_two(4);
-const Recipe five = direct(5);
-const Recipe seven = direct(7);
-const Recipe nine = cooley_tukey(three, three);
-const Recipe twenty_five = cooley_tukey(five, five);
-const Recipe twenty_seven = cooley_tukey(three, nine);
-const Recipe odd_two = twisted(single());
-const Recipe odd_six = classes(alternated(three), two, odd_two);
-
-const Recipe rader_eleven = rader(11, coprime(five, two), five, alternated(five));
-const Recipe seventeen = rader(17, power_of_two(16), power_of_two(8), twisted(four));
-const Recipe nineteen = rader(19, coprime(nine, two), nine, alternated(nine));
-const Recipe twenty_three_direct =
-    rader(23, coprime(two, direct(11)), direct(11), alternated(direct(11)));
-const Recipe twenty_three_nested =
-    rader(23, coprime(two, direct(11)), rader_eleven, alternated(rader_eleven));
-const Recipe twenty_nine =
-    rader(29, coprime(seven, four), coprime(seven, two), classes(alternated(seven), two, odd_two));
-const Recipe forty_one = rader(41, coprime(five, power_of_two(8)), coprime(five, four),
-                               classes(alternated(five), four, twisted(two)));
-// The outputs of the sides start one power on.
-const Recipe fifty_nine = rader(59, coprime(twenty_nine, two), shifted(1, twenty_nine),
-                                alternated(shifted(1, twenty_nine)));
-const Recipe thirteen_block = coprime(three, four);
 
 Row row(int length, Recipe recipe, std::vector<int> negated, int wide_additions = 0) {
   return {length, {std::move(recipe), std::move(negated), wide_additions}};
@@ -51,20 +28,13 @@ std::vector<Row> forward_rows() {
   const Recipe eight = power_of_two(8);
   const Recipe sixteen = power_of_two(16);
   const Recipe eleven = direct(11);
-  const Recipe thirteen = rader(13, thirteen_block, coprime(three, two),
-                                classes_from_behind(alternated(three), two, odd_two));
+  const Recipe& thirteen = thirteen_from_behind;
   const Recipe& twenty_three = twenty_three_nested;
-  const Recipe thirty_one = rader(31, coprime(three, coprime(five, two)), coprime(five, three),
-                                  alternated(coprime(five, three)));
-  // Three forms of 13, by what its convolution's sides are.
-  const Recipe thirteen_twisted = rader(13, thirteen_block, coprime(two, three), twisted(three));
-  const Recipe fifty_three = rader(
-      53, coprime(four, rader(13, thirteen_block, coprime(three, two), odd_six)),
-      coprime(two, thirteen_twisted),
-      classes(alternated(rader(13, thirteen_block, coprime(two, three), odd_six)), two, odd_two));
-  const Recipe sixty_one =
-      rader(61, coprime(coprime(three, five), four), coprime(two, coprime(five, three)),
-            classes(alternated(coprime(five, three)), two, odd_two));
+  const Recipe& thirty_one = thirty_one_five_first;
+  const Recipe fifty_three =
+      rader(53, coprime(four, thirteen_classes_three_first), coprime(two, thirteen_twisted),
+            classes(alternated(thirteen_classes), two, odd_two));
+  const Recipe& sixty_one = sixty_one_five_first;
   return {
       row(2, two, {}),
       row(3, three, {1}),
@@ -160,19 +130,15 @@ std::vector<Row> inverse_rows() {
   const Recipe eight = power_of_two(8, EighthRoot::sum_first);
   const Recipe sixteen = power_of_two(16);
   const Recipe eleven = rader(11, coprime(permuted(2, five), two), five, alternated(five));
-  const Recipe thirteen = rader(13, thirteen_block, coprime(two, three), twisted(three));
-  const Recipe thirteen_complex =
-      rader(13, thirteen_block, coprime(two, three), coprime_odd(three, odd_two));
+  const Recipe& thirteen = thirteen_twisted;
   const Recipe seventeen_products_first =
       rader(17, power_of_two(16), power_of_two(8), twisted(four, EighthRoot::products_first));
   const Recipe& twenty_three = twenty_three_direct;
   const Recipe thirty_one = rader(31, coprime(three, coprime(five, two)), coprime(three, five),
                                   alternated(coprime(three, five)));
-  const Recipe thirty_two = halves(sixteen, twisted(power_of_two(8)));
-  const Recipe fifty_three = rader(
-      53, coprime(four, rader(13, thirteen_block, coprime(three, two), odd_six)),
-      coprime(two, rader(13, thirteen_block, coprime(two, three), odd_six)),
-      classes(alternated(rader(13, thirteen_block, coprime(two, three), odd_six)), two, odd_two));
+  const Recipe fifty_three =
+      rader(53, coprime(four, thirteen_classes_three_first), coprime(two, thirteen_classes),
+            classes(alternated(thirteen_classes), two, odd_two));
   const Recipe sixty_one =
       rader(61, coprime(coprime(three, five), four), coprime(two, coprime(three, five)),
             classes(alternated(coprime(three, five)), two, odd_two));
@@ -207,17 +173,14 @@ std::vector<Row> inverse_rows() {
       transposed(29, twenty_nine),
       transposed(30, coprime(coprime(two, five), three)),
       transposed(31, thirty_one, 4),
-      transposed(32, thirty_two),
+      transposed(32, thirty_two_halves),
       transposed(33, coprime(eleven, three)),
       transposed(34, coprime(two, seventeen_products_first)),
       transposed(35, coprime(seven, five)),
       transposed(36, coprime(nine, four)),
-      transposed(37,
-                 rader(37, coprime(four, nine), coprime(nine, two),
-                       classes(alternated(three), coprime(two, three), twisted(three))),
-                 2),
+      transposed(37, thirty_seven_twisted, 2),
       transposed(38, coprime(nineteen, two), 9, unfolded),
-      transposed(39, coprime(three, by_column(thirteen, thirteen_complex)), 6),
+      transposed(39, coprime(three, thirteen_by_column), 6),
       transposed(40, coprime(eight, five)),
       transposed(41, forty_one),
       transposed(42, coprime(coprime(seven, three), two)),
@@ -230,11 +193,11 @@ std::vector<Row> inverse_rows() {
                  rader(47, coprime(twenty_three_nested, two), shifted(1, twenty_three),
                        alternated(shifted(1, twenty_three))),
                  19),
-      transposed(48, coprime(three, by_column(sixteen, decimated(eight)))),
+      transposed(48, coprime(three, sixteen_decimated)),
       transposed(49, cooley_tukey(seven, seven)),
       transposed(50, coprime(twenty_five, two)),
       transposed(51, coprime(seventeen, three)),
-      transposed(52, coprime(four, by_column(thirteen, thirteen_complex)), 6),
+      transposed(52, coprime(four, thirteen_by_column), 6),
       transposed(53, fifty_three, 6),
       transposed(54, coprime(two, twenty_seven), 6),
       transposed(55, coprime(eleven, five)),
@@ -246,7 +209,7 @@ std::vector<Row> inverse_rows() {
       transposed(61, sixty_one, 12),
       transposed(62, coprime(thirty_one, two), 18),
       transposed(63, coprime(seven, nine)),
-      transposed(64, halves(thirty_two, classes(twisted(eight), two, twisted(single())))),
+      transposed(64, sixty_four_halves),
   };
 }
 

@@ -10,6 +10,7 @@
 
 #include "dft_complex/kernel.h"
 #include "dft_real/kernel.h"
+#include "hartley/kernel.h"
 #include "kernelgen/count.h"
 #include "kernelgen/dot.h"
 
@@ -17,6 +18,7 @@ namespace {
 
 namespace dft_complex = haldgen::dft_complex;
 namespace dft_real = haldgen::dft_real;
+namespace hartley = haldgen::hartley;
 namespace kernelgen = haldgen::kernelgen;
 using kernelgen::FloatType;
 
@@ -28,7 +30,8 @@ constexpr std::string_view kUsage =
     "  recipe   the factorisation of a kernel\n"
     "  graph    its statements for Graphviz\n"
     "  code     its C++ source, as source writes it to a file\n"
-    "  FAMILY   complex (TYPE 32fc or 64fc), real-forward or real-inverse (TYPE 32f or 64f)\n"
+    "  FAMILY   complex (TYPE 32fc or 64fc), real-forward, real-inverse or hartley (TYPE 32f or\n"
+    "           64f)\n"
     "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
     "           SEED a number that varies the choice of forms of vector kernels\n";
 
@@ -104,6 +107,12 @@ constexpr Family kComplex{
     },
 };
 
+Work work_of(const kernelgen::Program& program) {
+  const kernelgen::Tally t = kernelgen::tally(program);
+  return {t.in32.additions + t.in64.additions + t.in32.negations + t.in64.negations,
+          t.in32.products + t.in64.products, t.depth, t.widenings + t.narrowings};
+}
+
 template <dft_real::Direction Direction>
 constexpr Family real_family(std::string_view name) {
   return {
@@ -115,9 +124,7 @@ constexpr Family real_family(std::string_view name) {
       [](int n, FloatType) { return to_string(dft_real::design_of(n, Direction).recipe); },
       [](int n, FloatType) { return dft_real::kernel_graph(n, Direction); },
       [](int n, FloatType type) {
-        const auto t = kernelgen::tally(dft_real::kernel_program(n, Direction, type, {}));
-        return Work{t.in32.additions + t.in64.additions + t.in32.negations + t.in64.negations,
-                    t.in32.products + t.in64.products, t.depth, t.widenings + t.narrowings};
+        return work_of(dft_real::kernel_program(n, Direction, type, {}));
       },
       [](int n, FloatType type, const Tuning* tuning) {
         const dft_real::Tuning choice = tuning != nullptr
@@ -128,10 +135,31 @@ constexpr Family real_family(std::string_view name) {
   };
 }
 
+constexpr Family kHartley{
+    "hartley",
+    hartley::kFirstLength,
+    hartley::kLastLength,
+    "32f",
+    "64f",
+    [](int n, FloatType) {
+      const hartley::Design& design = hartley::design_of(n);
+      const bool paired = design.structure == hartley::Structure::paired;
+      return to_string(design.recipe) + (paired ? "" : ", transposed");
+    },
+    [](int n, FloatType) { return hartley::kernel_graph(n); },
+    [](int n, FloatType type) { return work_of(hartley::kernel_program(n, type, {})); },
+    [](int n, FloatType type, const Tuning* tuning) {
+      const hartley::Tuning choice = tuning != nullptr ? hartley::Tuning{tuning->order, tuning->cap}
+                                                       : hartley::tuning_of(n, type);
+      return hartley::kernel_source(n, type, choice);
+    },
+};
+
 constexpr Family kFamilies[] = {
     kComplex,
     real_family<dft_real::Direction::forward>("real-forward"),
     real_family<dft_real::Direction::inverse>("real-inverse"),
+    kHartley,
 };
 
 const Family& family_named(std::string_view name) {

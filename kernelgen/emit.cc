@@ -68,8 +68,8 @@ class Printer {
   void define_two() {
     for (const Instruction& in : program_.code) {
       if (!is_doubling(in)) continue;
-      return line(std::string("const ") + (f32() ? "float" : "double") + " two = scalar::opaque(" +
-                  constants(in) + ");");
+      return line("const " + type_name(program_.type) + " two = scalar::opaque(" + constants(in) +
+                  ");");
     }
   }
 
@@ -162,6 +162,22 @@ class Printer {
 std::string literal(double value, FloatType type) {
   if (type == FloatType::f32) return shortest(static_cast<float>(value)) + "f";
   return shortest(value);
+}
+
+std::string type_name(FloatType type) { return type == FloatType::f32 ? "float" : "double"; }
+
+std::string suffix(FloatType type) { return type == FloatType::f32 ? "32f" : "64f"; }
+
+std::string describe(const Tally& t, FloatType type) {
+  const auto sum = [](int a, int b) { return std::to_string(a + b); };
+  std::string text = "//   " + sum(t.in32.additions, t.in64.additions) + " additions, " +
+                     sum(t.in32.negations, t.in64.negations) + " negations, " +
+                     sum(t.in32.products, t.in64.products) +
+                     " multiplications and the scale, depth " + std::to_string(t.depth) + "\n";
+  if (type == FloatType::f64) return text;
+  return text + "//   in 64 bits: " + sum(t.in64.additions, t.in64.negations) + " additions, " +
+         sum(t.in64.products, t.in64.scales) + " multiplications; " + std::to_string(t.widenings) +
+         " widenings, " + std::to_string(t.narrowings) + " narrowings\n";
 }
 
 std::string scale_members(int length, Divides divides, FloatType type) {

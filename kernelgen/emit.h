@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "kernelgen/count.h"
 #include "kernelgen/program.h"
 
 namespace haldgen::kernelgen {
@@ -21,6 +22,15 @@ std::string emit_body(const Program& program, const Subscripts& subscripts = {})
 
 /// Whether memory is touched in a way that an aligned and an unaligned path do differently.
 bool has_whole_vector_access(const Program& program);
+
+/// "float" or "double".
+std::string type_name(FloatType type);
+
+/// Suffix of the names of functions on real arrays: "32f" or "64f".
+std::string suffix(FloatType type);
+
+/// What a scalar program executes, as the head comment of its source says it.
+std::string describe(const Tally& tally, FloatType type);
 
 /// Which of the flags for the two directions divides by the length.
 enum class Divides { forward, inverse, both };

@@ -21,8 +21,14 @@ Graph split_parts(const Graph& graph);
 /// of arithmetic with constants is one statement.
 Graph gather_statements(const Graph& graph);
 
-/// Scalar program of a real graph. An output that is the result of a wide statement and nothing
-/// else is scaled, and negated where it carries a minus, before it is narrowed.
-Program lower_scalar(const Graph& graph, FloatType type);
+/// What the scale of the call multiplies where an output is the 64-bit result of a wide statement
+/// and nothing else.
+enum class Scaled {
+  result,  ///< that result; it is narrowed after the scale and the sign
+  kept,    ///< the narrowed result
+};
+
+/// Scalar program of a real graph.
+Program lower_scalar(const Graph& graph, FloatType type, Scaled scaled = Scaled::result);
 
 }  // namespace haldgen::kernelgen

@@ -9,8 +9,9 @@ std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 class ScalarLowering {
  public:
-  ScalarLowering(const Graph& graph, FloatType type)
+  ScalarLowering(const Graph& graph, FloatType type, Scaled scaled)
       : graph_(graph),
+        scaled_(scaled),
         uses_(graph),
         raw_(graph.nodes().size(), -1),
         narrow_(graph.nodes().size(), -1),
@@ -23,7 +24,8 @@ class ScalarLowering {
     for (const int node : live_nodes(graph_)) make(node);
     for (std::size_t k = 0; k < graph_.outputs().size(); ++k) {
       const Value v = graph_.outputs()[k];
-      const bool wide = raw_[at(v.node)] >= 0 && uses_.by_statements[at(v.node)] == 0;
+      const bool wide = scaled_ == Scaled::result && raw_[at(v.node)] >= 0 &&
+                        uses_.by_statements[at(v.node)] == 0;
       Instruction scale;
       scale.op = Op::scale;
       scale.a = wide ? raw_[at(v.node)] : operand(v.node, false);
@@ -118,6 +120,7 @@ class ScalarLowering {
   }
 
   const Graph& graph_;
+  const Scaled scaled_;
   const Uses uses_;
   Program program_;
   std::vector<int> raw_;     ///< the instruction that holds the 64-bit result of a wide statement
@@ -191,8 +194,8 @@ Graph gather_statements(const Graph& graph) {
   return rewrite.finish();
 }
 
-Program lower_scalar(const Graph& graph, FloatType type) {
-  return ScalarLowering(graph, type).run();
+Program lower_scalar(const Graph& graph, FloatType type, Scaled scaled) {
+  return ScalarLowering(graph, type, scaled).run();
 }
 
 }  // namespace haldgen::kernelgen

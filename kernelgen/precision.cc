@@ -1,7 +1,10 @@
 #include "kernelgen/precision.h"
 
+#include <limits>
 #include <map>
 #include <stdexcept>
+#include <utility>
+#include <vector>
 
 #include "kernelgen/fold.h"
 #include "kernelgen/rewrite.h"
@@ -50,31 +53,26 @@ void widen_products(Graph& graph) {
   }
 }
 
-void widen_sums(Graph& graph, int additions) {
-  // The cheapest set of each number of additions so far, by dynamic programming.
-  struct Choice {
-    int conversions = 0;
-    std::vector<int> nodes;
-  };
-  std::map<int, Choice> best{{0, {}}};
+void widen_sums(Graph& graph, WideSums sums) {
+  // A set for each number of additions and conversions that can be made, by dynamic programming.
+  std::map<std::pair<int, int>, std::vector<int>> sets{{{0, 0}, {}}};
   for (const Candidate& c : candidates(graph)) {
-    std::map<int, Choice> next = best;
-    for (const auto& [made, choice] : best) {
-      const int sum = made + c.additions;
-      if (sum > additions) continue;
-      const auto it = next.find(sum);
-      if (it != next.end() && it->second.conversions <= choice.conversions + c.conversions)
-        continue;
-      Choice longer = choice;
-      longer.conversions += c.conversions;
-      longer.nodes.push_back(c.node);
-      next[sum] = std::move(longer);
+    auto longer = sets;
+    for (const auto& [made, nodes] : sets) {
+      const std::pair made_with{made.first + c.additions, made.second + c.conversions};
+      if (made_with.first > sums.additions || longer.contains(made_with)) continue;
+      auto set = nodes;
+      set.push_back(c.node);
+      longer.emplace(made_with, std::move(set));
     }
-    best = std::move(next);
+    sets = std::move(longer);
   }
-  const auto found = best.find(additions);
-  if (found == best.end()) throw std::logic_error("no sums to widen");
-  for (const int node : found->second.nodes) graph.node(node).precision = Precision::wide;
+  const auto least = std::numeric_limits<int>::min();
+  const auto found = sets.lower_bound({sums.additions, sums.conversions.value_or(least)});
+  const bool wanted = found != sets.end() && found->first.first == sums.additions &&
+                      (!sums.conversions || found->first.second == *sums.conversions);
+  if (!wanted) throw std::logic_error("no sums to widen");
+  for (const int node : found->second) graph.node(node).precision = Precision::wide;
 }
 
 }  // namespace haldgen::kernelgen

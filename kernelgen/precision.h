@@ -2,6 +2,8 @@
 // its result is narrowed once; sums without one are not, nor are doublings, which are exact.
 #pragma once
 
+#include <optional>
+
 #include "kernelgen/graph.h"
 
 namespace haldgen::kernelgen {
@@ -9,9 +11,16 @@ namespace haldgen::kernelgen {
 /// Marks the statements with constants as wide: 64-bit arithmetic, narrowed once.
 void widen_products(Graph& graph);
 
-/// Marks as wide, besides, sums with `additions` additions in all that only wide statements use:
-/// their 64-bit results are never narrowed. Of all sets that make up the number it is one with the
-/// fewest conversions. Throws if none does.
-void widen_sums(Graph& graph, int additions);
+/// Sums that are wide besides, though they have no constants: only wide statements use them, and
+/// their 64-bit results are never narrowed. Said by how many additions they make and how many
+/// conversions between 32 and 64 bits they cost or, below zero, save.
+struct WideSums {
+  int additions = 0;
+  std::optional<int> conversions = {};  ///< as few as can be, if not said
+};
+
+/// Marks the first set of sums, in the order of the graph, that makes up the numbers. Throws if
+/// none does.
+void widen_sums(Graph& graph, WideSums sums);
 
 }  // namespace haldgen::kernelgen

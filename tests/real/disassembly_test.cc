@@ -6,6 +6,7 @@
 
 #include "dft_real/kernel.h"
 #include "kernelgen/count.h"
+#include "kernelgen/emit.h"
 
 namespace haldgen::dft_real {
 namespace {
@@ -23,7 +24,7 @@ TEST(Disassembly, RealKernelsAreTheirProgramsInScalarInstructions) {
   int checked = 0;
   for (int length = kFirstLength; length <= kLastLength; ++length) {
     for (const FloatType type : {FloatType::f32, FloatType::f64}) {
-      const std::string end = "_" + std::to_string(length) + "_" + suffix(type);
+      const std::string end = "_" + std::to_string(length) + "_" + kernelgen::suffix(type);
       for (const auto& [word, direction] : {std::pair{"DFTFwd_RToCCS", Direction::forward},
                                             {"DFTFwd_RToPack", Direction::forward},
                                             {"DFTFwd_RToPerm", Direction::forward},

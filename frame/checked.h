@@ -1,5 +1,5 @@
-// The scaling flags of a kernel: which values are flags, and the factor behind each. A kernel is a
-// type with
+// What every kernel without a work buffer does before its arithmetic: the tests of its arguments
+// and their order, the choice of the scale. A kernel is a type with
 //   Float                        the float type of its elements
 //   kFwdByN, kInvByN, kBySqrtN   the factors of these flags
 #pragma once
@@ -25,5 +25,16 @@ struct Scales {
     return kByFlag[flag];
   }
 };
+
+/// Null test, flag test, then `transform` with the scale.
+template <class Kernel, class Transform>
+inline int32_t checked(const void* src, const void* dst, int32_t flag, const Transform& transform) {
+  if (src == nullptr || dst == nullptr) [[unlikely]]
+    return haldStatusNullPointer;
+  if (!Scales<Kernel>::valid(flag)) [[unlikely]]
+    return haldStatusFlagError;
+  transform(Scales<Kernel>::of(flag));
+  return haldStatusOk;
+}
 
 }  // namespace haldgen::frame
