@@ -2,6 +2,7 @@
 #include "bench/calibration.h"
 
 #include <cstdint>
+#include <cstring>
 
 #include "bench/core/report.h"
 
@@ -17,7 +18,7 @@ volatile Kernel null_kernel_address = null_kernel;
 
 // Assembly, because an optimiser would merge the additions. Fourteen chains are written side by
 // side, so that an addition waits for the one fourteen places before it and not for its neighbour.
-#define HALDGEN_ADD_CHAINS(instruction, calls)                                                \
+#define HALDGEN_CHAINS(instruction, calls)                                                    \
   asm volatile(                                                                               \
       ".irp n, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15\n\t"                          \
       "xorps %%xmm\\n, %%xmm\\n\n\t"                                                          \
@@ -37,7 +38,17 @@ volatile Kernel null_kernel_address = null_kernel;
 
 }  // namespace
 
-int lanes(frame::Element element) { return element == frame::Element::c32 ? 4 : 2; }
+int lanes(frame::Element element) {
+  return element == frame::Element::c32 || element == frame::Element::f32 ? 4 : 2;
+}
+
+Contestant copy_contestant(std::size_t bytes) {
+  return {copy_name, Role::calibration, [bytes](const Walk& walk, std::int64_t calls) {
+            walk_calls(walk, calls, [bytes](const std::byte* src, std::byte* dst) {
+              std::memcpy(dst, src, bytes);
+            });
+          }};
+}
 
 Contestant null_call_contestant() {
   return {null_call_name, Role::calibration, [](const Walk& walk, std::int64_t calls) {
@@ -49,13 +60,19 @@ Contestant null_call_contestant() {
 }
 
 Contestant vector_add_contestant(frame::Element element) {
-  const bool is_float = element == frame::Element::c32;
+  const bool is_float = lanes(element) == 4;
   return {vector_add_name, Role::calibration, [is_float](const Walk&, std::int64_t calls) {
             if (is_float) {
-              HALDGEN_ADD_CHAINS("addps", calls);
+              HALDGEN_CHAINS("addps", calls);
             } else {
-              HALDGEN_ADD_CHAINS("addpd", calls);
+              HALDGEN_CHAINS("addpd", calls);
             }
+          }};
+}
+
+Contestant convert_contestant() {
+  return {convert_name, Role::calibration, [](const Walk&, std::int64_t calls) {
+            HALDGEN_CHAINS("cvtss2sd %%xmm15, %%xmm\\n\n\tcvtsd2ss", calls);
           }};
 }
 

@@ -15,7 +15,15 @@ Contestant vector_add_contestant(frame::Element element);
 
 inline constexpr int vector_adds_per_call = 14 * 16;
 
-/// Real elements in one vector: 2 for `Cplx64`, 4 for `Cplx32`.
+/// Widenings and narrowings in turns, in as many chains.
+Contestant convert_contestant();
+
+inline constexpr int conversions_per_call = 2 * vector_adds_per_call;
+
+/// A copy of `bytes` bytes from source to destination.
+Contestant copy_contestant(std::size_t bytes);
+
+/// Floats in one vector: 2 of 64 bits, 4 of 32 bits.
 int lanes(frame::Element element);
 
 }  // namespace haldgen::bench

@@ -57,6 +57,13 @@ std::size_t ComplexProblem::bytes() const {
   return size * static_cast<std::size_t>(length);
 }
 
+std::optional<ComplexProblem> complex_problem_of(const frame::Export& function) {
+  const std::string_view word = function.family->word;
+  if (word != "DFTFwd_CToC" && word != "DFTInv_CToC") return std::nullopt;
+  const Direction direction = word == "DFTFwd_CToC" ? Direction::forward : Direction::inverse;
+  return ComplexProblem{direction, function.element, function.size};
+}
+
 std::vector<std::byte> random_source(const ComplexProblem& problem) {
   return problem.element == frame::Element::c32 ? random_bytes<float>(problem.length)
                                                 : random_bytes<double>(problem.length);

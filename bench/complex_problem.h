@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <random>
 #include <span>
 #include <string>
@@ -22,6 +23,9 @@ struct ComplexProblem {
 
   std::size_t bytes() const;  ///< of the source, and of the destination
 };
+
+/// The transform of a function of the complex families.
+std::optional<ComplexProblem> complex_problem_of(const frame::Export& function);
 
 /// The bytes of random samples from [-1, 1), the same for every program run.
 std::vector<std::byte> random_source(const ComplexProblem& problem);

@@ -7,23 +7,14 @@
 #include <fstream>
 #include <stdexcept>
 #include <tuple>
+#include <utility>
 
 #include "bench/calibration.h"
 #include "bench/core/arena.h"
 #include "bench/core/duel.h"
-#include "bench/peers/peers.h"
 
 namespace haldgen::bench {
 namespace {
-
-// The generator's name for both directions: their counts are equal.
-constexpr const char* counts_family = "complex";
-
-std::optional<Direction> direction(const frame::Family& family) {
-  if (family.word == "DFTFwd_CToC") return Direction::forward;
-  if (family.word == "DFTInv_CToC") return Direction::inverse;
-  return std::nullopt;
-}
 
 std::string type_of(const frame::Export& function) {
   return std::string(frame::suffix(function.element));
@@ -46,9 +37,9 @@ OperationCounts read_counts(const std::filesystem::path& path) {
 std::vector<Kernel> selected_kernels(const Options& options) {
   std::vector<Kernel> kernels;
   for (const frame::Export& function : frame::live_exports()) {
-    const std::optional<Direction> sense = direction(*function.family);
-    if (!sense || function.size == 0 || !wanted(options, function)) continue;
-    kernels.push_back({function, {*sense, function.element, function.size}});
+    std::shared_ptr<const Problem> problem = problem_of(function);
+    if (!problem || !wanted(options, function)) continue;
+    kernels.push_back({function, std::move(problem)});
   }
   std::sort(kernels.begin(), kernels.end(), [](const Kernel& a, const Kernel& b) {
     const auto key = [](const Kernel& kernel) {
@@ -64,7 +55,7 @@ std::vector<Kernel> selected_kernels(const Options& options) {
 class Contest::Lineup {
  public:
   Lineup(Contest& contest, Kernel kernel)
-      : contest_(contest), kernel_(std::move(kernel)), source_(random_source(kernel_.problem)) {}
+      : contest_(contest), kernel_(std::move(kernel)), source_(kernel_.problem->source()) {}
 
   const Kernel& kernel() const { return kernel_; }
   const std::vector<std::byte>& source() const { return source_; }
@@ -79,28 +70,27 @@ class Contest::Lineup {
 
  private:
   void assemble(const Walk& walk) {
-    const ComplexProblem& problem = kernel_.problem;
-    const std::string& symbol = kernel_.function.name;
-    admit(contest_.library_.contestant(symbol, "haldgen", Role::subject), walk);
+    const frame::Export& function = kernel_.function;
+    admit(contest_.library_.contestant(function, "haldgen", Role::subject), walk);
     if (contestants_.empty()) {
-      contest_.faults_.push_back(symbol + ": not measured");
+      contest_.faults_.push_back(function.name + ": not measured");
       return;
     }
     for (std::size_t i = 0; i < contest_.variants_.size(); ++i) {
       const std::string& label = contest_.options_.variants[i].label;
-      admit(contest_.variants_[i]->contestant(symbol, label, Role::variant), walk);
+      admit(contest_.variants_[i]->contestant(function, label, Role::variant), walk);
     }
-    admit(fftw_contestant(problem), walk);
-    admit(kissfft_contestant(problem), walk);
-    admit(av_tx_contestant(problem), walk);
-    admit(narrow_fftw_contestant(problem), walk);
+    for (Contestant& rival : kernel_.problem->rivals()) admit(std::move(rival), walk);
+    for (Contestant& yardstick : kernel_.problem->yardsticks()) {
+      contestants_.push_back(std::move(yardstick));
+    }
     contestants_.push_back(null_call_contestant());
-    contestants_.push_back(vector_add_contestant(problem.element));
+    contestants_.push_back(vector_add_contestant(function.element));
   }
 
   void admit(std::optional<Contestant> contestant, const Walk& walk) {
     if (!contestant) return;
-    const std::string fault = check_contestant(kernel_.problem, *contestant, walk, source_);
+    const std::string fault = kernel_.problem->fault(*contestant, walk, source_);
     if (fault.empty()) {
       contestants_.push_back(std::move(*contestant));
     } else {
@@ -152,14 +142,21 @@ class Contest::Bout {
     Measurement measurement{
         mode_, std::string(function.family->word), type_of(function), function.size, std::nullopt,
         {}};
-    const std::optional<double> additions =
-        contest_.counts_.additions(counts_family, measurement.type, measurement.length);
-    if (additions) measurement.vector_additions = *additions / lanes(function.element);
+    const Problem& problem = *lineup_->kernel().problem;
+    if (const auto work = problem.work(contest_.counts_)) {
+      measurement.vector_additions = work->additions;
+      measurement.conversions = work->conversions;
+    }
+    measurement.sized_by_order = problem.sized_by_order();
+    measurement.bytes = lineup_->source().size() + problem.result_bytes();
     const std::vector<Contestant>& contestants = lineup_->contestants(arena_->walk());
     for (std::size_t i = 0; i < contestants.size(); ++i) {
       Series series{contestants[i].name, contestants[i].role, duel_->samples()[i]};
       if (series.name == vector_add_name) {
         for (double& sample : series.samples) sample /= vector_adds_per_call;
+      }
+      if (series.name == convert_name) {
+        for (double& sample : series.samples) sample /= conversions_per_call;
       }
       measurement.series.push_back(std::move(series));
     }
@@ -169,7 +166,7 @@ class Contest::Bout {
  private:
   bool prepare() {
     const std::vector<std::byte>& source = lineup_->source();
-    arena_.emplace(mode_, source.size(), source.size());
+    arena_.emplace(mode_, source.size(), lineup_->kernel().problem->result_bytes());
     arena_->fill_sources(source);
     const std::vector<Contestant>& contestants = lineup_->contestants(arena_->walk());
     if (contestants.empty()) return false;

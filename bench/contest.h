@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "bench/complex_problem.h"
 #include "bench/core/counts.h"
 #include "bench/core/report.h"
 #include "bench/haldgen_kernels.h"
 #include "bench/options.h"
+#include "bench/problem.h"
 #include "frame/families.h"
 
 namespace haldgen::bench {
@@ -17,7 +17,7 @@ namespace haldgen::bench {
 /// A kernel of the table together with the transform that it computes.
 struct Kernel {
   frame::Export function;
-  ComplexProblem problem;
+  std::shared_ptr<const Problem> problem;
 };
 
 /// The built fixed-length kernels that the options ask for, ordered by family, type and length.

@@ -4,6 +4,8 @@
 #include <dlfcn.h>
 
 #include <cstdint>
+#include <cstdlib>
+#include <new>
 #include <stdexcept>
 
 #include "include/haldgen.h"
@@ -12,6 +14,38 @@ namespace haldgen::bench {
 namespace {
 
 using Kernel = std::int32_t (*)(const void* src, void* dst, std::int32_t flag);
+using BufferedKernel = std::int32_t (*)(const void* src, void* dst, std::int32_t flag,
+                                        std::uint8_t* buffer);
+
+Slice slice_of(Kernel kernel) {
+  return [kernel](const Walk& walk, std::int64_t calls) {
+    walk_calls(walk, calls,
+               [kernel](const std::byte* src, std::byte* dst) { kernel(src, dst, haldScaleNone); });
+  };
+}
+
+// A quarter page off the start of a page: source and destination begin at other quarters.
+struct WorkBuffer {
+  static constexpr std::size_t page = 4096;
+  std::unique_ptr<std::uint8_t, void (*)(void*)> block;
+
+  explicit WorkBuffer(std::size_t bytes)
+      : block(static_cast<std::uint8_t*>(
+                  std::aligned_alloc(page, (page / 4 + bytes + page - 1) / page * page)),
+              std::free) {
+    if (!block) throw std::bad_alloc();
+  }
+  std::uint8_t* data() const { return block.get() + page / 4; }
+};
+
+Slice slice_of(BufferedKernel kernel, std::size_t buffer_bytes) {
+  const auto buffer = std::make_shared<WorkBuffer>(buffer_bytes);
+  return [kernel, buffer](const Walk& walk, std::int64_t calls) {
+    walk_calls(walk, calls, [kernel, area = buffer->data()](const std::byte* src, std::byte* dst) {
+      kernel(src, dst, haldScaleNone, area);
+    });
+  };
+}
 
 }  // namespace
 
@@ -25,16 +59,27 @@ KernelLibrary::KernelLibrary(const std::filesystem::path& path)
   if (!handle_) throw std::runtime_error(dlerror());
 }
 
-std::optional<Contestant> KernelLibrary::contestant(const std::string& symbol,
+std::optional<Contestant> KernelLibrary::contestant(const frame::Export& function,
                                                     const std::string& name, Role role) const {
-  void* const address = dlsym(handle_.get(), symbol.c_str());
+  void* const address = dlsym(handle_.get(), function.name.c_str());
   if (address == nullptr) return std::nullopt;
-  const auto kernel = reinterpret_cast<Kernel>(address);
-  return Contestant{name, role, [kernel](const Walk& walk, std::int64_t calls) {
-                      walk_calls(walk, calls, [kernel](const std::byte* src, std::byte* dst) {
-                        kernel(src, dst, haldScaleNone);
-                      });
-                    }};
+  if (function.family->signature == frame::Signature::buffered_transform) {
+    const std::size_t bytes = buffer_bytes(function);
+    return Contestant{name, role, slice_of(reinterpret_cast<BufferedKernel>(address), bytes)};
+  }
+  return Contestant{name, role, slice_of(reinterpret_cast<Kernel>(address))};
+}
+
+std::size_t KernelLibrary::buffer_bytes(const frame::Export& function) const {
+  const std::string name = "haldg" + std::string(function.family->word) + "GetBufferSize_" +
+                           std::string(frame::suffix(function.element));
+  using Query = std::int32_t (*)(std::int32_t order, std::uint32_t * size);
+  const auto query = reinterpret_cast<Query>(dlsym(handle_.get(), name.c_str()));
+  std::uint32_t bytes = 0;
+  if (query == nullptr || query(function.size, &bytes) != haldStatusOk) {
+    throw std::runtime_error("no size of the work buffer of " + function.name);
+  }
+  return bytes;
 }
 
 }  // namespace haldgen::bench

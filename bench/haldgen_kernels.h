@@ -7,6 +7,7 @@
 #include <string>
 
 #include "bench/core/contestant.h"
+#include "frame/families.h"
 
 namespace haldgen::bench {
 
@@ -15,15 +16,17 @@ class KernelLibrary {
   /// Opens the library. Throws std::runtime_error with the loader's message on failure.
   explicit KernelLibrary(const std::filesystem::path& path);
 
-  /// The function `symbol` (arguments src, dst, flag), called without scaling, as a contestant;
-  /// none if this build does not export it. The library must outlive the contestant.
-  std::optional<Contestant> contestant(const std::string& symbol, const std::string& name,
+  /// A fixed-size function, called without scaling, as a contestant; none if this build does not
+  /// export it. A buffered one gets a work buffer. The library must outlive the contestant.
+  std::optional<Contestant> contestant(const frame::Export& function, const std::string& name,
                                        Role role) const;
 
   /// Where the library that was opened really lies.
   const std::filesystem::path& path() const { return path_; }
 
  private:
+  std::size_t buffer_bytes(const frame::Export& function) const;
+
   struct Close {
     void operator()(void* handle) const;
   };

@@ -61,14 +61,16 @@ void print_report(std::ostream& out, const Options& options,
                   const std::vector<Measurement>& measurements) {
   out << "Nanoseconds per call; a column that begins with '/' is the time of haldgen over that of\n"
          "the other, so below 1 haldgen is faster. The best peer is one at full vector width.\n";
-  for (const Mode mode : options.modes) {
-    for (const Statistic statistic : {Statistic::median, Statistic::minimum}) {
-      out << "\n== " << name(mode) << ", " << name(statistic) << " of the rounds\n";
-      write_aligned(out, figures_table(measurements, mode, statistic));
+  for (const std::vector<Measurement>& part : split_by_size(measurements)) {
+    for (const Mode mode : options.modes) {
+      for (const Statistic statistic : {Statistic::median, Statistic::minimum}) {
+        out << "\n== " << name(mode) << ", " << name(statistic) << " of the rounds\n";
+        write_aligned(out, figures_table(part, mode, statistic));
+      }
     }
+    out << "\n== geometric means of the ratios, and the worst kernels\n";
+    write_aligned(out, summary_table(part));
   }
-  out << "\n== geometric means of the ratios, and the worst kernels\n";
-  write_aligned(out, summary_table(measurements));
 }
 
 std::ofstream open_for_writing(const std::filesystem::path& path) {
@@ -98,7 +100,9 @@ void write_files(const Options& options, const std::vector<Measurement>& measure
 
 void show_plans(const Options& options) {
   for (const Kernel& kernel : selected_kernels(options)) {
-    std::cout << kernel.function.name << '\n' << describe_fftw_plans(kernel.problem) << std::endl;
+    const std::optional<ComplexProblem> problem = complex_problem_of(kernel.function);
+    if (!problem) continue;
+    std::cout << kernel.function.name << '\n' << describe_fftw_plans(*problem) << std::endl;
   }
 }
 

@@ -62,8 +62,9 @@ std::set<std::string> parse_types(const std::string& text) {
   std::set<std::string> types;
   std::istringstream stream(text);
   for (std::string type; std::getline(stream, type, ',');) {
-    if (type != "32fc" && type != "64fc") {
-      throw std::invalid_argument("unknown type '" + type + "' (there are 32fc and 64fc)");
+    if (type != "32f" && type != "64f" && type != "32fc" && type != "64fc") {
+      throw std::invalid_argument("unknown type '" + type +
+                                  "' (there are 32f, 64f, 32fc and 64fc)");
     }
     types.insert(type);
   }
@@ -130,8 +131,9 @@ void apply(Options& options, int code, const std::string& value) {
 }
 
 void require_distinct_labels(const std::vector<Variant>& variants) {
-  std::set<std::string> labels = {"haldgen",   "fftw",      "fftw128", "kissfft", "av_tx",
-                                  "null_call", "best_peer", "best",    "bound",   "vector_add"};
+  std::set<std::string> labels = {"haldgen",   "fftw",      "fftw128",     "kissfft", "av_tx",
+                                  "null_call", "best_peer", "best",        "bound",   "vector_add",
+                                  "convert",   "plain",     "plain_fixed", "memcpy"};
   for (const Variant& variant : variants) {
     if (variant.label.empty() || !labels.insert(variant.label).second) {
       throw std::invalid_argument("the label '" + variant.label + "' of --also is taken or empty");
@@ -168,10 +170,11 @@ Options parse_options(int argc, char** argv, const std::filesystem::path& defaul
 }
 
 void print_help(std::ostream& out) {
-  out << R"(haldgen_bench: the kernels of libhaldgenp8 against other libraries, interleaved.
+  out << R"(haldgen_bench: the kernels of libhaldgenp8 against other libraries and plain loops,
+interleaved.
 
-  --lengths LIST          such as 8,16,20-24 (default: all that are built)
-  --types LIST            32fc, 64fc or both (default)
+  --lengths LIST          lengths or orders, such as 8,16,20-24 (default: all that are built)
+  --types LIST            of 32f, 64f, 32fc, 64fc (default: all)
   --mode MODE             hot, ring or both (default)
   --repetitions N         visits to each kernel and mode, in random order (default 3)
   --rounds N              rounds per visit (default 100)

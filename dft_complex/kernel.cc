@@ -6,6 +6,7 @@
 
 #include "kernelgen/emit.h"
 #include "kernelgen/lower.h"
+#include "kernelgen/precision.h"
 
 namespace haldgen::dft_complex {
 namespace {
@@ -13,7 +14,6 @@ namespace {
 using kernelgen::FloatType;
 using kernelgen::Graph;
 using kernelgen::Program;
-using kernelgen::Wide;
 
 /// Sweeps of the choice of forms; more find next to nothing better.
 constexpr int kFormSweeps = 150;
@@ -101,20 +101,16 @@ std::string head_comment(int length, ElementType type) {
 std::string kernel_type(int length, ElementType type, bool inverse, const Program& program) {
   const bool f32 = type == ElementType::c32;
   const std::string name = inverse ? "Inverse" : "Forward";
-  const Wide n(length);
-  const auto scale = [&](Wide value) {
-    return kernelgen::literal(f32 ? double{kernelgen::to_float(value)} : to_double(value),
-                              float_type(type));
-  };
   std::string text = "struct " + name + " {\n";
   text += std::string("  using Float = ") + (f32 ? "float" : "double") + ";\n";
   text += std::string("  using Element = ") + (f32 ? "Cplx32" : "Cplx64") + ";\n";
   if (program.lanes > 1) text += std::string("  using V = ") + (f32 ? "__m128" : "__m128d") + ";\n";
-  text += std::string("  static constexpr bool kInverse = ") + (inverse ? "true" : "false") + ";\n";
   text += std::string("  static constexpr bool kPathsDiffer = ") +
           (kernelgen::has_whole_vector_access(program) ? "true" : "false") + ";\n";
-  text += "  static constexpr Float kByLength = " + scale(Wide(1.0) / n) + ";\n";
-  text += "  static constexpr Float kByRoot = " + scale(Wide(1.0) / sqrt(n)) + ";\n\n";
+  text += kernelgen::scale_members(
+      length, inverse ? kernelgen::Divides::inverse : kernelgen::Divides::forward,
+      float_type(type));
+  text += "\n";
   text += "  template <class Access>\n";
   text += "  static inline void transform(const Float* src, Float* dst, Float scale) {\n";
   text += emit_body(program);

@@ -4,7 +4,9 @@
 # markers in FILE, `check` fails and shows the difference if the table there is not what TOOL says.
 #   status    functions built so far, from haldgen-framegen
 #   complex   algorithm and counts of each complex kernel, from haldgen-generate
-#   accuracy  rounding errors, from haldgen_accuracy
+#   real      the same of the real kernels, both directions
+#   accuracy, real-accuracy
+#             rounding errors, from haldgen_accuracy
 set -eu
 action=$1 name=$2 file=$3 tool=$4
 
@@ -37,29 +39,48 @@ status_table() {
     }' "$scratch/list"
 }
 
+# counts_table FAMILY TYPE [CONVERSIONS OF TYPE]
+counts_table() {
+  printf '| N | additions | multiplications | depth |%s algorithm |\n|--:|--:|--:|--:|%s---|\n' \
+    "${3:+ conversions |}" "${3:+--:|}"
+  awk -v family="$1" -v type="$2" -v conversions="${3:-}" '
+    $1 == family && $3 == conversions { convert[$2] = $7 }
+    $1 == family && $3 == type { rows[++count] = $2 " " $4 " " $5 " " $6 " "; size[count] = $2 }
+    END {
+      for (i = 1; i <= count; ++i) print rows[i] (conversions == "" ? "" : convert[size[i]])
+    }' "$scratch/counts" >"$scratch/rows"
+  while read -r length additions multiplications depth conversions; do
+    recipe=$("$tool" recipe "$1" "$length" "$2")
+    recipe=$(printf '%s' "$recipe" | sed 's/|/\\|/g')
+    # The backquotes are Markdown's.
+    # shellcheck disable=SC2016
+    printf '| %s | %s | %s | %s |%s `%s` |\n' "$length" "$additions" "$multiplications" \
+      "$depth" "${3:+ $conversions |}" "$recipe"
+  done <"$scratch/rows"
+}
+
 complex_tables() {
   "$tool" counts >"$scratch/counts"
-  for type in 32fc 64fc; do
-    printf '### %s\n\n| N | additions | multiplications | depth | algorithm |\n' "$type"
-    printf -- '|--:|--:|--:|--:|---|\n'
-    awk -v type="$type" '$1 == "complex" && $3 == type { print $2, $4, $5, $6 }' \
-      "$scratch/counts" >"$scratch/rows"
-    while read -r length additions multiplications depth; do
-      recipe=$("$tool" recipe complex "$length" "$type")
-      recipe=$(printf '%s' "$recipe" | sed 's/|/\\|/g')
-      # The backquotes are Markdown's.
-      # shellcheck disable=SC2016
-      printf '| %s | %s | %s | %s | `%s` |\n' \
-        "$length" "$additions" "$multiplications" "$depth" "$recipe"
-    done <"$scratch/rows"
-    [ "$type" = 64fc ] || echo
-  done
+  printf '### 32fc\n\n'
+  counts_table complex 32fc
+  printf '\n### 64fc\n\n'
+  counts_table complex 64fc
+}
+
+real_tables() {
+  "$tool" counts >"$scratch/counts"
+  printf '### Forward\n\n'
+  counts_table real-forward 64f 32f
+  printf '\n### Inverse\n\n'
+  counts_table real-inverse 64f 32f
 }
 
 case $name in
   status) status_table >"$table" ;;
   complex) complex_tables >"$table" ;;
-  accuracy) "$tool" >"$table" ;;
+  real) real_tables >"$table" ;;
+  accuracy) "$tool" complex >"$table" ;;
+  real-accuracy) "$tool" real >"$table" ;;
   *) echo "tables.sh: no table $name" >&2; exit 2 ;;
 esac
 

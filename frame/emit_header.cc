@@ -21,8 +21,10 @@ constexpr std::string_view prologue =
  * What holds for every transform below, unless its family says otherwise:
  * - Arrays are the caller's. src is only read. Any alignment of an element's own float type will
  *   do (4 bytes for Cplx32, 8 bytes for Cplx64), and the alignment changes no bit of a result.
+ *   The transforms of real arrays take any address at all.
  * - dst may be the same array as src. The arrays must not overlap in any other way.
- * - Any number of threads may call at once, also with one src. Nothing is allocated or locked.
+ * - Any number of threads may call at once, also with one src. Nothing is locked, and nothing is
+ *   allocated, but for the work area of a large Walsh-Hadamard transform called without one.
  * - The same input gives the same bits on every call and on every machine.
  * - A failure is only returned as a status, and then dst is not written.
  *
@@ -77,6 +79,20 @@ enum {
   haldScaleBySqrtN = 4, /**< both transforms divide by the square root of N */
   haldScaleNone = 8     /**< neither transform scales */
 };
+
+/**
+ * Packed half spectra. The spectrum of N real samples is known from its bins k = 0..N/2, with the
+ * parts R(k) and I(k); I(0) is zero, and for even N so is I(N/2). With q = (N-1)/2 rounded down,
+ * the formats hold, from position 0:
+ *
+ *     format | elements          | N even                                  | N odd
+ *     -------|-------------------|-----------------------------------------|---------------------
+ *     CCS    | 2*(N/2 down) + 2  | R(k), I(k) of k = 0..N/2, zeros too     | R(k), I(k) of k = 0..q
+ *     Pack   | N                 | R(0), R(k), I(k) of k = 1..q, R(N/2)    | R(0), R(k), I(k) of 1..q
+ *     Perm   | N                 | R(0), R(N/2), R(k), I(k) of k = 1..q    | as Pack
+ *
+ * Forward transforms write +0 to the zeros of CCS; inverse transforms never read them.
+ */
 
 /** Which build of the library this is. */
 typedef struct {

@@ -19,6 +19,9 @@ constexpr std::array<Element, 2> no_arrays{Element::none, Element::none};
 // What is built: a size enters when its functions of both element types exist.
 constexpr SizeSet not_built{};
 constexpr SizeSet complex_built(Range{2, 64});
+constexpr SizeSet real_built(Range{2, 64});
+constexpr SizeSet wht_built(wht_orders);
+constexpr SizeSet wht_query_built{0};
 constexpr SizeSet version_built{0};
 constexpr SizeSet dct4_built{0};
 
@@ -52,6 +55,120 @@ constexpr std::string_view inverse_complex_general_definition =
 @param dst     N complex elements X[0..N-1].
 @param length  N, for lengths known at run time only: any length that has a function of its own.)";
 
+constexpr std::string_view forward_ccs_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+The length N is the number in the name.
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N.)";
+
+constexpr std::string_view inverse_ccs_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+The length N is the number in the name.
+
+@param src     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N; only read.
+@param dst     N real samples x[0..N-1].)";
+
+constexpr std::string_view forward_ccs_general_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N.
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view inverse_ccs_general_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+@param src     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N; only read.
+@param dst     N real samples x[0..N-1].
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view forward_pack_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+The length N is the number in the name.
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in Pack format: N elements.)";
+
+constexpr std::string_view inverse_pack_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+The length N is the number in the name.
+
+@param src     Half spectrum in Pack format: N elements; only read.
+@param dst     N real samples x[0..N-1].)";
+
+constexpr std::string_view forward_pack_general_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in Pack format: N elements.
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view inverse_pack_general_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+@param src     Half spectrum in Pack format: N elements; only read.
+@param dst     N real samples x[0..N-1].
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view forward_perm_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+The length N is the number in the name.
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in Perm format: N elements.)";
+
+constexpr std::string_view inverse_perm_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+The length N is the number in the name.
+
+@param src     Half spectrum in Perm format: N elements; only read.
+@param dst     N real samples x[0..N-1].)";
+
+constexpr std::string_view forward_perm_general_definition =
+    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+
+@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in Perm format: N elements.
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
+constexpr std::string_view inverse_perm_general_definition =
+    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+                                                                  - I(k) * sin(2*pi*k*n/N)))
+
+The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+conjugate-symmetric spectrum.
+
+@param src     Half spectrum in Perm format: N elements; only read.
+@param dst     N real samples x[0..N-1].
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
 constexpr std::string_view transform_result =
     R"(@return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.)";
@@ -59,6 +176,52 @@ constexpr std::string_view transform_result =
 constexpr std::string_view general_length_result =
     R"(@return haldStatusSizeError if no function has this length, whatever the other arguments are;
         else what the function of this length returns.)";
+
+constexpr std::string_view wht_definition =
+    R"(    Y[k] = s * sum over n of (-1)^popcount(k & n) * x[n],   k, n = 0..N-1
+
+N is two to the power of the order, which is the number in the name. Outputs are in the natural
+(Hadamard) order of k. The transform is its own inverse: two calls with haldScaleBySqrtN give the
+input back, and so do one with haldScaleNone and one with a flag that divides by N.
+
+The results are those of sums and differences taken in place, first of neighbours x[n], x[n+1],
+then of elements 2, 4, .. N/2 apart, each rounded to the element type, and of one multiplication
+by s at the end.
+
+@param src     N elements x[0..N-1]; only read. Need not even be aligned to an element.
+@param dst     N elements Y[0..N-1]; likewise.)";
+
+constexpr std::string_view wht_general_definition =
+    R"(    Y[k] = s * sum over n of (-1)^popcount(k & n) * x[n],   k, n = 0..N-1,   N = 2^order
+
+@param src     N elements x[0..N-1]; only read. Need not even be aligned to an element.
+@param dst     N elements Y[0..N-1]; likewise.
+@param order   1 to 13, for orders known at run time only.)";
+
+constexpr std::string_view wht_result =
+    R"(@param buffer  work area of as many bytes as haldgWHTGetBufferSize tells for the order and the
+        element type, at a multiple of 16 bytes, apart from src and dst. It needs no contents,
+        and nothing is kept in it. Orders 1 to 7 pass over this argument.
+        If it is null, orders 8 to 13 take the area from haldMalloc and give it back to haldFree
+        before they return. There is no status for a haldMalloc that fails: the call crashes.
+@return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+        the four values; else haldStatusOk. Only if haldStatusOk is returned is dst written or
+        memory taken.)";
+
+constexpr std::string_view wht_general_result =
+    R"(@param buffer  as for the function of this order.
+@return haldStatusSizeError if no function has this order, whatever the other arguments are; else
+        what the function of this order returns.)";
+
+constexpr std::string_view wht_query_definition =
+    R"(Bytes that the buffer of a Walsh-Hadamard transform needs: 0 for orders 1 to 7.
+
+@param order   1 to 13.
+@param size    where to store the number of bytes.)";
+
+constexpr std::string_view wht_query_result =
+    R"(@return haldStatusNullPointer if size is null; else haldStatusSizeError if no function has this
+        order, and nothing is stored; else haldStatusOk.)";
 
 constexpr std::string_view version_result =
     R"(@return The record of this build: always the same pointer, never null. It belongs to the library;
@@ -136,115 +299,31 @@ constexpr Family table[] = {
     {"DFTInv_CToC", S::sized_transform, complex, dft_lengths, complex_built, Scaling::inverse,
      "Inverse complex DFT, general", inverse_complex_general_definition, general_length_result},
 
-    {"DFTFwd_RToCCS",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to CCS, fixed length",
-     {},
-     {}},
-    {"DFTFwd_RToCCS",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to CCS, general",
-     {},
-     {}},
-    {"DFTFwd_RToPack",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to Pack, fixed length",
-     {},
-     {}},
-    {"DFTFwd_RToPack",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to Pack, general",
-     {},
-     {}},
-    {"DFTFwd_RToPerm",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to Perm, fixed length",
-     {},
-     {}},
-    {"DFTFwd_RToPerm",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::forward,
-     "Forward real DFT to Perm, general",
-     {},
-     {}},
+    {"DFTFwd_RToCCS", S::transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to CCS, fixed length", forward_ccs_definition, transform_result},
+    {"DFTFwd_RToCCS", S::sized_transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to CCS, general", forward_ccs_general_definition, general_length_result},
+    {"DFTFwd_RToPack", S::transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to Pack, fixed length", forward_pack_definition, transform_result},
+    {"DFTFwd_RToPack", S::sized_transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to Pack, general", forward_pack_general_definition, general_length_result},
+    {"DFTFwd_RToPerm", S::transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to Perm, fixed length", forward_perm_definition, transform_result},
+    {"DFTFwd_RToPerm", S::sized_transform, real, dft_lengths, real_built, Scaling::forward,
+     "Forward real DFT to Perm, general", forward_perm_general_definition, general_length_result},
 
-    {"DFTInv_CCSToR",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from CCS, fixed length",
-     {},
-     {}},
-    {"DFTInv_CCSToR",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from CCS, general",
-     {},
-     {}},
-    {"DFTInv_PackToR",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from Pack, fixed length",
-     {},
-     {}},
-    {"DFTInv_PackToR",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from Pack, general",
-     {},
-     {}},
-    {"DFTInv_PermToR",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from Perm, fixed length",
-     {},
-     {}},
-    {"DFTInv_PermToR",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::inverse,
-     "Inverse real DFT from Perm, general",
-     {},
-     {}},
+    {"DFTInv_CCSToR", S::transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from CCS, fixed length", inverse_ccs_definition, transform_result},
+    {"DFTInv_CCSToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from CCS, general", inverse_ccs_general_definition, general_length_result},
+    {"DFTInv_PackToR", S::transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from Pack, fixed length", inverse_pack_definition, transform_result},
+    {"DFTInv_PackToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from Pack, general", inverse_pack_general_definition, general_length_result},
+    {"DFTInv_PermToR", S::transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from Perm, fixed length", inverse_perm_definition, transform_result},
+    {"DFTInv_PermToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
+     "Inverse real DFT from Perm, general", inverse_perm_general_definition, general_length_result},
 
     {"Hartley",
      S::transform,
@@ -265,33 +344,12 @@ constexpr Family table[] = {
      {},
      {}},
 
-    {"WHT",
-     S::buffered_transform,
-     real,
-     wht_orders,
-     not_built,
-     Scaling::directionless,
-     "Walsh-Hadamard transform, fixed order",
-     {},
-     {}},
-    {"WHT",
-     S::sized_buffered_transform,
-     real,
-     wht_orders,
-     not_built,
-     Scaling::directionless,
-     "Walsh-Hadamard transform, general",
-     {},
-     {}},
-    {"WHTGetBufferSize",
-     S::order_query,
-     real,
-     no_size,
-     not_built,
-     Scaling::none,
-     "Walsh-Hadamard transform, size of the work buffer",
-     {},
-     {}},
+    {"WHT", S::buffered_transform, real, wht_orders, wht_built, Scaling::directionless,
+     "Walsh-Hadamard transform, fixed order", wht_definition, wht_result},
+    {"WHT", S::sized_buffered_transform, real, wht_orders, wht_built, Scaling::directionless,
+     "Walsh-Hadamard transform, general", wht_general_definition, wht_general_result},
+    {"WHTGetBufferSize", S::order_query, real, no_size, wht_query_built, Scaling::none,
+     "Walsh-Hadamard transform, size of the work buffer", wht_query_definition, wht_query_result},
 
     {"DCT4GetSize", S::length_query, real, no_size, dct4_built, Scaling::none,
      "DCT-IV, size of the state", dct4_size_definition, dct4_size_result},

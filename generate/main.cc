@@ -9,20 +9,24 @@
 #include <vector>
 
 #include "dft_complex/kernel.h"
+#include "dft_real/kernel.h"
 #include "generate/dct4.h"
+#include "hartley/kernel.h"
+#include "kernelgen/count.h"
 #include "kernelgen/dot.h"
 
 namespace {
 
-using haldgen::dft_complex::ElementType;
-using haldgen::dft_complex::Tuning;
 namespace dft_complex = haldgen::dft_complex;
+namespace dft_real = haldgen::dft_real;
+namespace hartley = haldgen::hartley;
 namespace kernelgen = haldgen::kernelgen;
+using kernelgen::FloatType;
 
 constexpr std::string_view kUsage =
     "usage: haldgen-generate counts\n"
-    "       haldgen-generate recipe|counts|graph|code complex LENGTH 32fc|64fc\n"
-    "       haldgen-generate source complex LENGTH 32fc|64fc FILE [ORDER:CAP:SEED]\n"
+    "       haldgen-generate recipe|counts|graph|code FAMILY LENGTH TYPE\n"
+    "       haldgen-generate source FAMILY LENGTH TYPE FILE [ORDER:CAP:SEED]\n"
     "       haldgen-generate counts dct4\n"
     "       haldgen-generate counts|graph|code dct4 KERNEL 32f|64f\n"
     "       haldgen-generate source dct4 KERNEL 32f|64f FILE [ORDER:CAP]\n"
@@ -30,43 +34,168 @@ constexpr std::string_view kUsage =
     "  recipe   the factorisation of a kernel\n"
     "  graph    its statements for Graphviz\n"
     "  code     its C++ source, as source writes it to a file\n"
+    "  FAMILY   complex (TYPE 32fc or 64fc), real-forward, real-inverse or hartley (TYPE 32f or\n"
+    "           64f)\n"
     "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
-    "           SEED a number that varies the choice of forms\n";
+    "           SEED a number that varies the choice of forms of vector kernels\n";
 
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-ElementType element_type(std::string_view text) {
-  if (text == "32fc") return ElementType::c32;
-  if (text == "64fc") return ElementType::c64;
-  throw UsageError("unknown element type");
-}
+/// ORDER, ORDER:CAP or ORDER:CAP:SEED.
+struct Tuning {
+  kernelgen::Order order;
+  int cap = 0;
+  int seed = 0;
+};
 
-/// ORDER, ORDER:CAP or ORDER:CAP:SEED, for both directions.
 Tuning tuning(const std::string& text) {
   std::istringstream parts(text);
   std::string order, cap, seed;
   std::getline(parts, order, ':');
   std::getline(parts, cap, ':');
   std::getline(parts, seed);
-  const dft_complex::Ordering ordering{kernelgen::order_named(order),
-                                       cap.empty() ? 0 : std::stoi(cap)};
-  return {seed.empty() ? 0 : std::stoi(seed), ordering, ordering};
+  return {kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap),
+          seed.empty() ? 0 : std::stoi(seed)};
 }
 
-void print_counts_head() { std::cout << "family\tlength\ttype\tadd\tmul\tdepth\n"; }
+/// What one kernel executes beside its scale; conversions between 32 and 64 bits are no arithmetic
+/// of the algorithm, but they take its place in a processor.
+struct Work {
+  int additions;
+  int multiplications;
+  int depth;
+  int conversions;
+};
 
-void print_counts(int length, ElementType type) {
-  const kernelgen::Counts c = kernelgen::count(dft_complex::kernel_graph(length, type));
-  std::cout << "complex\t" << length << '\t' << dft_complex::suffix(type) << '\t' << c.additions
-            << '\t' << c.multiplications << '\t' << c.depth << '\n';
+/// The kernels of one family, as the commands see them.
+struct Family {
+  std::string_view name;
+  int first_length;
+  int last_length;
+  std::string_view type_of(FloatType type) const {
+    return type == FloatType::f32 ? type32 : type64;
+  }
+  std::string_view type32;
+  std::string_view type64;
+  std::string (*recipe)(int, FloatType);
+  kernelgen::Graph (*graph)(int, FloatType);
+  Work (*work)(int, FloatType);
+  std::string (*source)(int, FloatType, const Tuning*);
+};
+
+dft_complex::ElementType complex_type(FloatType type) {
+  return type == FloatType::f32 ? dft_complex::ElementType::c32 : dft_complex::ElementType::c64;
+}
+
+constexpr Family kComplex{
+    "complex",
+    dft_complex::kFirstLength,
+    dft_complex::kLastLength,
+    "32fc",
+    "64fc",
+    [](int n, FloatType type) { return to_string(dft_complex::recipe_of(n, complex_type(type))); },
+    [](int n, FloatType type) { return dft_complex::kernel_graph(n, complex_type(type)); },
+    [](int n, FloatType type) {
+      const auto c = kernelgen::count(dft_complex::kernel_graph(n, complex_type(type)));
+      return Work{c.additions, c.multiplications, c.depth, 0};
+    },
+    [](int n, FloatType type, const Tuning* tuning) {
+      dft_complex::Tuning choice = dft_complex::tuning_of(n, complex_type(type));
+      if (tuning != nullptr) {
+        const dft_complex::Ordering ordering{tuning->order, tuning->cap};
+        choice = {tuning->seed, ordering, ordering};
+      }
+      return dft_complex::kernel_source(n, complex_type(type), choice);
+    },
+};
+
+Work work_of(const kernelgen::Program& program) {
+  const kernelgen::Tally t = kernelgen::tally(program);
+  return {t.in32.additions + t.in64.additions + t.in32.negations + t.in64.negations,
+          t.in32.products + t.in64.products, t.depth, t.widenings + t.narrowings};
+}
+
+template <dft_real::Direction Direction>
+constexpr Family real_family(std::string_view name) {
+  return {
+      name,
+      dft_real::kFirstLength,
+      dft_real::kLastLength,
+      "32f",
+      "64f",
+      [](int n, FloatType) { return to_string(dft_real::design_of(n, Direction).recipe); },
+      [](int n, FloatType) { return dft_real::kernel_graph(n, Direction); },
+      [](int n, FloatType type) {
+        return work_of(dft_real::kernel_program(n, Direction, type, {}));
+      },
+      [](int n, FloatType type, const Tuning* tuning) {
+        const dft_real::Tuning choice = tuning != nullptr
+                                            ? dft_real::Tuning{tuning->order, tuning->cap}
+                                            : dft_real::tuning_of(n, Direction, type);
+        return dft_real::kernel_source(n, Direction, type, choice);
+      },
+  };
+}
+
+constexpr Family kHartley{
+    "hartley",
+    hartley::kFirstLength,
+    hartley::kLastLength,
+    "32f",
+    "64f",
+    [](int n, FloatType) {
+      const hartley::Design& design = hartley::design_of(n);
+      const bool paired = design.structure == hartley::Structure::paired;
+      return to_string(design.recipe) + (paired ? "" : ", transposed");
+    },
+    [](int n, FloatType) { return hartley::kernel_graph(n); },
+    [](int n, FloatType type) { return work_of(hartley::kernel_program(n, type, {})); },
+    [](int n, FloatType type, const Tuning* tuning) {
+      const hartley::Tuning choice = tuning != nullptr ? hartley::Tuning{tuning->order, tuning->cap}
+                                                       : hartley::tuning_of(n, type);
+      return hartley::kernel_source(n, type, choice);
+    },
+};
+
+constexpr Family kFamilies[] = {
+    kComplex,
+    real_family<dft_real::Direction::forward>("real-forward"),
+    real_family<dft_real::Direction::inverse>("real-inverse"),
+    kHartley,
+};
+
+const Family& family_named(std::string_view name) {
+  for (const Family& family : kFamilies) {
+    if (family.name == name) return family;
+  }
+  throw UsageError("unknown family");
+}
+
+FloatType float_type(const Family& family, std::string_view text) {
+  for (const FloatType type : {FloatType::f32, FloatType::f64}) {
+    if (family.type_of(type) == text) return type;
+  }
+  throw UsageError("unknown element type");
+}
+
+void print_counts_head() { std::cout << "family\tlength\ttype\tadd\tmul\tdepth\tconvert\n"; }
+
+void print_counts(const Family& family, int length, FloatType type) {
+  const Work w = family.work(length, type);
+  std::cout << family.name << '\t' << length << '\t' << family.type_of(type) << '\t' << w.additions
+            << '\t' << w.multiplications << '\t' << w.depth << '\t' << w.conversions << '\n';
 }
 
 void print_all_counts() {
   print_counts_head();
-  for (int length = dft_complex::kFirstLength; length <= dft_complex::kLastLength; ++length) {
-    for (const ElementType type : {ElementType::c32, ElementType::c64}) print_counts(length, type);
+  for (const Family& family : kFamilies) {
+    for (int length = family.first_length; length <= family.last_length; ++length) {
+      for (const FloatType type : {FloatType::f32, FloatType::f64}) {
+        print_counts(family, length, type);
+      }
+    }
   }
 }
 
@@ -82,24 +211,28 @@ void run(const std::vector<std::string>& args) {
     if (haldgen::generate::run_dct4(args, write_file)) return;
     throw UsageError("arguments");
   }
-  if (args.size() < 4 || args[1] != "complex") throw UsageError("arguments");
+  if (args.size() < 4) throw UsageError("arguments");
   const std::string& command = args[0];
+  const Family& family = family_named(args[1]);
   const int length = std::stoi(args[2]);
-  const ElementType type = element_type(args[3]);
-  if (command == "source" && (args.size() == 5 || args.size() == 6)) {
-    const Tuning choice = args.size() == 6 ? tuning(args[5]) : dft_complex::tuning_of(length, type);
-    return write_file(args[4], dft_complex::kernel_source(length, type, choice));
+  const FloatType type = float_type(family, args[3]);
+  if (command == "source" && args.size() == 5) {
+    return write_file(args[4], family.source(length, type, nullptr));
+  }
+  if (command == "source" && args.size() == 6) {
+    const Tuning choice = tuning(args[5]);
+    return write_file(args[4], family.source(length, type, &choice));
   }
   if (args.size() != 4) throw UsageError("arguments");
   if (command == "counts") {
     print_counts_head();
-    print_counts(length, type);
+    print_counts(family, length, type);
   } else if (command == "recipe") {
-    std::cout << to_string(dft_complex::recipe_of(length, type)) << '\n';
+    std::cout << family.recipe(length, type) << '\n';
   } else if (command == "graph") {
-    std::cout << kernelgen::to_dot(dft_complex::kernel_graph(length, type));
+    std::cout << kernelgen::to_dot(family.graph(length, type));
   } else if (command == "code") {
-    std::cout << dft_complex::kernel_source(length, type, dft_complex::tuning_of(length, type));
+    std::cout << family.source(length, type, nullptr);
   } else {
     throw UsageError("unknown command");
   }

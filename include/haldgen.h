@@ -8,8 +8,10 @@
  * What holds for every transform below, unless its family says otherwise:
  * - Arrays are the caller's. src is only read. Any alignment of an element's own float type will
  *   do (4 bytes for Cplx32, 8 bytes for Cplx64), and the alignment changes no bit of a result.
+ *   The transforms of real arrays take any address at all.
  * - dst may be the same array as src. The arrays must not overlap in any other way.
- * - Any number of threads may call at once, also with one src. Nothing is allocated or locked.
+ * - Any number of threads may call at once, also with one src. Nothing is locked, and nothing is
+ *   allocated, but for the work area of a large Walsh-Hadamard transform called without one.
  * - The same input gives the same bits on every call and on every machine.
  * - A failure is only returned as a status, and then dst is not written.
  *
@@ -64,6 +66,20 @@ enum {
   haldScaleBySqrtN = 4, /**< both transforms divide by the square root of N */
   haldScaleNone = 8     /**< neither transform scales */
 };
+
+/**
+ * Packed half spectra. The spectrum of N real samples is known from its bins k = 0..N/2, with the
+ * parts R(k) and I(k); I(0) is zero, and for even N so is I(N/2). With q = (N-1)/2 rounded down,
+ * the formats hold, from position 0:
+ *
+ *     format | elements          | N even                                  | N odd
+ *     -------|-------------------|-----------------------------------------|---------------------
+ *     CCS    | 2*(N/2 down) + 2  | R(k), I(k) of k = 0..N/2, zeros too     | R(k), I(k) of k = 0..q
+ *     Pack   | N                 | R(0), R(k), I(k) of k = 1..q, R(N/2)    | R(0), R(k), I(k) of 1..q
+ *     Perm   | N                 | R(0), R(N/2), R(k), I(k) of k = 1..q    | as Pack
+ *
+ * Forward transforms write +0 to the zeros of CCS; inverse transforms never read them.
+ */
 
 /** Which build of the library this is. */
 typedef struct {
@@ -412,6 +428,1127 @@ int32_t haldgDFTInv_CToC_64_64fc(const Cplx64* src, Cplx64* dst, int32_t flag);
  */
 int32_t haldgDFTInv_CToC_32fc(const Cplx32* src, Cplx32* dst, int32_t length, int32_t flag);
 int32_t haldgDFTInv_CToC_64fc(const Cplx64* src, Cplx64* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Forward real DFT to CCS, fixed length
+ *
+ *     R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+ *
+ * The length N is the number in the name.
+ *
+ * @param src     N real samples x[0..N-1]; only read.
+ * @param dst     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDFTFwd_RToCCS_2_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_3_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_4_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_5_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_6_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_7_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_8_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_9_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_10_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_11_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_12_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_13_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_14_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_15_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_16_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_17_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_18_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_19_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_20_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_21_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_22_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_23_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_24_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_25_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_26_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_27_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_28_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_29_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_30_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_31_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_32_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_33_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_34_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_35_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_36_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_37_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_38_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_39_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_40_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_41_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_42_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_43_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_44_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_45_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_46_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_47_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_48_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_49_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_50_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_51_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_52_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_53_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_54_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_55_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_56_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_57_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_58_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_59_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_60_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_61_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_62_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_63_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_64_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_2_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_3_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_4_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_5_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_6_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_7_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_8_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_9_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_10_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_11_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_12_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_13_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_14_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_15_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_16_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_17_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_18_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_19_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_20_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_21_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_22_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_23_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_24_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_25_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_26_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_27_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_28_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_29_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_30_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_31_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_32_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_33_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_34_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_35_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_36_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_37_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_38_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_39_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_40_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_41_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_42_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_43_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_44_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_45_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_46_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_47_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_48_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_49_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_50_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_51_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_52_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_53_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_54_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_55_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_56_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_57_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_58_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_59_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_60_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_61_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_62_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_63_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_64_64f(const double* src, double* dst, int32_t flag);
+/** @} */
+
+/**
+ * @name Forward real DFT to CCS, general
+ *
+ *     R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+ *
+ * @param src     N real samples x[0..N-1]; only read.
+ * @param dst     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N.
+ * @param length  N, for lengths known at run time only: any length that has a function of its own.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusSizeError if no function has this length, whatever the other arguments are;
+ *         else what the function of this length returns.
+ * @{
+ */
+int32_t haldgDFTFwd_RToCCS_32f(const float* src, float* dst, int32_t length, int32_t flag);
+int32_t haldgDFTFwd_RToCCS_64f(const double* src, double* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Forward real DFT to Pack, fixed length
+ *
+ *     R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+ *
+ * The length N is the number in the name.
+ *
+ * @param src     N real samples x[0..N-1]; only read.
+ * @param dst     Half spectrum in Pack format: N elements.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDFTFwd_RToPack_2_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_3_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_4_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_5_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_6_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_7_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_8_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_9_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_10_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_11_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_12_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_13_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_14_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_15_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_16_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_17_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_18_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_19_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_20_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_21_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_22_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_23_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_24_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_25_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_26_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_27_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_28_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_29_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_30_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_31_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_32_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_33_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_34_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_35_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_36_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_37_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_38_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_39_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_40_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_41_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_42_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_43_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_44_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_45_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_46_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_47_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_48_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_49_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_50_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_51_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_52_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_53_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_54_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_55_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_56_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_57_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_58_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_59_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_60_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_61_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_62_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_63_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_64_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_2_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_3_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_4_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_5_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_6_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_7_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_8_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_9_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_10_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_11_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_12_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_13_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_14_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_15_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_16_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_17_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_18_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_19_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_20_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_21_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_22_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_23_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_24_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_25_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_26_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_27_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_28_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_29_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_30_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_31_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_32_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_33_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_34_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_35_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_36_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_37_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_38_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_39_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_40_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_41_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_42_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_43_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_44_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_45_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_46_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_47_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_48_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_49_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_50_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_51_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_52_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_53_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_54_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_55_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_56_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_57_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_58_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_59_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_60_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_61_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_62_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_63_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPack_64_64f(const double* src, double* dst, int32_t flag);
+/** @} */
+
+/**
+ * @name Forward real DFT to Pack, general
+ *
+ *     R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+ *
+ * @param src     N real samples x[0..N-1]; only read.
+ * @param dst     Half spectrum in Pack format: N elements.
+ * @param length  N, for lengths known at run time only: any length that has a function of its own.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusSizeError if no function has this length, whatever the other arguments are;
+ *         else what the function of this length returns.
+ * @{
+ */
+int32_t haldgDFTFwd_RToPack_32f(const float* src, float* dst, int32_t length, int32_t flag);
+int32_t haldgDFTFwd_RToPack_64f(const double* src, double* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Forward real DFT to Perm, fixed length
+ *
+ *     R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+ *
+ * The length N is the number in the name.
+ *
+ * @param src     N real samples x[0..N-1]; only read.
+ * @param dst     Half spectrum in Perm format: N elements.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDFTFwd_RToPerm_2_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_3_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_4_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_5_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_6_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_7_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_8_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_9_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_10_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_11_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_12_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_13_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_14_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_15_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_16_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_17_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_18_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_19_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_20_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_21_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_22_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_23_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_24_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_25_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_26_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_27_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_28_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_29_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_30_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_31_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_32_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_33_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_34_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_35_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_36_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_37_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_38_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_39_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_40_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_41_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_42_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_43_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_44_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_45_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_46_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_47_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_48_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_49_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_50_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_51_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_52_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_53_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_54_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_55_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_56_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_57_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_58_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_59_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_60_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_61_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_62_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_63_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_64_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_2_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_3_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_4_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_5_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_6_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_7_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_8_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_9_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_10_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_11_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_12_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_13_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_14_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_15_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_16_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_17_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_18_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_19_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_20_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_21_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_22_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_23_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_24_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_25_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_26_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_27_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_28_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_29_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_30_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_31_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_32_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_33_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_34_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_35_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_36_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_37_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_38_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_39_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_40_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_41_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_42_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_43_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_44_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_45_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_46_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_47_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_48_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_49_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_50_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_51_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_52_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_53_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_54_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_55_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_56_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_57_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_58_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_59_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_60_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_61_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_62_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_63_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_64_64f(const double* src, double* dst, int32_t flag);
+/** @} */
+
+/**
+ * @name Forward real DFT to Perm, general
+ *
+ *     R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+ *
+ * @param src     N real samples x[0..N-1]; only read.
+ * @param dst     Half spectrum in Perm format: N elements.
+ * @param length  N, for lengths known at run time only: any length that has a function of its own.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusSizeError if no function has this length, whatever the other arguments are;
+ *         else what the function of this length returns.
+ * @{
+ */
+int32_t haldgDFTFwd_RToPerm_32f(const float* src, float* dst, int32_t length, int32_t flag);
+int32_t haldgDFTFwd_RToPerm_64f(const double* src, double* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Inverse real DFT from CCS, fixed length
+ *
+ *     x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+ *                                                                   - I(k) * sin(2*pi*k*n/N)))
+ *
+ * The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+ * conjugate-symmetric spectrum.
+ *
+ * The length N is the number in the name.
+ *
+ * @param src     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N; only read.
+ * @param dst     N real samples x[0..N-1].
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDFTInv_CCSToR_2_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_3_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_4_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_5_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_6_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_7_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_8_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_9_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_10_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_11_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_12_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_13_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_14_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_15_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_16_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_17_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_18_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_19_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_20_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_21_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_22_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_23_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_24_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_25_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_26_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_27_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_28_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_29_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_30_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_31_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_32_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_33_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_34_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_35_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_36_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_37_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_38_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_39_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_40_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_41_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_42_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_43_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_44_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_45_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_46_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_47_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_48_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_49_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_50_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_51_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_52_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_53_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_54_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_55_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_56_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_57_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_58_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_59_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_60_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_61_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_62_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_63_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_64_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_2_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_3_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_4_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_5_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_6_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_7_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_8_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_9_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_10_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_11_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_12_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_13_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_14_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_15_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_16_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_17_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_18_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_19_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_20_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_21_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_22_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_23_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_24_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_25_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_26_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_27_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_28_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_29_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_30_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_31_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_32_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_33_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_34_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_35_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_36_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_37_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_38_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_39_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_40_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_41_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_42_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_43_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_44_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_45_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_46_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_47_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_48_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_49_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_50_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_51_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_52_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_53_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_54_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_55_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_56_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_57_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_58_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_59_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_60_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_61_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_62_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_63_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_CCSToR_64_64f(const double* src, double* dst, int32_t flag);
+/** @} */
+
+/**
+ * @name Inverse real DFT from CCS, general
+ *
+ *     x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+ *                                                                   - I(k) * sin(2*pi*k*n/N)))
+ *
+ * The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+ * conjugate-symmetric spectrum.
+ *
+ * @param src     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N; only read.
+ * @param dst     N real samples x[0..N-1].
+ * @param length  N, for lengths known at run time only: any length that has a function of its own.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusSizeError if no function has this length, whatever the other arguments are;
+ *         else what the function of this length returns.
+ * @{
+ */
+int32_t haldgDFTInv_CCSToR_32f(const float* src, float* dst, int32_t length, int32_t flag);
+int32_t haldgDFTInv_CCSToR_64f(const double* src, double* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Inverse real DFT from Pack, fixed length
+ *
+ *     x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+ *                                                                   - I(k) * sin(2*pi*k*n/N)))
+ *
+ * The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+ * conjugate-symmetric spectrum.
+ *
+ * The length N is the number in the name.
+ *
+ * @param src     Half spectrum in Pack format: N elements; only read.
+ * @param dst     N real samples x[0..N-1].
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDFTInv_PackToR_2_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_3_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_4_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_5_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_6_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_7_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_8_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_9_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_10_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_11_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_12_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_13_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_14_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_15_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_16_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_17_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_18_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_19_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_20_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_21_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_22_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_23_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_24_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_25_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_26_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_27_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_28_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_29_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_30_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_31_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_32_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_33_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_34_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_35_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_36_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_37_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_38_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_39_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_40_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_41_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_42_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_43_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_44_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_45_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_46_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_47_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_48_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_49_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_50_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_51_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_52_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_53_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_54_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_55_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_56_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_57_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_58_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_59_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_60_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_61_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_62_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_63_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_64_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_2_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_3_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_4_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_5_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_6_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_7_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_8_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_9_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_10_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_11_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_12_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_13_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_14_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_15_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_16_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_17_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_18_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_19_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_20_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_21_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_22_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_23_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_24_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_25_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_26_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_27_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_28_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_29_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_30_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_31_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_32_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_33_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_34_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_35_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_36_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_37_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_38_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_39_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_40_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_41_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_42_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_43_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_44_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_45_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_46_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_47_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_48_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_49_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_50_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_51_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_52_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_53_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_54_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_55_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_56_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_57_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_58_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_59_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_60_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_61_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_62_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_63_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PackToR_64_64f(const double* src, double* dst, int32_t flag);
+/** @} */
+
+/**
+ * @name Inverse real DFT from Pack, general
+ *
+ *     x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+ *                                                                   - I(k) * sin(2*pi*k*n/N)))
+ *
+ * The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+ * conjugate-symmetric spectrum.
+ *
+ * @param src     Half spectrum in Pack format: N elements; only read.
+ * @param dst     N real samples x[0..N-1].
+ * @param length  N, for lengths known at run time only: any length that has a function of its own.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusSizeError if no function has this length, whatever the other arguments are;
+ *         else what the function of this length returns.
+ * @{
+ */
+int32_t haldgDFTInv_PackToR_32f(const float* src, float* dst, int32_t length, int32_t flag);
+int32_t haldgDFTInv_PackToR_64f(const double* src, double* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Inverse real DFT from Perm, fixed length
+ *
+ *     x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+ *                                                                   - I(k) * sin(2*pi*k*n/N)))
+ *
+ * The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+ * conjugate-symmetric spectrum.
+ *
+ * The length N is the number in the name.
+ *
+ * @param src     Half spectrum in Perm format: N elements; only read.
+ * @param dst     N real samples x[0..N-1].
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgDFTInv_PermToR_2_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_3_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_4_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_5_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_6_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_7_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_8_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_9_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_10_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_11_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_12_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_13_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_14_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_15_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_16_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_17_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_18_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_19_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_20_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_21_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_22_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_23_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_24_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_25_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_26_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_27_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_28_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_29_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_30_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_31_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_32_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_33_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_34_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_35_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_36_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_37_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_38_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_39_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_40_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_41_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_42_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_43_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_44_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_45_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_46_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_47_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_48_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_49_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_50_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_51_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_52_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_53_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_54_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_55_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_56_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_57_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_58_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_59_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_60_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_61_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_62_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_63_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_64_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_2_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_3_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_4_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_5_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_6_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_7_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_8_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_9_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_10_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_11_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_12_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_13_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_14_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_15_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_16_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_17_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_18_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_19_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_20_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_21_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_22_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_23_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_24_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_25_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_26_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_27_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_28_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_29_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_30_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_31_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_32_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_33_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_34_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_35_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_36_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_37_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_38_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_39_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_40_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_41_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_42_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_43_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_44_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_45_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_46_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_47_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_48_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_49_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_50_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_51_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_52_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_53_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_54_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_55_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_56_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_57_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_58_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_59_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_60_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_61_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_62_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_63_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgDFTInv_PermToR_64_64f(const double* src, double* dst, int32_t flag);
+/** @} */
+
+/**
+ * @name Inverse real DFT from Perm, general
+ *
+ *     x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
+ *                                                                   - I(k) * sin(2*pi*k*n/N)))
+ *
+ * The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
+ * conjugate-symmetric spectrum.
+ *
+ * @param src     Half spectrum in Perm format: N elements; only read.
+ * @param dst     N real samples x[0..N-1].
+ * @param length  N, for lengths known at run time only: any length that has a function of its own.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusSizeError if no function has this length, whatever the other arguments are;
+ *         else what the function of this length returns.
+ * @{
+ */
+int32_t haldgDFTInv_PermToR_32f(const float* src, float* dst, int32_t length, int32_t flag);
+int32_t haldgDFTInv_PermToR_64f(const double* src, double* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Walsh-Hadamard transform, fixed order
+ *
+ *     Y[k] = s * sum over n of (-1)^popcount(k & n) * x[n],   k, n = 0..N-1
+ *
+ * N is two to the power of the order, which is the number in the name. Outputs are in the natural
+ * (Hadamard) order of k. The transform is its own inverse: two calls with haldScaleBySqrtN give the
+ * input back, and so do one with haldScaleNone and one with a flag that divides by N.
+ *
+ * The results are those of sums and differences taken in place, first of neighbours x[n], x[n+1],
+ * then of elements 2, 4, .. N/2 apart, each rounded to the element type, and of one multiplication
+ * by s at the end.
+ *
+ * @param src     N elements x[0..N-1]; only read. Need not even be aligned to an element.
+ * @param dst     N elements Y[0..N-1]; likewise.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @param buffer  work area of as many bytes as haldgWHTGetBufferSize tells for the order and the
+ *         element type, at a multiple of 16 bytes, apart from src and dst. It needs no contents,
+ *         and nothing is kept in it. Orders 1 to 7 pass over this argument.
+ *         If it is null, orders 8 to 13 take the area from haldMalloc and give it back to haldFree
+ *         before they return. There is no status for a haldMalloc that fails: the call crashes.
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. Only if haldStatusOk is returned is dst written or
+ *         memory taken.
+ * @{
+ */
+int32_t haldgWHT_1_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_2_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_3_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_4_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_5_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_6_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_7_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_8_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_9_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_10_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_11_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_12_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_13_32f(const float* src, float* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_1_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_2_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_3_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_4_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_5_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_6_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_7_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_8_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_9_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_10_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_11_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_12_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_13_64f(const double* src, double* dst, int32_t flag, uint8_t* buffer);
+/** @} */
+
+/**
+ * @name Walsh-Hadamard transform, general
+ *
+ *     Y[k] = s * sum over n of (-1)^popcount(k & n) * x[n],   k, n = 0..N-1,   N = 2^order
+ *
+ * @param src     N elements x[0..N-1]; only read. Need not even be aligned to an element.
+ * @param dst     N elements Y[0..N-1]; likewise.
+ * @param order   1 to 13, for orders known at run time only.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @param buffer  as for the function of this order.
+ * @return haldStatusSizeError if no function has this order, whatever the other arguments are; else
+ *         what the function of this order returns.
+ * @{
+ */
+int32_t haldgWHT_32f(const float* src, float* dst, int32_t order, int32_t flag, uint8_t* buffer);
+int32_t haldgWHT_64f(const double* src, double* dst, int32_t order, int32_t flag, uint8_t* buffer);
+/** @} */
+
+/**
+ * @name Walsh-Hadamard transform, size of the work buffer
+ *
+ * Bytes that the buffer of a Walsh-Hadamard transform needs: 0 for orders 1 to 7.
+ *
+ * @param order   1 to 13.
+ * @param size    where to store the number of bytes.
+ * @return haldStatusNullPointer if size is null; else haldStatusSizeError if no function has this
+ *         order, and nothing is stored; else haldStatusOk.
+ * @{
+ */
+int32_t haldgWHTGetBufferSize_32f(int32_t order, uint32_t* size);
+int32_t haldgWHTGetBufferSize_64f(int32_t order, uint32_t* size);
 /** @} */
 
 /**

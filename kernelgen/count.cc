@@ -28,4 +28,46 @@ Counts count(const Graph& graph) {
   return total;
 }
 
+Tally tally(const Program& program) {
+  Tally total;
+  std::vector<int> depth(program.code.size(), 0);
+  for (std::size_t i = 0; i < program.code.size(); ++i) {
+    const Instruction& in = program.code[i];
+    const bool wide = in.wide || program.type == FloatType::f64;
+    Tally::Operations& operations = wide ? total.in64 : total.in32;
+    int arithmetic = 1;
+    switch (in.op) {
+      case Op::add:
+      case Op::subtract:
+        ++operations.additions;
+        break;
+      case Op::negate:
+        ++operations.negations;
+        break;
+      case Op::multiply:
+        ++operations.products;
+        break;
+      case Op::scale:
+        ++operations.scales;
+        break;
+      case Op::widen:
+        ++total.widenings;
+        arithmetic = 0;
+        break;
+      case Op::narrow:
+        ++total.narrowings;
+        arithmetic = 0;
+        break;
+      default:
+        arithmetic = 0;
+    }
+    for (const int operand : {in.a, in.b}) {
+      if (operand >= 0) depth[i] = std::max(depth[i], depth[static_cast<std::size_t>(operand)]);
+    }
+    depth[i] += arithmetic;
+    total.depth = std::max(total.depth, depth[i]);
+  }
+  return total;
+}
+
 }  // namespace haldgen::kernelgen

@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "kernelgen/wide.h"
+
 namespace haldgen::kernelgen {
 namespace {
 
@@ -16,10 +18,12 @@ std::string shortest(Float value) {
 
 class Printer {
  public:
-  explicit Printer(const Program& program) : program_(program) {}
+  Printer(const Program& program, const Subscripts& subscripts)
+      : program_(program), subscripts_(subscripts) {}
 
   std::string run() {
     if (!scalar() && program_.memory == Memory::arrays) define_scales();
+    if (scalar()) define_two();
     for (std::size_t i = 0; i < program_.code.size(); ++i) print(static_cast<int>(i));
     return std::move(text_);
   }
@@ -56,6 +60,24 @@ class Printer {
     }
   }
 
+  static bool is_doubling(const Instruction& in) {
+    return in.op == Op::multiply && in.constant[0] == 2.0;
+  }
+
+  // A compiler that knows the constant would make additions of doublings.
+  void define_two() {
+    for (const Instruction& in : program_.code) {
+      if (!is_doubling(in)) continue;
+      return line("const " + type_name(program_.type) + " two = scalar::opaque(" + constants(in) +
+                  ");");
+    }
+  }
+
+  static std::string element(const char* array, const std::string& subscript, int address) {
+    const std::string number = std::to_string(address);
+    return array + ("[" + (subscript.empty() ? number : subscript + "(" + number + ")") + "]");
+  }
+
   void define(int index, const std::string& expression) {
     const Instruction& in = program_.code[static_cast<std::size_t>(index)];
     const char* type = "V";
@@ -89,7 +111,7 @@ class Printer {
     }
     switch (in.op) {
       case Op::load:
-        return define(index, scalar() ? "src[" + std::to_string(in.address[0]) + "]"
+        return define(index, scalar() ? element("src", subscripts_.source, in.address[0])
                                       : "Access::load(" + at("src", in.address[0]) + ")");
       case Op::load_pair:
         return define(index, "lanes::load_pair(" + at("src", in.address[0]) + ", " +
@@ -105,7 +127,7 @@ class Printer {
       case Op::alternate:
         return define(index, "lanes::alternate(" + a + ", " + b + ")");
       case Op::multiply:
-        return define(index, constants(in) + " * " + a);
+        return define(index, (scalar() && is_doubling(in) ? "two" : constants(in)) + (" * " + a));
       case Op::product:
         return define(index, a + " * " + b);
       case Op::interleave_lower:
@@ -131,8 +153,9 @@ class Printer {
             index,
             (scalar() ? std::string("scale") : "s" + std::to_string(scale_mask(in))) + " * " + a);
       case Op::store:
-        return line(scalar() ? "dst[" + std::to_string(in.address[0]) + "] = " + a + ";"
-                             : "Access::store(" + at("dst", in.address[0]) + ", " + a + ");");
+        return line(scalar()
+                        ? element("dst", subscripts_.destination, in.address[0]) + " = " + a + ";"
+                        : "Access::store(" + at("dst", in.address[0]) + ", " + a + ");");
       case Op::store_pair:
         return line("lanes::store_pair(" + at("dst", in.address[0]) + ", " +
                     at("dst", in.address[1]) + ", " + a + ");");
@@ -144,6 +167,7 @@ class Printer {
   }
 
   const Program& program_;
+  const Subscripts& subscripts_;
   std::string text_;
 };
 
@@ -154,7 +178,37 @@ std::string literal(double value, FloatType type) {
   return shortest(value);
 }
 
-std::string emit_body(const Program& program) { return Printer(program).run(); }
+std::string type_name(FloatType type) { return type == FloatType::f32 ? "float" : "double"; }
+
+std::string suffix(FloatType type) { return type == FloatType::f32 ? "32f" : "64f"; }
+
+std::string describe(const Tally& t, FloatType type) {
+  const auto sum = [](int a, int b) { return std::to_string(a + b); };
+  std::string text = "//   " + sum(t.in32.additions, t.in64.additions) + " additions, " +
+                     sum(t.in32.negations, t.in64.negations) + " negations, " +
+                     sum(t.in32.products, t.in64.products) +
+                     " multiplications and the scale, depth " + std::to_string(t.depth) + "\n";
+  if (type == FloatType::f64) return text;
+  return text + "//   in 64 bits: " + sum(t.in64.additions, t.in64.negations) + " additions, " +
+         sum(t.in64.products, t.in64.scales) + " multiplications; " + std::to_string(t.widenings) +
+         " widenings, " + std::to_string(t.narrowings) + " narrowings\n";
+}
+
+std::string scale_members(int length, Divides divides, FloatType type) {
+  const Wide n(length);
+  const auto member = [&](const char* name, Wide factor) {
+    const double rounded = type == FloatType::f32 ? double{to_float(factor)} : to_double(factor);
+    return std::string("  static constexpr Float ") + name + " = " + literal(rounded, type) + ";\n";
+  };
+  const Wide by_length = Wide(1.0) / n;
+  return member("kFwdByN", divides == Divides::inverse ? Wide(1.0) : by_length) +
+         member("kInvByN", divides == Divides::forward ? Wide(1.0) : by_length) +
+         member("kBySqrtN", Wide(1.0) / sqrt(n));
+}
+
+std::string emit_body(const Program& program, const Subscripts& subscripts) {
+  return Printer(program, subscripts).run();
+}
 
 bool has_whole_vector_access(const Program& program) {
   if (program.lanes == 1) return false;

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "kernelgen/count.h"
 #include "kernelgen/program.h"
 
 namespace haldgen::kernelgen {
@@ -10,10 +11,32 @@ namespace haldgen::kernelgen {
 /// Statements of a function body over `src`, `dst` (pointers to floats) and `scale`, one per
 /// instruction; programs over slots call `io` instead. Vector programs speak the vocabulary of
 /// lanes.h and touch memory through a type `Access`; scalar programs are plain expressions.
-std::string emit_body(const Program& program);
+///
+/// Scalar programs may reach source or destination through a function of the address, such as
+/// `Format::at`: the name of that function, or nothing.
+struct Subscripts {
+  std::string source;
+  std::string destination;
+};
+std::string emit_body(const Program& program, const Subscripts& subscripts = {});
 
 /// Whether memory is touched in a way that an aligned and an unaligned path do differently.
 bool has_whole_vector_access(const Program& program);
+
+/// "float" or "double".
+std::string type_name(FloatType type);
+
+/// Suffix of the names of functions on real arrays: "32f" or "64f".
+std::string suffix(FloatType type);
+
+/// What a scalar program executes, as the head comment of its source says it.
+std::string describe(const Tally& tally, FloatType type);
+
+/// Which of the flags for the two directions divides by the length.
+enum class Divides { forward, inverse, both };
+
+/// The members of a kernel's struct that hold the factors of its scaling flags.
+std::string scale_members(int length, Divides divides, FloatType type);
 
 /// The shortest decimal literal that reads back as the same number.
 std::string literal(double value, FloatType type);

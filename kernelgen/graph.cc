@@ -3,22 +3,28 @@
 namespace haldgen::kernelgen {
 
 Graph::Graph(Field field) : field_(field) {
-  nodes_.emplace_back();         // the zero
-  constants_.emplace_back(1.0);  // the absent constant
-  columns_.emplace_back();       // the kernel itself
+  nodes_.emplace_back();             // the zero
+  constants_.push_back({1.0, 1.0});  // the absent constant
+  columns_.emplace_back();           // the kernel itself
 }
 
-ConstantId Graph::intern(Wide magnitude) {
-  const double tolerance = 1e-15 * magnitude.hi;
-  for (auto it = constant_index_.lower_bound(magnitude.hi - tolerance);
-       it != constant_index_.end() && it->first <= magnitude.hi + tolerance; ++it) {
-    const Wide other = constants_[static_cast<std::size_t>(it->second)];
-    if (is_negligible((other - magnitude) / other)) return it->second;
+ConstantId Graph::intern(Constant constant) {
+  const double leading = constant.value.hi;
+  const double tolerance = 1e-15 * leading;
+  for (auto it = constant_index_.lower_bound(leading - tolerance);
+       it != constant_index_.end() && it->first <= leading + tolerance; ++it) {
+    const Constant& other = constants_[static_cast<std::size_t>(it->second)];
+    const bool same_value = is_negligible((other.value - constant.value) / other.value);
+    if (same_value && other.literal == constant.literal) return it->second;
   }
   const auto id = static_cast<ConstantId>(constants_.size());
-  constants_.push_back(magnitude);
-  constant_index_.emplace(magnitude.hi, id);  // several may share their leading digits
+  constants_.push_back(constant);
+  constant_index_.emplace(leading, id);  // several may share their leading digits
   return id;
+}
+
+ConstantId Graph::intern(const Graph& other, ConstantId id) {
+  return id == kNoConstant ? kNoConstant : intern({other.constant(id), other.literal(id)});
 }
 
 Value Graph::record(Value v) {
@@ -37,7 +43,10 @@ Value Graph::intern_statement(Statement statement) {
   for (Term& t : terms) t.turn = (t.turn - turn) & 3;
   const auto [it, fresh] = index_.try_emplace({std::move(terms), statement.filler, statement.apart},
                                               Value{static_cast<int>(nodes_.size()), turn});
-  if (fresh) nodes_.push_back(std::move(statement));
+  if (fresh) {
+    statement.rank = static_cast<int>(nodes_.size());
+    nodes_.push_back(std::move(statement));
+  }
   return {it->second.node, (turn - it->second.turn) & 3};
 }
 
@@ -46,6 +55,7 @@ Value Graph::input(int index) {
   if (fresh) {
     Statement load;
     load.input = index;
+    load.rank = static_cast<int>(nodes_.size());
     nodes_.push_back(load);
   }
   return {it->second, 0};

@@ -38,6 +38,11 @@ inline Value operator-(Value v) { return turned(v, 2); }
 using ConstantId = int;
 constexpr ConstantId kNoConstant = 0;
 
+struct Constant {
+  Wide value;      ///< what it stands for
+  double literal;  ///< what 64-bit code multiplies by: its nearest double, or a product of literals
+};
+
 struct Term {
   int turn = 0;
   ConstantId constant = kNoConstant;
@@ -61,7 +66,12 @@ struct Statement {
   /// Kept apart from an equal product: the two products of a full multiplication by an eighth root
   /// have constants of one magnitude and are two all the same.
   bool apart = false;
+  /// A product with the spectrum of a convolution, see `fold_products`.
+  bool spectral = false;
   Precision precision = Precision::element;
+  /// Where the node stood when its block was written: the order in which a transposed statement
+  /// takes its terms, so that a block transposed twice reads as it did before.
+  int rank = 0;
 };
 
 /// One column of a fan of equal blocks. Nodes are recorded per column in the order of their calls,
@@ -110,9 +120,13 @@ class Graph {
   std::span<const Statement> nodes() const { return nodes_; }
   const Statement& node(int index) const { return nodes_[static_cast<std::size_t>(index)]; }
   Statement& node(int index) { return nodes_[static_cast<std::size_t>(index)]; }
-  Wide constant(ConstantId id) const { return constants_[static_cast<std::size_t>(id)]; }
-  /// One id per mathematical value: values that agree to 24 digits are the same constant.
-  ConstantId intern(Wide magnitude);
+  Wide constant(ConstantId id) const { return constants_[static_cast<std::size_t>(id)].value; }
+  double literal(ConstantId id) const { return constants_[static_cast<std::size_t>(id)].literal; }
+  /// One id per mathematical value and literal: values that agree to 24 digits are the same.
+  ConstantId intern(Wide magnitude) { return intern({magnitude, to_double(magnitude)}); }
+  ConstantId intern(Constant constant);
+  /// The id in this graph of a constant of another one.
+  ConstantId intern(const Graph& other, ConstantId id);
 
   /// Opens column `index` of a fan of `count` equal blocks; closed by leave_column.
   void enter_column(int index, int count);
@@ -129,7 +143,7 @@ class Graph {
   Field field_;
   bool folding_ = false;
   std::vector<Statement> nodes_;
-  std::vector<Wide> constants_;
+  std::vector<Constant> constants_;
   std::multimap<double, ConstantId> constant_index_;
   std::map<std::tuple<std::vector<Term>, bool, bool>, Value> index_;  ///< node and its key's turn
   std::map<int, int> inputs_;

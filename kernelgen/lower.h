@@ -22,8 +22,12 @@ Graph split_parts(const Graph& graph);
 /// of arithmetic with constants is one statement.
 Graph gather_statements(const Graph& graph);
 
-/// Marks the statements with constants as wide: 64-bit arithmetic, narrowed once.
-void widen_products(Graph& graph);
+/// What the scale of the call multiplies where an output is the 64-bit result of a wide statement
+/// and nothing else.
+enum class Scaled {
+  result,  ///< that result; it is narrowed after the scale and the sign
+  kept,    ///< the narrowed result
+};
 
 /// What a lane-parallel program takes from memory besides its sequences.
 struct LaneInputs {
@@ -41,6 +45,6 @@ struct LaneInputs {
 Program lower_lanes(const Graph& graph, FloatType type, const LaneInputs& inputs);
 
 /// Scalar program of a real graph.
-Program lower_scalar(const Graph& graph, FloatType type);
+Program lower_scalar(const Graph& graph, FloatType type, Scaled scaled = Scaled::result);
 
 }  // namespace haldgen::kernelgen

@@ -1,46 +1,39 @@
-#include <algorithm>
-
 #include "kernelgen/element.h"
 #include "kernelgen/lower.h"
+#include "kernelgen/rewrite.h"
 
 namespace haldgen::kernelgen {
 namespace {
 
 std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
-std::vector<int> use_counts(const Graph& graph) {
-  std::vector<int> uses(graph.nodes().size(), 0);
-  for (const int node : live_nodes(graph)) {
-    for (const Term& t : graph.node(node).terms) ++uses[at(t.node)];
-  }
-  for (const Value v : graph.outputs()) ++uses[at(v.node)];
-  return uses;
-}
-
-bool has_constant(const Statement& s) {
-  return std::any_of(s.terms.begin(), s.terms.end(),
-                     [](const Term& t) { return t.constant != kNoConstant; });
-}
-
 class ScalarLowering {
  public:
-  ScalarLowering(const Graph& graph, FloatType type) : graph_(graph) {
+  ScalarLowering(const Graph& graph, FloatType type, Scaled scaled)
+      : graph_(graph),
+        scaled_(scaled),
+        uses_(graph),
+        raw_(graph.nodes().size(), -1),
+        narrow_(graph.nodes().size(), -1),
+        wide_(graph.nodes().size(), -1) {
     program_.type = type;
     program_.lanes = 1;
-    narrow_.assign(graph.nodes().size(), -1);
-    wide_.assign(graph.nodes().size(), -1);
   }
 
   Program run() {
     for (const int node : live_nodes(graph_)) make(node);
     for (std::size_t k = 0; k < graph_.outputs().size(); ++k) {
       const Value v = graph_.outputs()[k];
+      const bool wide = scaled_ == Scaled::result && raw_[at(v.node)] >= 0 &&
+                        uses_.by_statements[at(v.node)] == 0;
       Instruction scale;
       scale.op = Op::scale;
-      scale.a = operand(v.node, false);
+      scale.a = wide ? raw_[at(v.node)] : operand(v.node, false);
       scale.constant[0] = 1.0;
+      scale.wide = wide;
       int result = emit(scale);
-      if (v.turn == 2) result = emit(Op::negate, result);
+      if (v.turn == 2) result = emit(Op::negate, result, -1, wide);
+      if (wide) result = emit(Op::narrow, result, -1, true);
       Instruction store;
       store.op = Op::store;
       store.a = result;
@@ -66,11 +59,14 @@ class ScalarLowering {
 
   bool mixed() const { return program_.type == FloatType::f32; }
 
+  /// The value that is kept: of a wide statement, its narrowed result. Statements that need it in
+  /// 64 bits again widen that.
   int operand(int node, bool wide) {
-    if (!wide || !mixed()) return narrow_[at(node)];
-    int& result = wide_[at(node)];
-    if (result < 0) result = emit(Op::widen, narrow_[at(node)], -1, true);
-    return result;
+    if (wide && wide_[at(node)] >= 0) return wide_[at(node)];
+    int& narrow = narrow_[at(node)];
+    if (narrow < 0) narrow = emit(Op::narrow, raw_[at(node)], -1, true);
+    if (!wide || !mixed()) return narrow;
+    return wide_[at(node)] = emit(Op::widen, narrow, -1, true);
   }
 
   int product(const Term& t, bool wide, bool negative) {
@@ -79,7 +75,7 @@ class ScalarLowering {
     instruction.a = operand(t.node, wide);
     instruction.wide = wide && mixed();
     const Wide c = graph_.constant(t.constant);
-    const double rounded = mixed() && !wide ? double{to_float(c)} : to_double(c);
+    const double rounded = mixed() && !wide ? double{to_float(c)} : graph_.literal(t.constant);
     instruction.constant[0] = negative ? -rounded : rounded;
     return emit(instruction);
   }
@@ -114,15 +110,22 @@ class ScalarLowering {
         result = emit(minus == negative ? Op::add : Op::subtract, result, next, flag);
       }
     }
-    // Statements that need the value in 64 bits widen the narrowed one.
-    if (wide && mixed()) result = emit(Op::narrow, result, -1, true);
-    narrow_[at(node)] = result;
+    if (!wide || !mixed()) {
+      narrow_[at(node)] = result;
+    } else if (has_constant(s)) {
+      raw_[at(node)] = result;
+    } else {
+      wide_[at(node)] = result;
+    }
   }
 
   const Graph& graph_;
+  const Scaled scaled_;
+  const Uses uses_;
   Program program_;
-  std::vector<int> narrow_;  ///< the instruction that holds a node in its element type
-  std::vector<int> wide_;    ///< and in 64 bits, where it has been widened
+  std::vector<int> raw_;     ///< the instruction that holds the 64-bit result of a wide statement
+  std::vector<int> narrow_;  ///< the one that holds a node in its element type
+  std::vector<int> wide_;    ///< and in 64 bits, widened or never narrowed
 };
 
 }  // namespace
@@ -157,17 +160,16 @@ Graph split_parts(const Graph& graph) {
 }
 
 Graph gather_statements(const Graph& graph) {
-  const std::vector<int> uses = use_counts(graph);
-  Graph result(graph.field());
-  std::vector<Value> values(graph.nodes().size());
+  const Uses uses(graph);
+  const std::vector<int> live = live_nodes(graph);
   std::vector<std::vector<Term>> merged(graph.nodes().size());  // terms over old nodes
   std::vector<char> absorbed(graph.nodes().size(), 0);
-  for (const int node : live_nodes(graph)) {
+  for (const int node : live) {
     const Statement& s = graph.node(node);
     std::vector<Term>& terms = merged[at(node)];
     for (std::size_t i = 0; i < s.terms.size(); ++i) {
       const Term& t = s.terms[i];
-      const bool alone = uses[at(t.node)] == 1 && t.constant == kNoConstant;
+      const bool alone = uses.single(t.node) && t.constant == kNoConstant;
       const auto& inner = merged[at(t.node)];
       const bool is_product = inner.size() == 1 && inner[0].constant != kNoConstant;
       const bool is_leading_sum = i == 0 && has_constant({inner});
@@ -182,37 +184,18 @@ Graph gather_statements(const Graph& graph) {
       }
     }
   }
-  for (const int node : live_nodes(graph)) {
+  Rewrite rewrite(graph);
+  for (const int node : live) {
     if (absorbed[at(node)]) continue;
-    const Statement& s = graph.node(node);
-    if (s.input >= 0) {
-      values[at(node)] = result.input(s.input);
-      continue;
-    }
-    std::vector<Term> terms = merged[at(node)];
-    for (Term& t : terms) {
-      if (t.constant != kNoConstant) t.constant = result.intern(graph.constant(t.constant));
-      const Value v = values[at(t.node)];
-      t.node = v.node;
-      t.turn = (t.turn + v.turn) & 3;
-    }
-    values[at(node)] = result.statement(terms);
+    std::vector<Term> terms;
+    for (const Term& t : merged[at(node)]) terms.push_back(rewrite.carried(t));
+    rewrite.rebuild(node, std::move(terms));
   }
-  std::vector<Value> outputs;
-  for (const Value v : graph.outputs()) outputs.push_back(turned(values[at(v.node)], v.turn));
-  result.set_outputs(outputs);
-  return result;
+  return rewrite.finish();
 }
 
-void widen_products(Graph& graph) {
-  for (const int node : live_nodes(graph)) {
-    Statement& s = graph.node(node);
-    if (has_constant(s)) s.precision = Precision::wide;
-  }
-}
-
-Program lower_scalar(const Graph& graph, FloatType type) {
-  return ScalarLowering(graph, type).run();
+Program lower_scalar(const Graph& graph, FloatType type, Scaled scaled) {
+  return ScalarLowering(graph, type, scaled).run();
 }
 
 }  // namespace haldgen::kernelgen

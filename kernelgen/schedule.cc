@@ -13,7 +13,8 @@ std::size_t at(int i) { return static_cast<std::size_t>(i); }
 /// Who needs what. In place a store overwrites an input, so every load of an array's place comes
 /// before the store to it: an edge that orders but holds no register.
 struct Dependences {
-  explicit Dependences(const Program& program) : operands(program.code.size()), users(operands) {
+  Dependences(const Program& program, const Overlap& overlap)
+      : operands(program.code.size()), users(operands) {
     std::map<int, std::vector<int>> loads;  // by address
     for (std::size_t i = 0; i < program.code.size(); ++i) {
       const Instruction& in = program.code[i];
@@ -32,7 +33,10 @@ struct Dependences {
     }
     before.resize(program.code.size());
     for (const auto& [store, address] : stores_) {
-      for (const int load : loads[address]) before[at(store)].push_back(load);
+      for (const auto& [from, all] : loads) {
+        if (!overlap(from, address)) continue;
+        before[at(store)].insert(before[at(store)].end(), all.begin(), all.end());
+      }
     }
   }
 
@@ -320,8 +324,8 @@ Order order_named(std::string_view name) {
 
 std::string_view name_of(Order order) { return kNames[static_cast<std::size_t>(order)]; }
 
-Program scheduled(const Program& program, Order order, int cap) {
-  const Dependences dependences(program);
+Program scheduled(const Program& program, Order order, int cap, const Overlap& overlap) {
+  const Dependences dependences(program, overlap);
   std::vector<int> natural(program.code.size());
   for (std::size_t i = 0; i < natural.size(); ++i) natural[i] = static_cast<int>(i);
   if (order == Order::program) {

@@ -2,6 +2,7 @@
 // the orders differ in how many values are live at once, and in how soon long chains are begun.
 #pragma once
 
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -19,8 +20,13 @@ enum class Order {
 Order order_named(std::string_view name);
 std::string_view name_of(Order order);
 
+/// Whether a load from one address and a store to another touch the same place when a kernel works
+/// in place. By default they do when the addresses are equal.
+using Overlap = std::function<bool(int load, int store)>;
+
 /// `cap` is the number of live values that list schedules keep to where they can.
-Program scheduled(const Program& program, Order order, int cap);
+Program scheduled(const Program& program, Order order, int cap,
+                  const Overlap& overlap = std::equal_to<int>());
 
 /// Values stored to and reloaded from the stack by an ideal register allocator with `registers`
 /// registers: a yardstick of orders, not what a compiler does.

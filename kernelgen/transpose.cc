@@ -1,5 +1,7 @@
 #include "kernelgen/transpose.h"
 
+#include <algorithm>
+
 namespace haldgen::kernelgen {
 
 std::vector<Value> transpose_into(Graph& into, const Graph& forward, std::span<const Value> fed,
@@ -28,6 +30,42 @@ std::vector<Value> transpose_into(Graph& into, const Graph& forward, std::span<c
           t.constant == kNoConstant ? total : into.multiply(forward.constant(t.constant), total);
       contribute(t.node, turned(v, t.turn));
     }
+  }
+  return result;
+}
+
+std::vector<Value> transpose_statements_into(Graph& into, const Graph& forward,
+                                             std::span<const Value> fed, int inputs) {
+  struct Contribution {
+    int rank;
+    Term term;
+  };
+  std::vector<std::vector<Contribution>> contributions(forward.nodes().size());
+  const auto contribute = [&](const Term& edge, int rank, Value v) {
+    if (edge.node == kZeroNode || is_zero(v)) return;
+    const ConstantId constant = into.intern(forward, edge.constant);
+    contributions[static_cast<std::size_t>(edge.node)].push_back(
+        {rank, {(v.turn + edge.turn) & 3, constant, v.node}});
+  };
+  for (std::size_t i = 0; i < fed.size(); ++i) {
+    const Value out = forward.outputs()[i];
+    contribute({out.turn, kNoConstant, out.node}, -1, fed[i]);
+  }
+  const int first_rank = static_cast<int>(into.nodes().size());
+  std::vector<Value> result(static_cast<std::size_t>(inputs));
+  for (int node = static_cast<int>(forward.nodes().size()) - 1; node > 0; --node) {
+    auto& parts = contributions[static_cast<std::size_t>(node)];
+    if (parts.empty()) continue;
+    std::stable_sort(parts.begin(), parts.end(),
+                     [](const auto& a, const auto& b) { return a.rank < b.rank; });
+    std::vector<Term> terms;
+    for (const Contribution& part : parts) terms.push_back(part.term);
+    const std::size_t before = into.nodes().size();
+    const Value total = into.statement(std::move(terms));
+    const Statement& statement = forward.node(node);
+    if (into.nodes().size() > before) into.node(total.node).rank = first_rank + statement.rank;
+    if (statement.input >= 0) result[static_cast<std::size_t>(statement.input)] = total;
+    for (const Term& t : statement.terms) contribute(t, statement.rank, total);
   }
   return result;
 }

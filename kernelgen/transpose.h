@@ -16,4 +16,9 @@ namespace haldgen::kernelgen {
 std::vector<Value> transpose_into(Graph& into, const Graph& forward, std::span<const Value> fed,
                                   int inputs);
 
+/// The same, keeping statements whole: what flows back into a node is one statement, whose terms
+/// stand in the order in which the users of the node were written.
+std::vector<Value> transpose_statements_into(Graph& into, const Graph& forward,
+                                             std::span<const Value> fed, int inputs);
+
 }  // namespace haldgen::kernelgen

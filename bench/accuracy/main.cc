@@ -1,9 +1,10 @@
-// haldgen_accuracy: rounding errors of the complex kernels of the built library, measured against
-// the definition of the transform in double-double arithmetic, as Markdown tables. Kernels, inputs
+// haldgen_accuracy: rounding errors of the kernels of the built library, measured against the
+// definition of the transform in double-double arithmetic, as Markdown tables. Kernels, inputs
 // and reference give the same bits everywhere, so the tables are the same on every machine.
 #include <dlfcn.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -45,27 +46,40 @@ void* library() {
   return handle;
 }
 
-template <class Float, class Complex>
+/// The families that are measured: the words of a transform and of its inverse, and how the
+/// tables of their element types are headed.
+struct Family {
+  std::string_view name;
+  std::string_view forward_word;
+  std::string_view inverse_word;  ///< empty for none
+  std::array<frame::Element, 2> elements;
+};
+
+constexpr Family kFamilies[] = {
+    {"complex", "DFTFwd_CToC", "DFTInv_CToC", {frame::Element::c32, frame::Element::c64}},
+    {"real", "DFTFwd_RToCCS", "DFTInv_CCSToR", {frame::Element::f32, frame::Element::f64}},
+};
+
+template <class Float>
 Kernel<Float> kernel(const frame::Export& entry) {
-  using Function = std::int32_t(const Complex*, Complex*, std::int32_t);
+  using Function = std::int32_t(const void*, void*, std::int32_t);
   auto* const function = reinterpret_cast<Function*>(dlsym(library(), entry.name.c_str()));
   if (function == nullptr) throw std::runtime_error("the library has no " + entry.name);
   return [function, name = entry.name](const std::vector<Float>& src, std::vector<Float>& dst) {
-    const auto status = function(reinterpret_cast<const Complex*>(src.data()),
-                                 reinterpret_cast<Complex*>(dst.data()), haldScaleNone);
+    const auto status = function(src.data(), dst.data(), haldScaleNone);
     if (status != haldStatusOk) throw std::runtime_error(name + " refuses a valid call");
   };
 }
 
-template <class Float, class Complex>
-std::map<int, Pair<Float>> complex_kernels(frame::Element element) {
+template <class Float>
+std::map<int, Pair<Float>> kernels(const Family& family, frame::Element element) {
   std::map<int, Pair<Float>> pairs;
   for (const frame::Export& entry : frame::live_exports()) {
     if (entry.element != element || entry.size == 0) continue;
-    if (entry.family->word == "DFTFwd_CToC") {
-      pairs[entry.size].forward = kernel<Float, Complex>(entry);
-    } else if (entry.family->word == "DFTInv_CToC") {
-      pairs[entry.size].inverse = kernel<Float, Complex>(entry);
+    if (entry.family->word == family.forward_word) {
+      pairs[entry.size].forward = kernel<Float>(entry);
+    } else if (entry.family->word == family.inverse_word) {
+      pairs[entry.size].inverse = kernel<Float>(entry);
     }
   }
   return pairs;
@@ -95,14 +109,52 @@ class Random {
   std::uint64_t state_;
 };
 
-/// The forward transform as it is defined.
-std::vector<WideComplex> definition(const std::vector<WideComplex>& x,
-                                    const std::vector<WideComplex>& roots) {
-  std::vector<WideComplex> y(x.size());
-  for (std::size_t k = 0; k < x.size(); ++k) {
-    for (std::size_t n = 0; n < x.size(); ++n) y[k] = y[k] + roots[n * k % x.size()] * x[n];
+using Elements = std::vector<WideComplex>;
+
+/// sum over n of x[n] * root^(+-k n) for k below `bins`.
+Elements dft(const Elements& x, bool inverse, std::size_t bins) {
+  const std::size_t size = x.size();
+  Elements roots;
+  for (std::size_t k = 0; k < size; ++k) {
+    const auto power = static_cast<std::int64_t>(k);
+    roots.push_back(kernelgen::root(static_cast<std::int64_t>(size), inverse ? -power : power));
+  }
+  Elements y(bins);
+  for (std::size_t k = 0; k < bins; ++k) {
+    for (std::size_t n = 0; n < size; ++n) y[k] = y[k] + roots[n * k % size] * x[n];
   }
   return y;
+}
+
+/// All bins from those of 0 to half the length, of real samples; the imaginary parts of the real
+/// ones do not count.
+Elements whole_spectrum(const Elements& half, std::size_t length) {
+  Elements bins(length);
+  for (std::size_t k = 0; k < half.size(); ++k) {
+    const bool real = k == 0 || 2 * k == length;
+    bins[k] = real ? WideComplex{half[k].re, 0.0} : half[k];
+    if (!real) bins[length - k] = conj(half[k]);
+  }
+  return bins;
+}
+
+/// How the floats of a family are elements, and what its transforms are.
+struct Definition {
+  std::size_t source_floats;
+  std::size_t source_parts;  ///< floats of an element
+  std::size_t result_floats;
+  std::size_t result_parts;
+  std::function<Elements(const Elements&)> transform;
+};
+
+Definition definition(std::string_view family, int length, bool inverse) {
+  const auto n = static_cast<std::size_t>(length);
+  if (family == "complex") {
+    return {2 * n, 2, 2 * n, 2, [=](const Elements& x) { return dft(x, inverse, n); }};
+  }
+  const std::size_t bins = n / 2 + 1;
+  if (!inverse) return {n, 1, 2 * bins, 2, [=](const Elements& x) { return dft(x, false, bins); }};
+  return {2 * bins, 2, n, 1, [=](const Elements& y) { return dft(whole_spectrum(y, n), true, n); }};
 }
 
 double square(WideComplex a) { return a.re.hi * a.re.hi + a.im.hi * a.im.hi; }
@@ -116,11 +168,11 @@ struct Errors {
   double largest = 0;
 
   template <class Float>
-  void add_call(const std::vector<Float>& computed, const std::vector<WideComplex>& expected) {
+  void add_call(const std::vector<Float>& computed, std::size_t parts, const Elements& expected) {
     double sum = 0, norm = 0, most = 0;
     for (std::size_t k = 0; k < expected.size(); ++k) {
-      const Wide re = Wide(double{computed[2 * k]}) - expected[k].re;
-      const Wide im = Wide(double{computed[2 * k + 1]}) - expected[k].im;
+      const Wide re = Wide(double{computed[parts * k]}) - expected[k].re;
+      const Wide im = parts == 1 ? Wide(0.0) : Wide(double{computed[2 * k + 1]}) - expected[k].im;
       const double error = square({re, im});
       sum += error;
       norm += square(expected[k]);
@@ -163,36 +215,20 @@ Figures figures(const Errors& errors, int length) {
   return f;
 }
 
-struct PairErrors {
-  Errors forward;
-  Errors inverse;
-};
-
 template <class Float>
-PairErrors measure(int length, const Pair<Float>& pair) {
-  std::vector<WideComplex> roots;
-  for (int k = 0; k < length; ++k) roots.push_back(kernelgen::root(length, k));
+Errors measure(const Kernel<Float>& kernel, const Definition& definition, int length) {
   Random random(static_cast<std::uint64_t>(length));
-  std::vector<Float> src(2 * static_cast<std::size_t>(length));
-  std::vector<Float> dst(src.size());
-  PairErrors errors;
+  std::vector<Float> src(definition.source_floats);
+  std::vector<Float> dst(definition.result_floats);
+  Errors errors;
   for (int call = 0; call < kInputs; ++call) {
     for (Float& value : src) value = random.uniform<Float>();
-    std::vector<WideComplex> x;
-    for (std::size_t n = 0; n < src.size(); n += 2) {
-      x.push_back({double{src[n]}, double{src[n + 1]}});
+    Elements x;
+    for (std::size_t i = 0; i < src.size(); i += definition.source_parts) {
+      x.push_back({double{src[i]}, definition.source_parts == 1 ? 0.0 : double{src[i + 1]}});
     }
-    std::vector<WideComplex> y = definition(x, roots);
-    if (pair.forward) {
-      pair.forward(src, dst);
-      errors.forward.add_call(dst, y);
-    }
-    if (pair.inverse) {
-      // The inverse transform is the forward one with its outputs 1..N-1 reversed.
-      std::reverse(y.begin() + 1, y.end());
-      pair.inverse(src, dst);
-      errors.inverse.add_call(dst, y);
-    }
+    kernel(src, dst);
+    errors.add_call(dst, definition.result_parts, definition.transform(x));
   }
   return errors;
 }
@@ -205,47 +241,52 @@ std::string cells(const Figures& f) {
 }
 
 template <class Float>
-std::string cells(bool built, const Errors& errors, int length, Figures& most) {
-  if (!built) return " | | | | |";
+std::string cells(const Kernel<Float>& kernel, std::string_view family, int length, bool inverse,
+                  Figures& most) {
+  if (!kernel) return " | | | | |";
+  const Errors errors = measure(kernel, definition(family, length, inverse), length);
   const Figures f = figures<Float>(errors, length);
   most.raise_to(f);
   return cells(f);
 }
 
-template <class Float, class Complex>
-void print_table(std::string_view title, frame::Element element) {
+template <class Float>
+void print_table(const Family& family, frame::Element element) {
   constexpr std::string_view kColumns = "L2 | worst call | largest | L2/√ | worst/√ |";
   constexpr std::string_view kRule = "--:|--:|--:|--:|--:|";
-  std::cout << "### " << title << "\n\n| N | forward: " << kColumns << " inverse: " << kColumns
-            << "\n|--:|" << kRule << kRule << '\n';
+  std::cout << "### " << frame::suffix(element) << "\n\n| N | forward: " << kColumns
+            << " inverse: " << kColumns << "\n|--:|" << kRule << kRule << '\n';
   Figures most_forward, most_inverse;
-  for (const auto& [length, pair] : complex_kernels<Float, Complex>(element)) {
-    const PairErrors errors = measure(length, pair);
-    std::cout << "| " << length << " |"
-              << cells<Float>(static_cast<bool>(pair.forward), errors.forward, length, most_forward)
-              << cells<Float>(static_cast<bool>(pair.inverse), errors.inverse, length, most_inverse)
-              << '\n';
+  for (const auto& [length, pair] : kernels<Float>(family, element)) {
+    const std::string forward = cells(pair.forward, family.name, length, false, most_forward);
+    const std::string inverse = cells(pair.inverse, family.name, length, true, most_inverse);
+    std::cout << "| " << length << " |" << forward << inverse << '\n';
   }
   std::cout << "| most |" << cells(most_forward) << cells(most_inverse) << '\n';
 }
 
-void run() {
-  print_table<float, Cplx32>("32fc", frame::Element::c32);
-  std::cout << '\n';
-  print_table<double, Cplx64>("64fc", frame::Element::c64);
-  if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
+void run(std::string_view name) {
+  for (const Family& family : kFamilies) {
+    if (family.name != name) continue;
+    print_table<float>(family, family.elements[0]);
+    std::cout << '\n';
+    print_table<double>(family, family.elements[1]);
+    if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
+    return;
+  }
+  throw std::runtime_error("no such family");
 }
 
 }  // namespace
 }  // namespace haldgen::accuracy
 
-int main(int argc, char** /*argv*/) {
-  if (argc != 1) {
-    std::cerr << "usage: haldgen_accuracy\nPrints the tables of docs/accuracy.md.\n";
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::cerr << "usage: haldgen_accuracy complex|real\nPrints the tables of docs/accuracy.md.\n";
     return 2;
   }
   try {
-    haldgen::accuracy::run();
+    haldgen::accuracy::run(argv[1]);
     return 0;
   } catch (const std::exception& failure) {
     std::cerr << "haldgen_accuracy: " << failure.what() << '\n';

@@ -27,6 +27,7 @@ enum class Role {
   subject,      ///< the kernel that all others are compared with
   variant,      ///< another build of it
   peer,         ///< another library at its best
+  baseline,     ///< the transform written down plainly
   narrow_peer,  ///< another library held to the vector width of the subject
   calibration,  ///< what the machine needs for a call or an addition
 };

@@ -44,9 +44,11 @@ OperationCounts OperationCounts::read(std::istream& input) {
     }
     try {
       const std::optional<std::size_t> family = column(header, "family");
-      counts.additions_[{family ? cells.at(*family) : "", cells.at(required(header, "type")),
-                         std::stoi(cells.at(required(header, "length")))}] =
-          std::stod(cells.at(required(header, "add")));
+      const std::optional<std::size_t> convert = column(header, "convert");
+      counts.counts_[{family ? cells.at(*family) : "", cells.at(required(header, "type")),
+                      std::stoi(cells.at(required(header, "length")))}] = {
+          std::stod(cells.at(required(header, "add"))),
+          convert ? std::stod(cells.at(*convert)) : 0};
     } catch (const std::logic_error&) {  // a cell is missing or not a number
       throw std::runtime_error("operation counts: cannot read line " + std::to_string(number));
     }
@@ -54,11 +56,12 @@ OperationCounts OperationCounts::read(std::istream& input) {
   return counts;
 }
 
-std::optional<double> OperationCounts::additions(const std::string& family, const std::string& type,
-                                                 int length) const {
+std::optional<OperationCounts::Counts> OperationCounts::of(const std::string& family,
+                                                           const std::string& type,
+                                                           int length) const {
   for (const std::string& key : {family, std::string()}) {
-    const auto found = additions_.find({key, type, length});
-    if (found != additions_.end()) return found->second;
+    const auto found = counts_.find({key, type, length});
+    if (found != counts_.end()) return found->second;
   }
   return std::nullopt;
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <map>
 
 #include "bench/core/chart.h"
 
@@ -39,18 +40,35 @@ std::vector<Column> contestant_columns(const std::vector<Measurement>& measureme
   return columns;
 }
 
+bool is_per_instruction(const std::string& name) {
+  return name == vector_add_name || name == convert_name;
+}
+
 bool has_own_ratio(const Column& column) {
-  return column.role == Role::variant || column.role == Role::narrow_peer;
+  return column.role == Role::variant || column.role == Role::narrow_peer ||
+         column.role == Role::baseline || column.name == copy_name;
+}
+
+bool has_role(const std::vector<Column>& columns, Role role) {
+  return std::any_of(columns.begin(), columns.end(),
+                     [role](const Column& column) { return column.role == role; });
+}
+
+/// Traffic is of interest where there is a copy to hold it against.
+bool shows_traffic(const std::vector<Column>& columns) {
+  return std::any_of(columns.begin(), columns.end(),
+                     [](const Column& column) { return column.name == copy_name; });
 }
 
 std::vector<std::string> header(const std::vector<Column>& columns) {
   std::vector<std::string> names = {"family", "type", "length"};
   for (const Column& column : columns) names.push_back(column.name);
-  names.insert(names.end(), {"best_peer", "/best"});
+  if (has_role(columns, Role::peer)) names.insert(names.end(), {"best_peer", "/best"});
   for (const Column& column : columns) {
     if (has_own_ratio(column)) names.push_back("/" + column.name);
   }
   names.insert(names.end(), {"bound", "/bound"});
+  if (shows_traffic(columns)) names.push_back("GB/s");
   return names;
 }
 
@@ -61,11 +79,13 @@ std::vector<std::string> row(const Figures& figures, const std::vector<Column>& 
                                     std::to_string(measurement.length)};
   for (const Column& column : columns) {
     // The time of one addition is a fraction of a clock cycle.
-    const int decimals = (column.name == vector_add_name ? 3 : 2) + extra_decimals;
+    const int decimals = (is_per_instruction(column.name) ? 3 : 2) + extra_decimals;
     cells.push_back(cell(figures.time(column.name), decimals));
   }
-  cells.push_back(figures.best_peer.empty() ? "-" : figures.best_peer);
-  cells.push_back(cell(figures.best_ratio, 3 + extra_decimals));
+  if (has_role(columns, Role::peer)) {
+    cells.push_back(figures.best_peer.empty() ? "-" : figures.best_peer);
+    cells.push_back(cell(figures.best_ratio, 3 + extra_decimals));
+  }
   for (const Column& column : columns) {
     if (has_own_ratio(column)) {
       cells.push_back(cell(figures.ratio_to(column.name), 3 + extra_decimals));
@@ -73,18 +93,24 @@ std::vector<std::string> row(const Figures& figures, const std::vector<Column>& 
   }
   cells.push_back(cell(figures.bound, 2 + extra_decimals));
   cells.push_back(cell(figures.bound_ratio, 3 + extra_decimals));
+  if (shows_traffic(columns)) cells.push_back(cell(figures.traffic, 1 + extra_decimals));
   return cells;
 }
 
 /// A set of lengths that the summary looks at.
 struct Group {
   const char* name;
+  bool of_orders;
   bool (*contains)(int length);
 };
 
 constexpr std::array groups = {
-    Group{"8,16,32,64", [](int n) { return n == 8 || n == 16 || n == 32 || n == 64; }},
-    Group{"6..64", [](int n) { return 6 <= n && n <= 64; }},
+    Group{"8,16,32,64", false, [](int n) { return n == 8 || n == 16 || n == 32 || n == 64; }},
+    Group{"6..64", false, [](int n) { return 6 <= n && n <= 64; }},
+    Group{"2..64", false, [](int n) { return 2 <= n && n <= 64; }},
+    Group{"orders 1..7", true, [](int order) { return order <= 7; }},
+    Group{"orders 8..13", true, [](int order) { return order >= 8; }},
+    Group{"all orders", true, [](int) { return true; }},
 };
 
 using Ratio = std::function<std::optional<double>(const Figures&)>;
@@ -146,10 +172,13 @@ Figures::Figures(const Measurement& source, Statistic which)
   best_ratio = quotient(subject, best);
   const std::optional<double> call = time(null_call_name);
   const std::optional<double> addition = time(vector_add_name);
-  if (source.vector_additions && call && addition) {
-    bound = *call + *source.vector_additions * *addition;
+  const std::optional<double> conversion =
+      source.conversions == 0 ? std::optional<double>(0) : time(convert_name);
+  if (source.vector_additions && call && addition && conversion) {
+    bound = *call + *source.vector_additions * *addition + source.conversions * *conversion;
   }
   bound_ratio = quotient(subject, bound);
+  if (source.bytes != 0 && subject) traffic = static_cast<double>(source.bytes) / *subject;
 }
 
 std::optional<double> Figures::time(const std::string& contestant) const {
@@ -163,9 +192,17 @@ std::optional<double> Figures::ratio_to(const std::string& contestant) const {
   return quotient(subject, time(contestant));
 }
 
+std::vector<std::vector<Measurement>> split_by_size(const std::vector<Measurement>& measurements) {
+  std::vector<std::vector<Measurement>> parts(2);
+  for (const Measurement& m : measurements) parts[m.sized_by_order ? 1 : 0].push_back(m);
+  std::erase_if(parts, [](const auto& part) { return part.empty(); });
+  return parts;
+}
+
 Table figures_table(const std::vector<Measurement>& measurements, Mode mode, Statistic statistic) {
   const std::vector<Column> columns = contestant_columns(measurements);
   Table table{header(columns), {}};
+  if (!measurements.empty() && measurements.front().sized_by_order) table.header[2] = "order";
   for (const Figures& figures :
        select(measurements, statistic, [&](const Measurement& m) { return m.mode == mode; })) {
     table.rows.push_back(row(figures, columns, 0));
@@ -191,9 +228,12 @@ Table long_table(const std::vector<Measurement>& measurements) {
 }
 
 Table summary_table(const std::vector<Measurement>& measurements) {
-  std::vector<std::pair<std::string, Ratio>> ratios = {
-      {"/best", [](const Figures& f) { return f.best_ratio; }}};
-  for (const Column& column : contestant_columns(measurements)) {
+  const std::vector<Column> columns = contestant_columns(measurements);
+  std::vector<std::pair<std::string, Ratio>> ratios;
+  if (has_role(columns, Role::peer)) {
+    ratios.emplace_back("/best", [](const Figures& f) { return f.best_ratio; });
+  }
+  for (const Column& column : columns) {
     if (!has_own_ratio(column)) continue;
     ratios.emplace_back("/" + column.name,
                         [name = column.name](const Figures& f) { return f.ratio_to(name); });
@@ -210,8 +250,8 @@ Table summary_table(const std::vector<Measurement>& measurements) {
   const auto add_row = [&](Mode mode, Statistic statistic, const std::string& family,
                            const Group& group, const std::string& type) {
     const std::vector<Figures> members = select(measurements, statistic, [&](const Measurement& m) {
-      return m.mode == mode && m.family == family && group.contains(m.length) &&
-             (type == "all" || m.type == type);
+      return m.mode == mode && m.family == family && m.sized_by_order == group.of_orders &&
+             group.contains(m.length) && (type == "all" || m.type == type);
     });
     if (members.empty()) return;
     std::vector<std::string> cells = {
@@ -241,7 +281,7 @@ void write_picture(std::ostream& out, const std::vector<Measurement>& measuremen
   constexpr std::array colours = {"#0b6fa4", "#c2410c", "#3f7d20", "#7c3aed"};
   Chart chart{family + ", " + std::string(name(mode)) +
                   " buffers: median time over that of the peer (below 1 is faster than it)",
-              "length",
+              "length or order",
               "ratio",
               1.0,
               {}};
@@ -249,6 +289,7 @@ void write_picture(std::ostream& out, const std::vector<Measurement>& measuremen
   for (const std::string& type : distinct(measurements, &Measurement::type)) {
     Line best{type + " / best peer", colours[colour], false, {}};
     Line narrow{type + " / peer held to 128 bits", colours[colour], true, {}};
+    std::map<std::string, Line> baselines;
     colour = (colour + 1) % colours.size();
     for (const Figures& figures :
          select(measurements, Statistic::median, [&](const Measurement& m) {
@@ -257,10 +298,17 @@ void write_picture(std::ostream& out, const std::vector<Measurement>& measuremen
       const double length = figures.measurement->length;
       if (figures.best_ratio) best.points.push_back({length, *figures.best_ratio});
       for (const Series& series : figures.measurement->series) {
-        if (series.role != Role::narrow_peer || !figures.subject) continue;
-        narrow.points.push_back({length, *figures.ratio_to(series.name)});
+        if (!figures.subject) continue;
+        const Point point{length, *figures.ratio_to(series.name)};
+        if (series.role == Role::narrow_peer) narrow.points.push_back(point);
+        if (series.role == Role::baseline) {
+          const bool dashed = !baselines.empty() && !baselines.contains(series.name);
+          const Line line{type + " / " + series.name, best.colour, dashed, {}};
+          baselines.emplace(series.name, line).first->second.points.push_back(point);
+        }
       }
     }
+    for (auto& [name, line] : baselines) chart.lines.push_back(std::move(line));
     chart.lines.push_back(std::move(best));
     chart.lines.push_back(std::move(narrow));
   }

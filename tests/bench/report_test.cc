@@ -56,6 +56,14 @@ TEST(Figures, BoundIsACallAndTheAdditions) {
   EXPECT_EQ(figures.bound_ratio, 2);
 }
 
+TEST(Figures, ConversionsBelongToTheBound) {
+  Measurement source = measurement("32f", 8, 54, 20, 10);
+  source.conversions = 10;
+  EXPECT_EQ(Figures(source, Statistic::median).bound, std::nullopt);
+  source.series.push_back({convert_name, Role::calibration, {0.5}});
+  EXPECT_EQ(Figures(source, Statistic::median).bound, 2 + 100 * 0.25 + 10 * 0.5);
+}
+
 TEST(Figures, NoBoundWithoutCounts) {
   Measurement source = measurement("64fc", 8, 54, 20, 10);
   source.vector_additions.reset();
@@ -98,12 +106,12 @@ TEST(LongTable, HasARowPerStatistic) {
 }
 
 TEST(Summary, MeansAndWorstPerTypeAndTogether) {
-  // Length 4 is in no group, 12 only in the wide one.
+  // Length 4 is in the widest group only, 12 not in the first one.
   const std::vector<Measurement> sources = {
       measurement("32fc", 4, 900, 1, 1), measurement("32fc", 8, 40, 20, 10),
       measurement("32fc", 12, 160, 20, 10), measurement("64fc", 64, 10, 20, 10)};
   const Table table = summary_table(sources);
-  ASSERT_EQ(table.rows.size(), 12U);
+  ASSERT_EQ(table.rows.size(), 18U);
   EXPECT_EQ(at(table, 0, "lengths"), "8,16,32,64");
   EXPECT_EQ(at(table, 0, "type"), "32fc");
   EXPECT_EQ(at(table, 0, "kernels"), "1");
@@ -116,6 +124,63 @@ TEST(Summary, MeansAndWorstPerTypeAndTogether) {
   EXPECT_EQ(at(table, 3, "/best"), "4.000");
   EXPECT_EQ(at(table, 5, "/best"), "2.000");
   EXPECT_EQ(at(table, 5, "worst /best"), "8.000 at 32fc/12");
+  EXPECT_EQ(at(table, 6, "lengths"), "2..64");
+  EXPECT_EQ(at(table, 6, "worst /best"), "900.000 at 32fc/4");
+}
+
+// A family named by order that meets plain loops and a copy instead of peers.
+Measurement by_order(const std::string& type, int order, double ours, double plain) {
+  return {Mode::hot,
+          "Orders",
+          type,
+          order,
+          40.0,
+          {{"haldgen", Role::subject, {ours}},
+           {"plain", Role::baseline, {plain}},
+           {"plain_fixed", Role::baseline, {plain / 2}},
+           {copy_name, Role::calibration, {5}},
+           {null_call_name, Role::calibration, {2}},
+           {vector_add_name, Role::calibration, {0.25}}},
+          true,
+          160};
+}
+
+TEST(Baselines, HaveRatiosOfTheirOwnAndAreNoPeers) {
+  const Measurement source = by_order("32f", 9, 10, 40);
+  const Figures figures(source, Statistic::median);
+  EXPECT_EQ(figures.best_ratio, std::nullopt);
+  EXPECT_EQ(figures.traffic, 16);
+  const Table table = figures_table({source}, Mode::hot, Statistic::median);
+  EXPECT_EQ(at(table, 0, "order"), "9");
+  EXPECT_EQ(at(table, 0, "/plain"), "0.250");
+  EXPECT_EQ(at(table, 0, "/plain_fixed"), "0.500");
+  EXPECT_EQ(at(table, 0, "/memcpy"), "2.000");
+  EXPECT_EQ(at(table, 0, "GB/s"), "16.0");
+  EXPECT_EQ(at(table, 0, "/best"), "no column /best");
+}
+
+TEST(Baselines, NoTrafficWhereThereIsNoCopy) {
+  const Table table =
+      figures_table({measurement("32fc", 8, 30, 20, 10)}, Mode::hot, Statistic::median);
+  EXPECT_EQ(at(table, 0, "GB/s"), "no column GB/s");
+  EXPECT_EQ(at(table, 0, "length"), "8");
+}
+
+TEST(Summary, OrdersHaveGroupsOfTheirOwn) {
+  const std::vector<Measurement> sources = {by_order("32f", 7, 10, 40), by_order("32f", 8, 10, 10),
+                                            measurement("32fc", 8, 30, 20, 10)};
+  const auto parts = split_by_size(sources);
+  ASSERT_EQ(parts.size(), 2U);
+  EXPECT_EQ(parts[0].size(), 1U);
+  const Table table = summary_table(parts[1]);
+  ASSERT_EQ(table.rows.size(), 6U);
+  EXPECT_EQ(at(table, 0, "lengths"), "orders 1..7");
+  EXPECT_EQ(at(table, 0, "/plain"), "0.250");
+  EXPECT_EQ(at(table, 1, "lengths"), "orders 8..13");
+  EXPECT_EQ(at(table, 1, "/plain"), "1.000");
+  EXPECT_EQ(at(table, 2, "lengths"), "all orders");
+  EXPECT_EQ(at(table, 2, "/plain"), "0.500");
+  EXPECT_EQ(at(table, 2, "worst /plain"), "1.000 at 32f/8");
 }
 
 TEST(Picture, HasAMarkerForEveryRatio) {

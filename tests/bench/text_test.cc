@@ -18,16 +18,17 @@ OperationCounts counts(const std::string& text) {
 
 TEST(OperationCounts, FindsColumnsByName) {
   const OperationCounts read = counts(
-      "# comment\nfamily\tlength\ttype\tadd\tmul\tdepth\n"
-      "DFTFwd_CToC\t8\t32fc\t52\t4\t4\nDFTInv_CToC\t8\t32fc\t53\t4\t4\n");
-  EXPECT_EQ(read.additions("DFTFwd_CToC", "32fc", 8), 52);
-  EXPECT_EQ(read.additions("DFTInv_CToC", "32fc", 8), 53);
-  EXPECT_EQ(read.additions("DFTFwd_CToC", "64fc", 8), std::nullopt);
-  EXPECT_EQ(read.additions("Hartley", "32fc", 8), std::nullopt);
+      "# comment\nfamily\tlength\ttype\tadd\tmul\tdepth\tconvert\n"
+      "DFTFwd_CToC\t8\t32fc\t52\t4\t4\t7\nDFTInv_CToC\t8\t32fc\t53\t4\t4\t0\n");
+  EXPECT_EQ(read.of("DFTFwd_CToC", "32fc", 8), (OperationCounts::Counts{52, 7}));
+  EXPECT_EQ(read.of("DFTInv_CToC", "32fc", 8), (OperationCounts::Counts{53, 0}));
+  EXPECT_EQ(read.of("DFTFwd_CToC", "64fc", 8), std::nullopt);
+  EXPECT_EQ(read.of("Hartley", "32fc", 8), std::nullopt);
 }
 
 TEST(OperationCounts, HoldForAllFamiliesWithoutThatColumn) {
-  EXPECT_EQ(counts("add\ttype\tlength\n52\t32fc\t8\n").additions("Any", "32fc", 8), 52);
+  EXPECT_EQ(counts("add\ttype\tlength\n52\t32fc\t8\n").of("Any", "32fc", 8),
+            (OperationCounts::Counts{52, 0}));
 }
 
 TEST(OperationCounts, RefusesDamagedTables) {

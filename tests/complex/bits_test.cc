@@ -7,7 +7,7 @@
 
 #include "dft_complex/kernel.h"
 #include "haldgen.h"
-#include "tests/complex/library.h"
+#include "tests/complex/live_kernels.h"
 #include "tests/kernelgen/direct.h"
 
 namespace haldgen::dft_complex {

@@ -44,12 +44,12 @@ TEST(Source, ScaleConstantsAreRoundedOnce) {
     const std::string source = kernel_source(n, type, tuning_of(n, type));
     EXPECT_NE(source.find(part), std::string::npos) << n << " " << part;
   };
-  expect_part(3, ElementType::c32, "kByLength = 0.33333334f;");
-  expect_part(3, ElementType::c32, "kByRoot = 0.57735026f;");
-  expect_part(5, ElementType::c32, "kByLength = 0.2f;");
-  expect_part(3, ElementType::c64, "kByLength = 0.3333333333333333;");
-  expect_part(3, ElementType::c64, "kByRoot = 0.5773502691896257;");
-  expect_part(64, ElementType::c64, "kByRoot = 0.125;");
+  expect_part(3, ElementType::c32, "kFwdByN = 0.33333334f;");
+  expect_part(3, ElementType::c32, "kBySqrtN = 0.57735026f;");
+  expect_part(5, ElementType::c32, "kFwdByN = 0.2f;");
+  expect_part(3, ElementType::c64, "kFwdByN = 0.3333333333333333;");
+  expect_part(3, ElementType::c64, "kBySqrtN = 0.5773502691896257;");
+  expect_part(64, ElementType::c64, "kBySqrtN = 0.125;");
 }
 
 }  // namespace

@@ -3,7 +3,9 @@
 
 #include <dlfcn.h>
 
+#include <cstddef>
 #include <stdexcept>
+#include <type_traits>
 
 namespace haldgen::test {
 namespace {
@@ -33,10 +35,26 @@ struct Shape {
   std::size_t dst_floats;
 };
 
+std::size_t spectrum_floats(std::string_view format, std::size_t samples) {
+  return format == "CCS" ? samples / 2 * 2 + 2 : samples;
+}
+
 Shape shape(const Family& family, int size) {
+  if (family.word == "WHT") {
+    const std::size_t points = std::size_t{1} << size;
+    return {1 << size, points, points};
+  }
   if (family.word == "DFTFwd_CToC" || family.word == "DFTInv_CToC") {
     const auto floats = 2 * static_cast<std::size_t>(size);
     return {size, floats, floats};
+  }
+  const auto samples = static_cast<std::size_t>(size);
+  if (const auto direction = family.word.find("_RTo"); direction != std::string_view::npos) {
+    return {size, samples, spectrum_floats(family.word.substr(direction + 4), samples)};
+  }
+  if (family.word.starts_with("DFTInv_") && family.word.ends_with("ToR")) {
+    const std::string_view format = family.word.substr(7, family.word.size() - 10);
+    return {size, spectrum_floats(format, samples), samples};
   }
   throw std::logic_error("the arrays of " + std::string(family.word) + " are not described");
 }
@@ -65,13 +83,8 @@ void add_fixed(const Export& entry, Live<Float>& all) {
        }});
 }
 
-template <class Float, class Array>
-void add_general(const Export& entry, Live<Float>& all) {
-  auto* function =
-      resolve<std::int32_t(const Array*, Array*, std::int32_t, std::int32_t)>(entry.name);
-  const auto call = [function](const Float* src, Float* dst, std::int32_t size, std::int32_t flag) {
-    return function(reinterpret_cast<const Array*>(src), reinterpret_cast<Array*>(dst), size, flag);
-  };
+template <class Float, class Call>
+void add_general_call(const Export& entry, const Call& call, Live<Float>& all) {
   all.general.push_back({entry.name, entry.family, call});
   for (int size = entry.family->sizes.first; size <= entry.family->sizes.last; ++size) {
     if (!entry.family->live.contains(size)) continue;
@@ -85,6 +98,48 @@ void add_general(const Export& entry, Live<Float>& all) {
   }
 }
 
+// A work area of the calling thread, 16-byte aligned, for any order.
+std::uint8_t* work_area() {
+  thread_local std::vector<std::max_align_t> area((std::size_t{1} << 17) /
+                                                  sizeof(std::max_align_t));
+  return reinterpret_cast<std::uint8_t*>(area.data());
+}
+
+// A buffered transform is called with a work area by its own name, and without one through its
+// general entry.
+template <class Float, class Array>
+void add_general(const Export& entry, Live<Float>& all) {
+  auto* function =
+      resolve<std::int32_t(const Array*, Array*, std::int32_t, std::int32_t)>(entry.name);
+  const auto call = [function](const Float* src, Float* dst, std::int32_t size, std::int32_t flag) {
+    return function(reinterpret_cast<const Array*>(src), reinterpret_cast<Array*>(dst), size, flag);
+  };
+  add_general_call(entry, call, all);
+}
+
+template <class Float>
+void add_buffered_general(const Export& entry, Live<Float>& all) {
+  auto* function =
+      resolve<std::int32_t(const Float*, Float*, std::int32_t, std::int32_t, std::uint8_t*)>(
+          entry.name);
+  const auto call = [function](const Float* src, Float* dst, std::int32_t size, std::int32_t flag) {
+    return function(src, dst, size, flag, nullptr);
+  };
+  add_general_call(entry, call, all);
+}
+
+template <class Float>
+void add_buffered_fixed(const Export& entry, Live<Float>& all) {
+  auto* function =
+      resolve<std::int32_t(const Float*, Float*, std::int32_t, std::uint8_t*)>(entry.name);
+  const Shape arrays = shape(*entry.family, entry.size);
+  all.fixed.push_back({entry.name, entry.family, entry.element, entry.size, arrays.points,
+                       arrays.src_floats, arrays.dst_floats,
+                       [function](const Float* src, Float* dst, std::int32_t flag) {
+                         return function(src, dst, flag, work_area());
+                       }});
+}
+
 template <class Array, class Float = typename FloatOf<Array>::Type>
 void add(const Export& entry, Live<Float>& all) {
   switch (entry.family->signature) {
@@ -92,9 +147,16 @@ void add(const Export& entry, Live<Float>& all) {
       return add_fixed<Float, Array>(entry, all);
     case Signature::sized_transform:
       return add_general<Float, Array>(entry, all);
+    case Signature::buffered_transform:
+      if constexpr (std::is_same_v<Array, Float>) return add_buffered_fixed<Float>(entry, all);
+      break;
+    case Signature::sized_buffered_transform:
+      if constexpr (std::is_same_v<Array, Float>) return add_buffered_general<Float>(entry, all);
+      break;
     default:
-      throw std::logic_error("no way to call " + entry.name);
+      break;
   }
+  throw std::logic_error("no way to call " + entry.name);
 }
 
 template <class Float, class Real, class Complex>

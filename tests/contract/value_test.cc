@@ -29,6 +29,7 @@ struct Error {
   }
   template <class Float>
   long double relative(const Transform<Float>& transform) const {
+    if (difference == 0) return 0;
     return std::sqrt(difference / exact) / std::numeric_limits<Float>::epsilon() /
            std::sqrt(std::log2(static_cast<long double>(transform.points)));
   }
@@ -36,8 +37,8 @@ struct Error {
 
 template <class Float>
 Error error(const Transform<Float>& transform, const std::vector<Float>& src) {
-  const std::vector<long double> exact =
-      definition(transform.family->word, std::vector<long double>(src.begin(), src.end()));
+  const std::vector<long double> exact = definition(
+      transform.family->word, transform.points, std::vector<long double>(src.begin(), src.end()));
   const std::vector<Float> computed = result(transform, src);
   Error sums;
   for (std::size_t i = 0; i < exact.size(); ++i) {

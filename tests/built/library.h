@@ -1,4 +1,4 @@
-// The built library's complex kernels, and memory to call them on.
+// The built library's fixed-size transforms, and memory to call them on.
 #pragma once
 
 #include <array>
@@ -10,28 +10,28 @@
 #include <string>
 #include <vector>
 
-#include "dft_complex/recipes.h"
+#include "frame/families.h"
 
-namespace haldgen::dft_complex::test {
+namespace haldgen::test {
 
 /// src, dst, flag; the pointers are to floats of the element's type.
 using KernelFunction = std::int32_t (*)(const void*, void*, std::int32_t);
 
-struct LiveKernel {
+struct BuiltKernel {
   std::string name;
+  const frame::Family* family;
+  frame::Element element;
   int length;
-  ElementType type;
-  bool inverse;
   KernelFunction function;
 };
 
-/// The fixed-size kernels that are built.
-const std::vector<LiveKernel>& live_kernels();
+/// Those that are built and take these arguments.
+const std::vector<BuiltKernel>& built_kernels();
 
 /// One of them; throws if it is not built.
-KernelFunction live_kernel(const std::string& name);
+KernelFunction built_kernel(const std::string& name);
 
-/// The parts of up to 64 elements, beginning `misalignment` bytes past a multiple of 64.
+/// Up to 128 floats, beginning `misalignment` bytes past a multiple of 64.
 template <class Float>
 class Floats {
  public:
@@ -75,4 +75,4 @@ std::vector<Float> random_floats(std::size_t count, unsigned seed) {
   return result;
 }
 
-}  // namespace haldgen::dft_complex::test
+}  // namespace haldgen::test

@@ -1,0 +1,20 @@
+// What every real kernel does around its arithmetic: the checks and their order, the scale. There
+// is one path for all addresses.
+#pragma once
+
+#include <cstdint>
+
+#include "dft_real/packing.h"
+#include "frame/checked.h"
+#include "kernelgen/scalar.h"
+
+namespace haldgen::dft_real {
+
+template <class Kernel, class Format>
+inline int32_t run(const typename Kernel::Float* src, typename Kernel::Float* dst, int32_t flag) {
+  return frame::checked<Kernel>(src, dst, flag, [=](typename Kernel::Float scale) {
+    Kernel::template transform<Format>(src, dst, scale);
+  });
+}
+
+}  // namespace haldgen::dft_real

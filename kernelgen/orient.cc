@@ -1,0 +1,100 @@
+#include "kernelgen/orient.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "kernelgen/rewrite.h"
+
+namespace haldgen::kernelgen {
+namespace {
+
+std::size_t at(int i) { return static_cast<std::size_t>(i); }
+
+bool is_minus(const Term& t) { return t.turn == 2; }
+
+bool is_difference(const Statement& s) {
+  return std::any_of(s.terms.begin(), s.terms.end(), is_minus) &&
+         !std::all_of(s.terms.begin(), s.terms.end(), is_minus);
+}
+
+/// The graph with some of its differences turned around; what uses them takes them with a minus.
+Graph turned_around(const Graph& graph, const std::vector<int>& differences) {
+  Rewrite rewrite(graph);
+  for (const int node : live_nodes(graph)) {
+    if (std::find(differences.begin(), differences.end(), node) == differences.end()) {
+      rewrite.copy(node);
+      continue;
+    }
+    std::vector<Term> terms;
+    for (const Term& t : graph.node(node).terms) terms.push_back(rewrite.carried(t));
+    for (Term& t : terms) t.turn = (t.turn + 2) & 3;
+    rewrite.rebuild(node, std::move(terms), 2);
+  }
+  return rewrite.finish();
+}
+
+/// The first output with the wrong sign, or -1.
+int wrong_output(const Graph& graph, const std::vector<bool>& negated) {
+  for (std::size_t k = 0; k < graph.outputs().size(); ++k) {
+    if ((graph.outputs()[k].turn == 2) != negated[k]) return static_cast<int>(k);
+  }
+  return -1;
+}
+
+}  // namespace
+
+Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated) {
+  Graph result = turned_around(graph, {});
+  // Differences behind outputs first, all at once; the loop is for what is left.
+  std::vector<int> behind;
+  for (std::size_t k = 0; k < negated.size(); ++k) {
+    const Value v = result.outputs()[k];
+    if ((v.turn == 2) != negated[k] && is_difference(result.node(v.node))) behind.push_back(v.node);
+  }
+  result = turned_around(result, behind);
+  for (std::size_t round = 0; round <= negated.size(); ++round) {
+    const int wrong = wrong_output(result, negated);
+    if (wrong < 0) return result;
+    const int node = result.outputs()[at(wrong)].node;
+    const Statement& s = result.node(node);
+    if (is_difference(s)) {
+      result = turned_around(result, {node});
+      continue;
+    }
+    // a + b becomes b - (-a), a difference, when a difference a is turned.
+    const auto inner = std::find_if(s.terms.begin(), s.terms.end(), [&](const Term& t) {
+      return is_difference(result.node(t.node));
+    });
+    if (inner == s.terms.end()) break;
+    result = turned_around(result, {inner->node});
+  }
+  throw std::logic_error("an output cannot be brought to its sign");
+}
+
+Graph order_terms(const Graph& graph) {
+  std::vector<int> depth(graph.nodes().size(), 0);
+  Rewrite rewrite(graph);
+  for (const int node : live_nodes(graph)) {
+    std::vector<Term> terms = graph.node(node).terms;
+    const auto reach = [&](const Term& t) {
+      return depth[at(t.node)] + (t.constant != kNoConstant ? 1 : 0);
+    };
+    std::stable_sort(terms.begin(), terms.end(),
+                     [&](const Term& a, const Term& b) { return reach(a) < reach(b); });
+    const auto positive = std::find_if_not(terms.begin(), terms.end(), is_minus);
+    if (positive != terms.end() && reach(*positive) == reach(terms.front())) {
+      std::rotate(terms.begin(), positive, positive + 1);
+    }
+    int chain = 0;
+    for (std::size_t i = 0; i < terms.size(); ++i) {
+      chain = i == 0 ? reach(terms[i]) : std::max(chain, reach(terms[i])) + 1;
+    }
+    depth[at(node)] = chain;
+    std::vector<Term> carried;
+    for (const Term& t : terms) carried.push_back(rewrite.carried(t));
+    rewrite.rebuild(node, std::move(carried));
+  }
+  return rewrite.finish();
+}
+
+}  // namespace haldgen::kernelgen

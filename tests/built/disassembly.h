@@ -1,0 +1,34 @@
+// The instructions of the built library's functions, read off its disassembly.
+#pragma once
+
+#include <initializer_list>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace haldgen::test {
+
+/// How often each mnemonic occurs in a function.
+class Mnemonics {
+ public:
+  void add(const std::string& mnemonic) { ++counts_[mnemonic]; }
+  int count(std::initializer_list<std::string_view> mnemonics) const;
+  /// Additions, subtractions, multiplications and conversions of more than one float at once.
+  int packed_arithmetic() const;
+
+ private:
+  std::map<std::string, int> counts_;
+};
+
+/// By symbol; of symbols at one address only one is there.
+const std::map<std::string, Mnemonics>& disassembly();
+
+/// Additions and so on by precision, as compiled.
+struct ScalarOperations {
+  int additions32, additions64, multiplications32, multiplications64, narrowings;
+  friend bool operator==(const ScalarOperations&, const ScalarOperations&) = default;
+};
+ScalarOperations scalar_operations(const Mnemonics& mnemonics);
+std::string text(const ScalarOperations& operations);
+
+}  // namespace haldgen::test
