@@ -20,6 +20,17 @@ std::string type_of(const frame::Export& function) {
   return std::string(frame::suffix(function.element));
 }
 
+/// The function itself, or a planned transform at each of its lengths.
+std::vector<frame::Export> measured_sizes(const frame::Export& function) {
+  if (function.family->signature != frame::Signature::planned_transform) return {function};
+  std::vector<frame::Export> sizes;
+  for (int length = 2; length <= 1 << 16; length *= 2) {
+    sizes.push_back(function);
+    sizes.back().size = length;
+  }
+  return sizes;
+}
+
 bool wanted(const Options& options, const frame::Export& function) {
   return (options.lengths.empty() || options.lengths.contains(function.size)) &&
          (options.types.empty() || options.types.contains(type_of(function)));
@@ -37,9 +48,11 @@ OperationCounts read_counts(const std::filesystem::path& path) {
 std::vector<Kernel> selected_kernels(const Options& options) {
   std::vector<Kernel> kernels;
   for (const frame::Export& function : frame::live_exports()) {
-    std::shared_ptr<const Problem> problem = problem_of(function);
-    if (!problem || !wanted(options, function)) continue;
-    kernels.push_back({function, std::move(problem)});
+    for (const frame::Export& sized : measured_sizes(function)) {
+      std::shared_ptr<const Problem> problem = problem_of(sized);
+      if (!problem || !wanted(options, sized)) continue;
+      kernels.push_back({sized, std::move(problem)});
+    }
   }
   std::sort(kernels.begin(), kernels.end(), [](const Kernel& a, const Kernel& b) {
     const auto key = [](const Kernel& kernel) {

@@ -47,6 +47,18 @@ Slice slice_of(BufferedKernel kernel, std::size_t buffer_bytes) {
   };
 }
 
+using Planned = std::int32_t (*)(const void* src, void* dst, Dct4State* state);
+using PlanInit = std::int32_t (*)(Dct4State** state, std::int32_t length);
+using PlanFree = std::int32_t (*)(Dct4State* state);
+
+Slice slice_of(Planned transform, const std::shared_ptr<Dct4State>& state) {
+  return [transform, state](const Walk& walk, std::int64_t calls) {
+    walk_calls(walk, calls, [transform, s = state.get()](const std::byte* src, std::byte* dst) {
+      transform(src, dst, s);
+    });
+  };
+}
+
 }  // namespace
 
 void KernelLibrary::Close::operator()(void* handle) const { dlclose(handle); }
@@ -67,7 +79,24 @@ std::optional<Contestant> KernelLibrary::contestant(const frame::Export& functio
     const std::size_t bytes = buffer_bytes(function);
     return Contestant{name, role, slice_of(reinterpret_cast<BufferedKernel>(address), bytes)};
   }
+  if (function.family->signature == frame::Signature::planned_transform) {
+    return Contestant{name, role, slice_of(reinterpret_cast<Planned>(address), state_of(function))};
+  }
   return Contestant{name, role, slice_of(reinterpret_cast<Kernel>(address))};
+}
+
+std::shared_ptr<Dct4State> KernelLibrary::state_of(const frame::Export& function) const {
+  const std::string stem = "haldg" + std::string(function.family->word);
+  const std::string suffix = "_" + std::string(frame::suffix(function.element));
+  const auto init =
+      reinterpret_cast<PlanInit>(dlsym(handle_.get(), (stem + "InitAlloc" + suffix).c_str()));
+  const auto release =
+      reinterpret_cast<PlanFree>(dlsym(handle_.get(), (stem + "Free" + suffix).c_str()));
+  Dct4State* state = nullptr;
+  if (init == nullptr || release == nullptr || init(&state, function.size) != haldStatusOk) {
+    throw std::runtime_error("no state for " + function.name);
+  }
+  return {state, release};
 }
 
 std::size_t KernelLibrary::buffer_bytes(const frame::Export& function) const {

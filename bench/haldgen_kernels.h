@@ -8,6 +8,7 @@
 
 #include "bench/core/contestant.h"
 #include "frame/families.h"
+#include "include/haldgen.h"
 
 namespace haldgen::bench {
 
@@ -17,7 +18,8 @@ class KernelLibrary {
   explicit KernelLibrary(const std::filesystem::path& path);
 
   /// A fixed-size function, called without scaling, as a contestant; none if this build does not
-  /// export it. A buffered one gets a work buffer. The library must outlive the contestant.
+  /// export it. A buffered one gets a work buffer, a planned one a state of its size. The library
+  /// must outlive the contestant.
   std::optional<Contestant> contestant(const frame::Export& function, const std::string& name,
                                        Role role) const;
 
@@ -25,6 +27,7 @@ class KernelLibrary {
   const std::filesystem::path& path() const { return path_; }
 
  private:
+  std::shared_ptr<Dct4State> state_of(const frame::Export& function) const;
   std::size_t buffer_bytes(const frame::Export& function) const;
 
   struct Close {

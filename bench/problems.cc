@@ -3,6 +3,7 @@
 
 #include "bench/calibration.h"
 #include "bench/complex_problem.h"
+#include "bench/dct4_problem.h"
 #include "bench/peers/peers.h"
 #include "bench/problem.h"
 #include "bench/real_problem.h"
@@ -55,6 +56,9 @@ std::shared_ptr<const Problem> problem_of(const frame::Export& function) {
   }
   if (function.family->word == "WHT") {
     return std::make_shared<WhtProblem>(function.element, function.size);
+  }
+  if (function.family->word == "DCT4") {
+    return std::make_shared<Dct4Problem>(function.element, function.size);
   }
   return nullptr;
 }

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "kernelgen/count.h"
+#include "dct4/size.h"
 #include "kernelgen/emit.h"
 #include "kernelgen/lower.h"
 
@@ -48,6 +48,22 @@ std::vector<Kernel> all_kernels() {
     for (const int radix : {2, 4, 8, 16, 32}) all.push_back({Part::inner_recombine, radix, type});
   }
   return all;
+}
+
+kernelgen::Counts times(int count, const kernelgen::Counts& c) {
+  return {count * c.additions, count * c.multiplications, c.depth};
+}
+
+kernelgen::Counts then(const kernelgen::Counts& a, const kernelgen::Counts& b) {
+  return {a.additions + b.additions, a.multiplications + b.multiplications, a.depth + b.depth};
+}
+
+kernelgen::Counts fold_counts(int length) {
+  if (FoldClass(length) != kPlannedFoldClass) return count(fold_graph(length));
+  const int radix = PickRadix(length / 2);
+  const int sub_length = length / radix;
+  return then(times(radix, fold_counts(sub_length)),
+              times(sub_length / 2, count(inner_recombine_graph(radix, length, 0))));
 }
 
 std::string_view word(Part part) {
@@ -172,6 +188,14 @@ Program kernel_program(const Kernel& kernel, const Ordering& ordering) {
     throw std::logic_error("two entries of a table are taken for one");
   }
   return scheduled(lower_lanes(graph, kernel.type, inputs), ordering.order, ordering.cap);
+}
+
+kernelgen::Counts transform_counts(int length) {
+  if (SizeClass(length) != kPlannedClass) return count(fixed_graph(length));
+  const int radix = PickRadix(length / 2);
+  const int fold_length = length / radix;
+  return then(times(radix, fold_counts(fold_length)),
+              times(fold_length / 2, count(recombine_graph(radix, length, 0))));
 }
 
 std::string kernel_source(const Kernel& kernel, const Ordering& ordering) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "dct4/factorisation.h"
+#include "kernelgen/count.h"
 #include "kernelgen/program.h"
 #include "kernelgen/schedule.h"
 
@@ -40,6 +41,10 @@ Ordering ordering_of(const Kernel& kernel);
 kernelgen::Graph kernel_graph(const Kernel& kernel);
 
 kernelgen::Program kernel_program(const Kernel& kernel, const Ordering& ordering);
+
+/// What a whole transform executes in real operations: its kernels as often as its plan runs them.
+/// The depth is that of the parts one after another.
+kernelgen::Counts transform_counts(int length);
 
 /// The source file of a kernel.
 std::string kernel_source(const Kernel& kernel, const Ordering& ordering);

@@ -6,14 +6,6 @@
 namespace haldgen::dct4 {
 namespace {
 
-/// 1 to `count` for 2, 4, 8, ..., else count + 1.
-std::int32_t class_of(std::int32_t length, std::int32_t count) {
-  for (std::int32_t k = 1; k <= count; ++k) {
-    if (length == 1 << k) return k;
-  }
-  return count + 1;
-}
-
 /// A sum of amounts of the arena. Its value modulo 2^32 is what 32-bit arithmetic makes of it, so
 /// that one computation gives both the true size and the wrapped one.
 class Sum {
@@ -86,21 +78,6 @@ Sum state_size(std::int32_t length, std::int32_t element_size) {
 }
 
 }  // namespace
-
-std::int32_t SizeClass(std::int32_t length) { return class_of(length, kPlannedClass - 1); }
-
-std::int32_t FoldClass(std::int32_t length) { return class_of(length, kPlannedFoldClass - 1); }
-
-std::int32_t PickRadix(std::int32_t half_length) {
-  struct Row {
-    std::int32_t radix;
-    std::int32_t from;
-  };
-  for (const Row row : {Row{32, 512}, Row{16, 128}, Row{8, 32}, Row{4, 16}, Row{2, 4}}) {
-    if (half_length >= row.from && half_length % row.radix == 0) return row.radix;
-  }
-  return 0;
-}
 
 bool AcceptInner(std::int32_t fold_length) {
   while (FoldClass(fold_length) == kPlannedFoldClass) {

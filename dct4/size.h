@@ -6,16 +6,37 @@
 
 namespace haldgen::dct4 {
 
+/// 1 to `count` for 2, 4, 8, ..., else count + 1.
+constexpr std::int32_t PowerClass(std::int32_t length, std::int32_t count) {
+  for (std::int32_t k = 1; k <= count; ++k) {
+    if (length == 1 << k) return k;
+  }
+  return count + 1;
+}
+
 /// Lengths 2, 4, ..., 32 are classes 1 to 5, with a kernel each; others have a plan.
 inline constexpr std::int32_t kPlannedClass = 6;
-std::int32_t SizeClass(std::int32_t length);
+constexpr std::int32_t SizeClass(std::int32_t length) {
+  return PowerClass(length, kPlannedClass - 1);
+}
 
 /// Fold lengths 2, 4, ..., 64 are classes 1 to 6, with a kernel each; others have an inner plan.
 inline constexpr std::int32_t kPlannedFoldClass = 7;
-std::int32_t FoldClass(std::int32_t length);
+constexpr std::int32_t FoldClass(std::int32_t length) {
+  return PowerClass(length, kPlannedFoldClass - 1);
+}
 
 /// The radix for a half-length; 0 if there is none.
-std::int32_t PickRadix(std::int32_t half_length);
+constexpr std::int32_t PickRadix(std::int32_t half_length) {
+  struct Row {
+    std::int32_t radix;
+    std::int32_t from;
+  };
+  for (const Row row : {Row{32, 512}, Row{16, 128}, Row{8, 32}, Row{4, 16}, Row{2, 4}}) {
+    if (half_length >= row.from && half_length % row.radix == 0) return row.radix;
+  }
+  return 0;
+}
 
 /// Whether folds of this length can be computed.
 bool AcceptInner(std::int32_t fold_length);

@@ -46,6 +46,16 @@ void print_counts(const Kernel* only) {
 
 }  // namespace
 
+void print_dct4_transforms() {
+  for (int length = 2; length <= 1 << 16; length *= 2) {
+    const kernelgen::Counts c = dct4::transform_counts(length);
+    for (const FloatType type : {FloatType::f32, FloatType::f64}) {
+      std::cout << "dct4\t" << length << '\t' << suffix(type) << '\t' << c.additions << '\t'
+                << c.multiplications << '\t' << c.depth << "\t0\n";
+    }
+  }
+}
+
 bool run_dct4(const std::vector<std::string>& arguments,
               void (*write_file)(const std::string&, const std::string&)) {
   const std::string& command = arguments[0];

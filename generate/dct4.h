@@ -11,4 +11,7 @@ namespace haldgen::generate {
 bool run_dct4(const std::vector<std::string>& arguments,
               void (*write_file)(const std::string&, const std::string&));
 
+/// Counts of whole transforms of the powers of two up to 2^16, rows of the table of all kernels.
+void print_dct4_transforms();
+
 }  // namespace haldgen::generate

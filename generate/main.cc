@@ -197,6 +197,7 @@ void print_all_counts() {
       }
     }
   }
+  haldgen::generate::print_dct4_transforms();
 }
 
 void write_file(const std::string& path, const std::string& text) {

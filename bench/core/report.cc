@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
 #include <map>
 
@@ -102,12 +103,15 @@ struct Group {
   const char* name;
   bool of_orders;
   bool (*contains)(int length);
+  int beyond = 0;  ///< no row for families that have no length above this
 };
 
 constexpr std::array groups = {
     Group{"8,16,32,64", false, [](int n) { return n == 8 || n == 16 || n == 32 || n == 64; }},
     Group{"6..64", false, [](int n) { return 6 <= n && n <= 64; }},
     Group{"2..64", false, [](int n) { return 2 <= n && n <= 64; }},
+    Group{"8..4096", false, [](int n) { return 8 <= n && n <= 4096; }, 64},
+    Group{"8192 up", false, [](int n) { return n >= 8192; }},
     Group{"orders 1..7", true, [](int order) { return order <= 7; }},
     Group{"orders 8..13", true, [](int order) { return order >= 8; }},
     Group{"all orders", true, [](int) { return true; }},
@@ -253,7 +257,11 @@ Table summary_table(const std::vector<Measurement>& measurements) {
       return m.mode == mode && m.family == family && m.sized_by_order == group.of_orders &&
              group.contains(m.length) && (type == "all" || m.type == type);
     });
-    if (members.empty()) return;
+    if (std::none_of(members.begin(), members.end(), [&](const Figures& figures) {
+          return figures.measurement->length > group.beyond;
+        })) {
+      return;
+    }
     std::vector<std::string> cells = {
         std::string(name(mode)),       std::string(name(statistic)), family, group.name, type,
         std::to_string(members.size())};
@@ -278,10 +286,13 @@ Table summary_table(const std::vector<Measurement>& measurements) {
 
 void write_picture(std::ostream& out, const std::vector<Measurement>& measurements,
                    const std::string& family, Mode mode) {
+  const bool log_scale =
+      std::any_of(measurements.begin(), measurements.end(),
+                  [&](const Measurement& m) { return m.family == family && m.length > 64; });
   constexpr std::array colours = {"#0b6fa4", "#c2410c", "#3f7d20", "#7c3aed"};
   Chart chart{family + ", " + std::string(name(mode)) +
                   " buffers: median time over that of the peer (below 1 is faster than it)",
-              "length or order",
+              log_scale ? "log2 of the length" : "length or order",
               "ratio",
               1.0,
               {}};
@@ -295,7 +306,8 @@ void write_picture(std::ostream& out, const std::vector<Measurement>& measuremen
          select(measurements, Statistic::median, [&](const Measurement& m) {
            return m.mode == mode && m.family == family && m.type == type;
          })) {
-      const double length = figures.measurement->length;
+      const double length =
+          log_scale ? std::log2(figures.measurement->length) : figures.measurement->length;
       if (figures.best_ratio) best.points.push_back({length, *figures.best_ratio});
       for (const Series& series : figures.measurement->series) {
         if (!figures.subject) continue;

@@ -82,6 +82,17 @@ TEST(Counts, EveryRowIsMet) {
   EXPECT_EQ(rows, 28);
 }
 
+TEST(Counts, OfTransformsAddUpTheirPasses) {
+  const Counts c = transform_counts(1024);
+  EXPECT_EQ(text(c.multiplications, c.additions, -1), text(3072 + 5632, 5888 + 8192, -1));
+  // Eight folds of 16 and eight rows of radix 8 for each of 32 sequences, and 64 blocks.
+  const Counts sixteen = count(fold_graph(16));
+  const Counts step = count(inner_recombine_graph(8, 128, 0));
+  const Counts block = count(recombine_graph(32, 4096, 0));
+  EXPECT_EQ(transform_counts(4096).additions,
+            32 * (8 * sixteen.additions + 8 * step.additions) + 64 * block.additions);
+}
+
 // What is compiled is what was counted: lowering adds no arithmetic.
 TEST(Counts, ProgramsExecuteTheCountedOperations) {
   for (const Kernel& kernel : kernels()) {
