@@ -61,14 +61,13 @@ Slice slice_of(Planned transform, const std::shared_ptr<Dct4State>& state) {
 
 }  // namespace
 
-void KernelLibrary::Close::operator()(void* handle) const { dlclose(handle); }
-
 KernelLibrary::KernelLibrary(const std::filesystem::path& path)
     : path_(std::filesystem::weakly_canonical(path)) {
   // The canonical path contains a slash, so the loader neither searches for the file nor takes
   // another build with the same SONAME for it.
-  handle_.reset(dlopen(path_.c_str(), RTLD_NOW | RTLD_LOCAL));
-  if (!handle_) throw std::runtime_error(dlerror());
+  void* const handle = dlopen(path_.c_str(), RTLD_NOW | RTLD_LOCAL);
+  if (handle == nullptr) throw std::runtime_error(dlerror());
+  handle_.reset(handle, dlclose);
 }
 
 std::optional<Contestant> KernelLibrary::contestant(const frame::Export& function,
@@ -96,7 +95,7 @@ std::shared_ptr<Dct4State> KernelLibrary::state_of(const frame::Export& function
   if (init == nullptr || release == nullptr || init(&state, function.size) != haldStatusOk) {
     throw std::runtime_error("no state for " + function.name);
   }
-  return {state, release};
+  return {state, [release, library = handle_](Dct4State* own) { release(own); }};
 }
 
 std::size_t KernelLibrary::buffer_bytes(const frame::Export& function) const {

@@ -30,11 +30,8 @@ class KernelLibrary {
   std::shared_ptr<Dct4State> state_of(const frame::Export& function) const;
   std::size_t buffer_bytes(const frame::Export& function) const;
 
-  struct Close {
-    void operator()(void* handle) const;
-  };
   std::filesystem::path path_;
-  std::unique_ptr<void, Close> handle_;
+  std::shared_ptr<void> handle_;  ///< states hold it too, for their release
 };
 
 }  // namespace haldgen::bench
