@@ -6,6 +6,7 @@
 #include "kernelgen/count.h"
 #include "kernelgen/evaluate.h"
 #include "kernelgen/lower.h"
+#include "kernelgen/precision.h"
 #include "tests/kernelgen/random_graph.h"
 
 namespace haldgen::kernelgen {
