@@ -91,7 +91,7 @@ enum {
  *     Pack   | N             | R(0), R(k), I(k) for 1..q, R(N/2)    | R(0), R(k), I(k) for 1..q
  *     Perm   | N             | R(0), R(N/2), R(k), I(k) for 1..q    | as Pack
  *
- * Forward transforms write +0 to the parts of CCS that are zero; inverse transforms never read them.
+ * Forward transforms write +0 to the parts of CCS that are zero, inverse ones never read them.
  */
 
 /** Which build of the library this is. */
