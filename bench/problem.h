@@ -28,7 +28,7 @@ class Problem {
   virtual std::string fault(const Contestant& contestant, const Walk& walk,
                             std::span<const std::byte> source) const = 0;
 
-  /// Whom the kernel meets; `walk` may be used to try them.
+  /// Whom the kernel meets.
   virtual std::vector<Contestant> rivals() const = 0;
 
   /// What needs no check: copies and the like, which say what the machine can do.

@@ -109,7 +109,7 @@ std::vector<Contestant> WhtProblem::rivals() const {
 
 std::vector<Contestant> WhtProblem::yardsticks() const { return {copy_contestant(result_bytes())}; }
 
-std::optional<OperationCounts::Counts> WhtProblem::work(const OperationCounts&) const {
+std::optional<OperationCounts::Counts> WhtProblem::work(const OperationCounts& /*counts*/) const {
   return OperationCounts::Counts{std::ldexp(order_, order_) / lanes(element_), 0};
 }
 

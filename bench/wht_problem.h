@@ -17,7 +17,7 @@ class WhtProblem final : public Problem {
   std::vector<Contestant> rivals() const override;
   std::vector<Contestant> yardsticks() const override;
   /// Known without a table: half a sum and half a difference for each element and level.
-  std::optional<OperationCounts::Counts> work(const OperationCounts&) const override;
+  std::optional<OperationCounts::Counts> work(const OperationCounts& counts) const override;
   bool sized_by_order() const override { return true; }
 
  private:

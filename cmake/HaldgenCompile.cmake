@@ -50,13 +50,14 @@ function(haldgen_build_tool target)
 endfunction()
 
 # Generated kernels. The order of instructions is the generator's; vectorisers would pack scalar
-# kernels and widen the others' registers' lives.
+# kernels and widen the others' registers' lives. Kernels that are the same code stay functions of
+# their own: g++ would make one jump to the other.
 function(haldgen_kernels target)
   set_target_properties(${target} PROPERTIES
     CXX_VISIBILITY_PRESET hidden POSITION_INDEPENDENT_CODE ON)
   target_compile_options(${target} PRIVATE
     -mssse3 -fno-tree-vectorize -fno-tree-slp-vectorize
-    $<$<CXX_COMPILER_ID:GNU>:-frename-registers>
+    $<$<CXX_COMPILER_ID:GNU>:-frename-registers;-fno-ipa-icf>
     -Wall -Wextra -Werror)
   add_dependencies(${target} haldgen_frame_generated)
 endfunction()

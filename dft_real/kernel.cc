@@ -105,11 +105,6 @@ std::string entry(int length, Direction direction, FloatType type, Packing packi
   const std::string declaration =
       "extern \"C\" int32_t " + symbol(length, direction, type, packing) + "(const " +
       kernelgen::type_name(type) + "* src, " + kernelgen::type_name(type) + "* dst, int32_t flag)";
-  // Of odd lengths Perm is Pack.
-  if (packing == Packing::perm && length % 2 == 1) {
-    return declaration + "\n    __attribute__((alias(\"" +
-           symbol(length, direction, type, Packing::pack) + "\")));\n";
-  }
   return declaration + " {\n  return run<Kernel, Format<Packing::" + packing_name(packing) + ", " +
          std::to_string(length) + ">>(src, dst, flag);\n}\n";
 }

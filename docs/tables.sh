@@ -5,7 +5,8 @@
 #   status    functions built so far, from haldgen-framegen
 #   complex   algorithm and counts of each complex kernel, from haldgen-generate
 #   real      the same of the real kernels, both directions
-#   accuracy, real-accuracy
+#   hartley   and of the Hartley kernels
+#   accuracy, real-accuracy, hartley-accuracy
 #             rounding errors, from haldgen_accuracy
 set -eu
 action=$1 name=$2 file=$3 tool=$4
@@ -75,12 +76,19 @@ real_tables() {
   counts_table real-inverse 64f 32f
 }
 
+hartley_table() {
+  "$tool" counts >"$scratch/counts"
+  counts_table hartley 64f 32f
+}
+
 case $name in
   status) status_table >"$table" ;;
   complex) complex_tables >"$table" ;;
   real) real_tables >"$table" ;;
+  hartley) hartley_table >"$table" ;;
   accuracy) "$tool" complex >"$table" ;;
   real-accuracy) "$tool" real >"$table" ;;
+  hartley-accuracy) "$tool" hartley >"$table" ;;
   *) echo "tables.sh: no table $name" >&2; exit 2 ;;
 esac
 

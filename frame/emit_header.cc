@@ -85,13 +85,13 @@ enum {
  * parts R(k) and I(k); I(0) is zero, and for even N so is I(N/2). With q = (N-1)/2 rounded down,
  * the formats hold, from position 0:
  *
- *     format | elements          | N even                                  | N odd
- *     -------|-------------------|-----------------------------------------|---------------------
- *     CCS    | 2*(N/2 down) + 2  | R(k), I(k) of k = 0..N/2, zeros too     | R(k), I(k) of k = 0..q
- *     Pack   | N                 | R(0), R(k), I(k) of k = 1..q, R(N/2)    | R(0), R(k), I(k) of 1..q
- *     Perm   | N                 | R(0), R(N/2), R(k), I(k) of k = 1..q    | as Pack
+ *     format | elements      | N even                               | N odd
+ *     -------|---------------|--------------------------------------|-------------------------
+ *     CCS    | N+2, odd: N+1 | R(k), I(k) for k = 0..N/2            | R(k), I(k) for k = 0..q
+ *     Pack   | N             | R(0), R(k), I(k) for 1..q, R(N/2)    | R(0), R(k), I(k) for 1..q
+ *     Perm   | N             | R(0), R(N/2), R(k), I(k) for 1..q    | as Pack
  *
- * Forward transforms write +0 to the zeros of CCS; inverse transforms never read them.
+ * Forward transforms write +0 to the parts of CCS that are zero, inverse ones never read them.
  */
 
 /** Which build of the library this is. */

@@ -169,6 +169,22 @@ conjugate-symmetric spectrum.
 @param dst     N real samples x[0..N-1].
 @param length  N, for lengths known at run time only: any length that has a function of its own.)";
 
+constexpr std::string_view hartley_definition =
+    R"(    H[k] = s * sum over n of x[n] * (cos(2*pi*k*n/N) + sin(2*pi*k*n/N)),   k, n = 0..N-1
+
+(R. V. L. Hartley, Proc. IRE 30 (1942)). Applied twice, it gives N times the input for s = 1. The
+length N is the number in the name.
+
+@param src     N real elements x[0..N-1]; only read.
+@param dst     N real elements H[0..N-1].)";
+
+constexpr std::string_view hartley_general_definition =
+    R"(    H[k] = s * sum over n of x[n] * (cos(2*pi*k*n/N) + sin(2*pi*k*n/N)),   k, n = 0..N-1
+
+@param src     N real elements x[0..N-1]; only read.
+@param dst     N real elements H[0..N-1].
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+
 constexpr std::string_view transform_result =
     R"(@return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.)";
@@ -326,24 +342,10 @@ constexpr Family table[] = {
     {"DFTInv_PermToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
      "Inverse real DFT from Perm, general", inverse_perm_general_definition, general_length_result},
 
-    {"Hartley",
-     S::transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::directionless,
-     "Hartley transform, fixed length",
-     {},
-     {}},
-    {"Hartley",
-     S::sized_transform,
-     real,
-     dft_lengths,
-     not_built,
-     Scaling::directionless,
-     "Hartley transform, general",
-     {},
-     {}},
+    {"Hartley", S::transform, real, dft_lengths, real_built, Scaling::directionless,
+     "Hartley transform, fixed length", hartley_definition, transform_result},
+    {"Hartley", S::sized_transform, real, dft_lengths, real_built, Scaling::directionless,
+     "Hartley transform, general", hartley_general_definition, general_length_result},
 
     {"WHT", S::buffered_transform, real, wht_orders, wht_built, Scaling::directionless,
      "Walsh-Hadamard transform, fixed order", wht_definition, wht_result},

@@ -17,6 +17,13 @@ using kernelgen::Graph;
 using kernelgen::Program;
 using kernelgen::Value;
 
+/// Which outputs of a half spectrum are imaginary parts.
+std::vector<bool> imaginary_parts(int length) {
+  std::vector<bool> parts(static_cast<std::size_t>(length), false);
+  for (std::size_t i = 2; i < parts.size(); i += 2) parts[i] = true;
+  return parts;
+}
+
 /// Differences and sums of the parts of each bin in place of the parts.
 void pair_outputs(Graph& graph, int length) {
   const std::vector<Value> parts(graph.outputs().begin(), graph.outputs().end());
@@ -57,6 +64,8 @@ std::string head_comment(int length, FloatType type, const Program& program) {
 Graph kernel_graph(int length) {
   const Design& design = design_of(length);
   Graph graph = kernelgen::fold_products(half_spectrum(design.recipe), design.fold);
+  // Sine sums as they enter H[k]: the imaginary part of a bin is minus that.
+  graph = kernelgen::turn_differences(graph, imaginary_parts(length));
   pair_outputs(graph, length);
   if (design.structure == Structure::transposed) {
     graph = kernelgen::fold_products(transposed(graph, length), kernelgen::Into::all);

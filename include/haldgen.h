@@ -72,13 +72,13 @@ enum {
  * parts R(k) and I(k); I(0) is zero, and for even N so is I(N/2). With q = (N-1)/2 rounded down,
  * the formats hold, from position 0:
  *
- *     format | elements          | N even                                  | N odd
- *     -------|-------------------|-----------------------------------------|---------------------
- *     CCS    | 2*(N/2 down) + 2  | R(k), I(k) of k = 0..N/2, zeros too     | R(k), I(k) of k = 0..q
- *     Pack   | N                 | R(0), R(k), I(k) of k = 1..q, R(N/2)    | R(0), R(k), I(k) of 1..q
- *     Perm   | N                 | R(0), R(N/2), R(k), I(k) of k = 1..q    | as Pack
+ *     format | elements      | N even                               | N odd
+ *     -------|---------------|--------------------------------------|-------------------------
+ *     CCS    | N+2, odd: N+1 | R(k), I(k) for k = 0..N/2            | R(k), I(k) for k = 0..q
+ *     Pack   | N             | R(0), R(k), I(k) for 1..q, R(N/2)    | R(0), R(k), I(k) for 1..q
+ *     Perm   | N             | R(0), R(N/2), R(k), I(k) for 1..q    | as Pack
  *
- * Forward transforms write +0 to the zeros of CCS; inverse transforms never read them.
+ * Forward transforms write +0 to the parts of CCS that are zero, inverse ones never read them.
  */
 
 /** Which build of the library this is. */
@@ -1454,6 +1454,174 @@ int32_t haldgDFTInv_PermToR_64_64f(const double* src, double* dst, int32_t flag)
  */
 int32_t haldgDFTInv_PermToR_32f(const float* src, float* dst, int32_t length, int32_t flag);
 int32_t haldgDFTInv_PermToR_64f(const double* src, double* dst, int32_t length, int32_t flag);
+/** @} */
+
+/**
+ * @name Hartley transform, fixed length
+ *
+ *     H[k] = s * sum over n of x[n] * (cos(2*pi*k*n/N) + sin(2*pi*k*n/N)),   k, n = 0..N-1
+ *
+ * (R. V. L. Hartley, Proc. IRE 30 (1942)). Applied twice, it gives N times the input for s = 1. The
+ * length N is the number in the name.
+ *
+ * @param src     N real elements x[0..N-1]; only read.
+ * @param dst     N real elements H[0..N-1].
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusNullPointer if src or dst is null; else haldStatusFlagError if flag is none of
+ *         the four values; else haldStatusOk. dst is written only if haldStatusOk is returned.
+ * @{
+ */
+int32_t haldgHartley_2_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_3_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_4_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_5_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_6_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_7_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_8_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_9_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_10_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_11_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_12_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_13_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_14_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_15_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_16_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_17_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_18_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_19_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_20_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_21_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_22_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_23_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_24_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_25_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_26_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_27_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_28_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_29_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_30_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_31_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_32_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_33_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_34_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_35_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_36_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_37_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_38_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_39_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_40_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_41_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_42_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_43_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_44_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_45_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_46_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_47_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_48_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_49_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_50_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_51_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_52_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_53_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_54_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_55_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_56_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_57_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_58_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_59_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_60_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_61_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_62_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_63_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_64_32f(const float* src, float* dst, int32_t flag);
+int32_t haldgHartley_2_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_3_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_4_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_5_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_6_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_7_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_8_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_9_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_10_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_11_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_12_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_13_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_14_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_15_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_16_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_17_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_18_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_19_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_20_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_21_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_22_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_23_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_24_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_25_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_26_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_27_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_28_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_29_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_30_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_31_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_32_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_33_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_34_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_35_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_36_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_37_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_38_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_39_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_40_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_41_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_42_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_43_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_44_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_45_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_46_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_47_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_48_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_49_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_50_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_51_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_52_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_53_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_54_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_55_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_56_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_57_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_58_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_59_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_60_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_61_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_62_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_63_64f(const double* src, double* dst, int32_t flag);
+int32_t haldgHartley_64_64f(const double* src, double* dst, int32_t flag);
+/** @} */
+
+/**
+ * @name Hartley transform, general
+ *
+ *     H[k] = s * sum over n of x[n] * (cos(2*pi*k*n/N) + sin(2*pi*k*n/N)),   k, n = 0..N-1
+ *
+ * @param src     N real elements x[0..N-1]; only read.
+ * @param dst     N real elements H[0..N-1].
+ * @param length  N, for lengths known at run time only: any length that has a function of its own.
+ * @param flag    selects the scale s:
+ *     - haldScaleFwdByN:  s = 1/N
+ *     - haldScaleInvByN:  s = 1/N
+ *     - haldScaleBySqrtN: s = 1/sqrt(N)
+ *     - haldScaleNone:    s = 1
+ * @return haldStatusSizeError if no function has this length, whatever the other arguments are;
+ *         else what the function of this length returns.
+ * @{
+ */
+int32_t haldgHartley_32f(const float* src, float* dst, int32_t length, int32_t flag);
+int32_t haldgHartley_64f(const double* src, double* dst, int32_t length, int32_t flag);
 /** @} */
 
 /**

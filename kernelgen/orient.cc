@@ -43,15 +43,17 @@ int wrong_output(const Graph& graph, const std::vector<bool>& negated) {
 
 }  // namespace
 
-Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated) {
-  Graph result = turned_around(graph, {});
-  // Differences behind outputs first, all at once; the loop is for what is left.
+Graph turn_differences(const Graph& graph, const std::vector<bool>& negated) {
   std::vector<int> behind;
   for (std::size_t k = 0; k < negated.size(); ++k) {
-    const Value v = result.outputs()[k];
-    if ((v.turn == 2) != negated[k] && is_difference(result.node(v.node))) behind.push_back(v.node);
+    const Value v = graph.outputs()[k];
+    if ((v.turn == 2) != negated[k] && is_difference(graph.node(v.node))) behind.push_back(v.node);
   }
-  result = turned_around(result, behind);
+  return turned_around(graph, behind);
+}
+
+Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated) {
+  Graph result = turn_differences(graph, negated);
   for (std::size_t round = 0; round <= negated.size(); ++round) {
     const int wrong = wrong_output(result, negated);
     if (wrong < 0) return result;

@@ -7,10 +7,13 @@
 
 namespace haldgen::kernelgen {
 
-/// Turns differences around, a - b to -(b - a), so that exactly the outputs with a true entry in
-/// `negated` carry a minus: these are formed as 0 minus their scaled value. Where the statement
-/// behind an output has no minus to turn, differences further back are turned. Throws if an output
-/// cannot be brought to its sign.
+/// Turns differences behind outputs around, a - b to -(b - a), so that the outputs with a true
+/// entry in `negated` carry a minus and the others none. An output that is no difference stays.
+Graph turn_differences(const Graph& graph, const std::vector<bool>& negated);
+
+/// The same for every output: where the statement behind one has no minus to turn, differences
+/// further back are turned. A negated output is formed as 0 minus its scaled value. Throws if an
+/// output cannot be brought to its sign.
 Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated);
 
 /// Terms of each sum in the order of their depth, so that a chain of additions waits as little as

@@ -57,6 +57,7 @@ struct Family {
 
 constexpr Family kFamilies[] = {
     {"complex", "DFTFwd_CToC", "DFTInv_CToC", {frame::Element::c32, frame::Element::c64}},
+    {"hartley", "Hartley", "", {frame::Element::f32, frame::Element::f64}},
     {"real", "DFTFwd_RToCCS", "DFTInv_CCSToR", {frame::Element::f32, frame::Element::f64}},
 };
 
@@ -138,6 +139,13 @@ Elements whole_spectrum(const Elements& half, std::size_t length) {
   return bins;
 }
 
+/// Real and imaginary parts of the inverse transform of real samples, added.
+Elements hartley(const Elements& x) {
+  Elements y = dft(x, true, x.size());
+  for (WideComplex& v : y) v = {v.re + v.im, 0.0};
+  return y;
+}
+
 /// How the floats of a family are elements, and what its transforms are.
 struct Definition {
   std::size_t source_floats;
@@ -152,6 +160,7 @@ Definition definition(std::string_view family, int length, bool inverse) {
   if (family == "complex") {
     return {2 * n, 2, 2 * n, 2, [=](const Elements& x) { return dft(x, inverse, n); }};
   }
+  if (family == "hartley") return {n, 1, n, 1, hartley};
   const std::size_t bins = n / 2 + 1;
   if (!inverse) return {n, 1, 2 * bins, 2, [=](const Elements& x) { return dft(x, false, bins); }};
   return {2 * bins, 2, n, 1, [=](const Elements& y) { return dft(whole_spectrum(y, n), true, n); }};
@@ -254,15 +263,19 @@ template <class Float>
 void print_table(const Family& family, frame::Element element) {
   constexpr std::string_view kColumns = "L2 | worst call | largest | L2/√ | worst/√ |";
   constexpr std::string_view kRule = "--:|--:|--:|--:|--:|";
-  std::cout << "### " << frame::suffix(element) << "\n\n| N | forward: " << kColumns
-            << " inverse: " << kColumns << "\n|--:|" << kRule << kRule << '\n';
+  const bool both = !family.inverse_word.empty();
+  std::cout << "### " << frame::suffix(element) << "\n\n| N |" << (both ? " forward: " : " ")
+            << kColumns;
+  if (both) std::cout << " inverse: " << kColumns;
+  std::cout << "\n|--:|" << kRule << (both ? kRule : "") << '\n';
   Figures most_forward, most_inverse;
   for (const auto& [length, pair] : kernels<Float>(family, element)) {
     const std::string forward = cells(pair.forward, family.name, length, false, most_forward);
-    const std::string inverse = cells(pair.inverse, family.name, length, true, most_inverse);
-    std::cout << "| " << length << " |" << forward << inverse << '\n';
+    std::cout << "| " << length << " |" << forward;
+    if (both) std::cout << cells(pair.inverse, family.name, length, true, most_inverse);
+    std::cout << '\n';
   }
-  std::cout << "| most |" << cells(most_forward) << cells(most_inverse) << '\n';
+  std::cout << "| most |" << cells(most_forward) << (both ? cells(most_inverse) : "") << '\n';
 }
 
 void run(std::string_view name) {
@@ -282,7 +295,8 @@ void run(std::string_view name) {
 
 int main(int argc, char** argv) {
   if (argc != 2) {
-    std::cerr << "usage: haldgen_accuracy complex|real\nPrints the tables of docs/accuracy.md.\n";
+    std::cerr
+        << "usage: haldgen_accuracy complex|real|hartley\nPrints the tables of docs/accuracy.md.\n";
     return 2;
   }
   try {

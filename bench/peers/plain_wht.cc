@@ -41,7 +41,7 @@ inline void levels_from(Float* __restrict x) {
 }
 
 template <class Float, int kOrder>
-void fixed(const Float* __restrict src, Float* __restrict dst, int, Float scale) {
+void fixed(const Float* __restrict src, Float* __restrict dst, int /*order*/, Float scale) {
   constexpr std::size_t kPoints = std::size_t{1} << kOrder;
   for (std::size_t i = 0; i < kPoints; ++i) dst[i] = src[i];
   levels_from<Float, kPoints, 1>(dst);

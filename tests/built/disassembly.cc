@@ -72,6 +72,11 @@ ScalarOperations scalar_operations(const Mnemonics& m) {
           m.count({"mulsd"}), m.count({"cvtsd2ss"})};
 }
 
+ScalarOperations scalar_operations(const kernelgen::Tally& t) {
+  return {t.in32.additions + t.in32.negations, t.in64.additions + t.in64.negations,
+          t.in32.products + t.in32.scales, t.in64.products + t.in64.scales, t.narrowings};
+}
+
 std::string text(const ScalarOperations& o) {
   std::ostringstream stream;
   stream << o.additions32 << " + " << o.additions64 << " additions, " << o.multiplications32

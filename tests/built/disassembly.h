@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "kernelgen/count.h"
+
 namespace haldgen::test {
 
 /// How often each mnemonic occurs in a function.
@@ -29,6 +31,8 @@ struct ScalarOperations {
   friend bool operator==(const ScalarOperations&, const ScalarOperations&) = default;
 };
 ScalarOperations scalar_operations(const Mnemonics& mnemonics);
+/// The same, as a program executes them.
+ScalarOperations scalar_operations(const kernelgen::Tally& tally);
 std::string text(const ScalarOperations& operations);
 
 }  // namespace haldgen::test

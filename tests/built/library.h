@@ -2,9 +2,11 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -73,6 +75,39 @@ std::vector<Float> random_floats(std::size_t count, unsigned seed) {
     result.push_back(static_cast<Float>(unit));
   }
   return result;
+}
+
+/// Inputs that are hard on bits: random ones, near overflow and underflow, of widely differing
+/// magnitudes, zeros of both signs. `length` is that of the transform.
+template <class Float>
+std::vector<std::vector<Float>> trying_inputs(std::size_t count, double length) {
+  using Limits = std::numeric_limits<Float>;
+  std::vector<std::vector<Float>> all;
+  for (unsigned seed = 0; seed < 4; ++seed) {
+    all.push_back(random_floats<Float>(count, seed));
+  }
+  // Near overflow, results that are denormal, inputs that are.
+  for (const double factor : {Limits::max() / (8.0 * length * length), 8.0 * Limits::min(),
+                              100.0 * Limits::denorm_min()}) {
+    auto values = random_floats<Float>(count, 17);
+    for (Float& v : values) v = static_cast<Float>(v * factor);
+    all.push_back(values);
+  }
+  // Magnitudes that differ widely: every sum rounds.
+  auto mixed = random_floats<Float>(count, 18);
+  for (std::size_t i = 0; i < count; ++i) {
+    mixed[i] = std::ldexp(mixed[i], static_cast<int>(i * 7 % 31) - 15);
+  }
+  all.push_back(mixed);
+  // Zeros of both signs alone, then among ones, so that sums vanish too.
+  for (const unsigned seed : {19U, 20U, 22U, 23U}) {
+    auto zeros = random_floats<Float>(count, seed);
+    for (Float& v : zeros) {
+      v = std::copysign(seed >= 22U && std::abs(v) < 0.5 ? Float{1} : Float{0}, v);
+    }
+    all.push_back(zeros);
+  }
+  return all;
 }
 
 }  // namespace haldgen::test

@@ -108,6 +108,21 @@ std::vector<long double> samples_of(const Spectrum& bins, std::size_t n) {
   return x;
 }
 
+std::vector<long double> hartley(const std::vector<long double>& x) {
+  const std::size_t n = x.size();
+  const std::vector<Complex>& root = roots(n);
+  std::vector<long double> y;
+  for (std::size_t k = 0; k < n; ++k) {
+    long double sum = 0;
+    for (std::size_t j = 0; j < n; ++j) {
+      const Complex& turn = root[j * k % n];
+      sum += x[j] * (turn.real() + turn.imag());
+    }
+    y.push_back(sum);
+  }
+  return y;
+}
+
 }  // namespace
 
 std::vector<long double> packed(std::string_view format, std::size_t samples,
@@ -140,6 +155,7 @@ std::vector<long double> definition(std::string_view word, int points,
   }
   if (word == "DFTFwd_CToC") return complex_dft(src, false);
   if (word == "DFTInv_CToC") return complex_dft(src, true);
+  if (word == "Hartley") return hartley(src);
   const auto n = static_cast<std::size_t>(points);
   if (word.starts_with("DFTFwd_RTo")) return packed(word.substr(10), n, half_spectrum(src));
   if (word.starts_with("DFTInv_") && word.ends_with("ToR")) {

@@ -49,6 +49,7 @@ Shape shape(const Family& family, int size) {
     return {size, floats, floats};
   }
   const auto samples = static_cast<std::size_t>(size);
+  if (family.word == "Hartley") return {size, samples, samples};
   if (const auto direction = family.word.find("_RTo"); direction != std::string_view::npos) {
     return {size, samples, spectrum_floats(family.word.substr(direction + 4), samples)};
   }

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "kernelgen/graph.h"
+#include "kernelgen/lower.h"
+#include "kernelgen/rewrite.h"
 
 namespace haldgen::kernelgen::test {
 
@@ -61,10 +63,14 @@ Element<Float> sum_of(const Graph& graph, const Statement& s, const Operand& ope
 
 /// The outputs of a graph as its statements say, each operation rounded once, and the scale. The
 /// parts of element k stand at 2k and 2k + 1; a real graph has one float per input and output.
+/// Outputs that are results of wide statements, and nothing else, are scaled as `scaled` says.
 template <class Float>
-std::vector<Float> direct(const Graph& graph, const std::vector<Float>& source, Float scale) {
+std::vector<Float> direct(const Graph& graph, const std::vector<Float>& source, Float scale,
+                          Scaled scaled = Scaled::result) {
   const bool complex = graph.field() == Field::complex;
+  const Uses uses(graph);
   std::vector<Element<Float>> values(graph.nodes().size());
+  std::vector<double> raw(graph.nodes().size());
   for (const int index : live_nodes(graph)) {
     const Statement& s = graph.node(index);
     Element<Float>& v = values[at(index)];
@@ -76,12 +82,19 @@ std::vector<Float> direct(const Graph& graph, const std::vector<Float>& source, 
         return Element<double>{double{values[at(node)].re}, double{values[at(node)].im}};
       });
       v = {static_cast<Float>(wide.re), static_cast<Float>(wide.im)};
+      raw[at(index)] = wide.re;
     } else {
       v = sum_of<Float>(graph, s, [&](int node) { return values[at(node)]; });
     }
   }
   std::vector<Float> result;
   for (const Value output : graph.outputs()) {
+    const bool wide = graph.node(output.node).precision == Precision::wide;
+    if (wide && scaled == Scaled::result && uses.by_statements[at(output.node)] == 0) {
+      const double product = double{scale} * raw[at(output.node)];
+      result.push_back(static_cast<Float>(output.turn == 2 ? -product : product));
+      continue;
+    }
     const auto v = turned<Float>(values[at(output.node)], output.turn);
     result.push_back(scale * v.re);
     if (complex) result.push_back(scale * v.im);

@@ -20,14 +20,14 @@ const Wide kSine = sin_turn(1, 5);
 const Wide kCosine = cos_turn(1, 5);
 
 template <class Float>
-void expect_bits_of_graph(const Graph& graph, std::uint32_t seed) {
+void expect_bits_of_graph(const Graph& graph, std::uint32_t seed, Scaled scaled = Scaled::result) {
   Dice dice(seed);
   const auto source = dice.numbers<Float>(test::inputs_of(graph));
   const Float scale = static_cast<Float>(0.3);
   const FloatType type = std::is_same_v<Float, float> ? FloatType::f32 : FloatType::f64;
   std::vector<Float> actual(graph.outputs().size());
-  interpret(lower_scalar(graph, type), source, scale, actual);
-  ASSERT_TRUE(test::same_bits(actual, test::direct<Float>(graph, source, scale)))
+  interpret(lower_scalar(graph, type, scaled), source, scale, actual);
+  ASSERT_TRUE(test::same_bits(actual, test::direct<Float>(graph, source, scale, scaled)))
       << "seed " << seed;
 }
 
@@ -49,6 +49,7 @@ TEST(ScalarLowering, RoundsWideStatementsOnce) {
   for_all_graphs([](Graph graph, std::uint32_t seed) {
     widen_products(graph);
     expect_bits_of_graph<float>(graph, seed);
+    expect_bits_of_graph<float>(graph, seed, Scaled::kept);
     expect_bits_of_graph<double>(graph, seed);
     Graph gathered = gather_statements(graph);
     widen_products(gathered);

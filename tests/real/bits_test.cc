@@ -88,39 +88,6 @@ std::vector<Float> interpreted(const RealKernel& kernel, const Program& program,
   return result;
 }
 
-template <class Float>
-std::vector<std::vector<Float>> inputs(const RealKernel& kernel) {
-  const std::size_t count = at(kernel.source_size());
-  using Limits = std::numeric_limits<Float>;
-  std::vector<std::vector<Float>> all;
-  for (unsigned seed = 0; seed < 4; ++seed) {
-    all.push_back(test::random_floats<Float>(count, seed));
-  }
-  // Near overflow, results that are denormal, inputs that are.
-  const double length = kernel.length();
-  for (const double factor : {Limits::max() / (8.0 * length * length), 8.0 * Limits::min(),
-                              100.0 * Limits::denorm_min()}) {
-    auto values = test::random_floats<Float>(count, 17);
-    for (Float& v : values) v = static_cast<Float>(v * factor);
-    all.push_back(values);
-  }
-  // Magnitudes that differ widely: every sum rounds.
-  auto mixed = test::random_floats<Float>(count, 18);
-  for (std::size_t i = 0; i < count; ++i) {
-    mixed[i] = std::ldexp(mixed[i], static_cast<int>(i * 7 % 31) - 15);
-  }
-  all.push_back(mixed);
-  // Zeros of both signs alone, then among ones, so that sums vanish too.
-  for (const unsigned seed : {19U, 20U, 22U, 23U}) {
-    auto zeros = test::random_floats<Float>(count, seed);
-    for (Float& v : zeros) {
-      v = std::copysign(seed >= 22U && std::abs(v) < 0.5 ? Float{1} : Float{0}, v);
-    }
-    all.push_back(zeros);
-  }
-  return all;
-}
-
 struct Scale {
   std::int32_t flag;
   long double value;
@@ -141,7 +108,7 @@ void expect_bits_of_program(const RealKernel& kernel) {
       kernel_program(kernel.length(), kernel.direction, kernel.type(),
                      tuning_of(kernel.length(), kernel.direction, kernel.type()));
   std::size_t number = 0;
-  for (const auto& source : inputs<Float>(kernel)) {
+  for (const auto& source : test::trying_inputs<Float>(at(kernel.source_size()), kernel.length())) {
     for (const Scale& scale : scales(kernel.length(), kernel.direction)) {
       const auto expected = interpreted(kernel, program, source, static_cast<Float>(scale.value));
       // Any byte address will do.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <bit>
 #include <limits>
+#include <random>
 #include <span>
 
 #include "tests/contract/memory.h"
@@ -62,8 +63,8 @@ TEST(Bits, EqualThePlainNetwork) {
     int number = 0;
     for (const std::vector<Float>& src : inputs<Float>(kernel.points())) {
       for (const std::int32_t flag : kFlags) {
-        const Float scale = nearest_scale<Float>(kernel.order, flag);
-        EXPECT_TRUE(same_bits(call(kernel, src, flag), plain_network(src, scale)))
+        const auto scale = nearest_scale<Float>(kernel.order, flag);
+        EXPECT_TRUE(identical(call(kernel, src, flag), plain_network(src, scale)))
             << kernel.name << ", input " << number << ", flag " << flag;
       }
       ++number;
@@ -78,7 +79,7 @@ TEST(Bits, ScalesAreThePublishedOnes) {
     std::vector<Float> impulse(kernel.points());
     impulse[0] = 1;
     for (const std::int32_t flag : kFlags) {
-      Float scale = nearest_scale<Float>(kernel.order, flag);
+      auto scale = nearest_scale<Float>(kernel.order, flag);
       if (flag == haldScaleBySqrtN && kernel.order % 2 == 1 && sizeof(Float) == sizeof(float)) {
         scale = roots[static_cast<std::size_t>(kernel.order / 2)];
       }

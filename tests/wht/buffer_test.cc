@@ -75,8 +75,8 @@ TEST(Buffer, WithoutOneThereIsOneAllocationOfTheQueriedSizeAndOneRelease) {
                                                                : std::vector<std::int32_t>{})
             << kernel.name;
         EXPECT_TRUE(allocator::settled()) << kernel.name;
-        const Float scale = nearest_scale<Float>(kernel.order, flag);
-        EXPECT_TRUE(same_bits(arrays.result(kernel), plain_network(arrays.input, scale)))
+        const auto scale = nearest_scale<Float>(kernel.order, flag);
+        EXPECT_TRUE(identical(arrays.result(kernel), plain_network(arrays.input, scale)))
             << kernel.name << ", flag " << flag;
       }
     }
@@ -146,7 +146,7 @@ TEST(Buffer, SmallOrdersNeverLookAtIt) {
           status = kernel.call(src, arrays.dst.data(), haldScaleNone, buffer);
         })) << kernel.name;
         EXPECT_EQ(status, haldStatusOk);
-        EXPECT_TRUE(same_bits(arrays.result(kernel), plain_network(arrays.input, Float{1})))
+        EXPECT_TRUE(identical(arrays.result(kernel), plain_network(arrays.input, Float{1})))
             << kernel.name;
       }
     }

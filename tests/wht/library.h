@@ -10,11 +10,15 @@
 #include <cstdint>
 #include <cstring>
 #include <functional>
-#include <random>
 #include <string>
 #include <vector>
 
+#include "tests/built/library.h"
+
 namespace haldgen::wht::test {
+
+using haldgen::test::identical;
+using haldgen::test::random_floats;
 
 inline constexpr int kOrders = 13;
 inline constexpr int kLastWithoutBuffer = 7;
@@ -85,21 +89,6 @@ Float nearest_scale(int order, std::int32_t flag) {
   if (flag != haldScaleBySqrtN) return std::ldexp(Float{1}, -order);
   const Float root = order % 2 == 0 ? Float{1} : std::sqrt(Float{0.5});
   return std::ldexp(root, -(order / 2));
-}
-
-template <class Float>
-std::vector<Float> random_floats(std::size_t count, unsigned seed) {
-  std::mt19937 random(seed);
-  std::uniform_real_distribution<Float> uniform(-1, 1);
-  std::vector<Float> floats(count);
-  for (Float& value : floats) value = uniform(random);
-  return floats;
-}
-
-/// Same bytes: signs of zeros and bits of NaNs count.
-template <class Float>
-bool same_bits(const std::vector<Float>& a, const std::vector<Float>& b) {
-  return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(Float)) == 0;
 }
 
 /// A work buffer of the published size, at a multiple of 16 bytes but of no more, full of NaNs.

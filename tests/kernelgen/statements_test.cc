@@ -1,0 +1,274 @@
+// The passes over real statement graphs: folding of constants, signs and order of terms, choice of
+// precision, transposition of whole statements; and the tally of programs.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "kernelgen/count.h"
+#include "kernelgen/evaluate.h"
+#include "kernelgen/fold.h"
+#include "kernelgen/lower.h"
+#include "kernelgen/orient.h"
+#include "kernelgen/precision.h"
+#include "kernelgen/transpose.h"
+#include "tests/kernelgen/random_graph.h"
+
+namespace haldgen::kernelgen {
+namespace {
+
+using test::at;
+using test::Dice;
+
+const Wide kSine = sin_turn(1, 5);
+const Wide kCosine = cos_turn(1, 5);
+
+const Statement& behind(const Graph& graph, std::size_t output) {
+  return graph.node(graph.outputs()[output].node);
+}
+
+Term plain(Value v) { return {v.turn, kNoConstant, v.node}; }
+Term times(Graph& g, Wide c, Value v) { return {v.turn, g.intern(c), v.node}; }
+
+/// The passes must not change what a graph computes.
+void expect_same_value(const Graph& a, const Graph& b) {
+  Dice dice(1);
+  std::vector<WideComplex> inputs;
+  for (int i = 0; i < 16; ++i) inputs.push_back({dice.number(), 0.0});
+  const auto x = evaluate(a, inputs);
+  const auto y = evaluate(b, inputs);
+  ASSERT_EQ(x.size(), y.size());
+  for (std::size_t k = 0; k < x.size(); ++k) EXPECT_LT(std::abs((x[k].re - y[k].re).hi), 1e-28);
+}
+
+TEST(FoldProducts, AConstantGoesIntoTheSumThatOnlyItMultiplies) {
+  Graph g(Field::real);
+  const Value sum = g.statement({times(g, kSine, g.input(0)), times(g, kCosine, -g.input(1))});
+  g.set_outputs({-g.statement({times(g, kCosine, sum)})});
+  const Graph folded = fold_products(g, Into::all);
+  expect_same_value(folded, g);
+  EXPECT_EQ(count(folded).multiplications, 2);
+  const Statement& s = behind(folded, 0);
+  ASSERT_EQ(s.terms.size(), 2U);
+  EXPECT_TRUE(folded.constant(s.terms[0].constant) == kCosine * kSine);
+  // The literal is the product of two literals, not the nearest to the product.
+  EXPECT_EQ(folded.literal(s.terms[0].constant), to_double(kCosine) * to_double(kSine));
+}
+
+TEST(FoldProducts, SumsWithOtherUsesOrPlainTermsStay) {
+  Graph g(Field::real);
+  const Value shared = g.statement({times(g, kSine, g.input(0)), times(g, kCosine, g.input(1))});
+  const Value mixed = g.statement({times(g, kSine, g.input(0)), plain(g.input(1))});
+  g.set_outputs(
+      {g.statement({times(g, kCosine, shared)}), shared, g.statement({times(g, kCosine, mixed)})});
+  EXPECT_EQ(count(fold_products(g, Into::all)), count(g));
+}
+
+TEST(FoldProducts, IntoSpectralProductsOnlyIfAsked) {
+  Graph g(Field::real);
+  const Value sum = g.statement({times(g, kSine, g.input(0)), times(g, kCosine, g.input(1))});
+  g.set_outputs({g.statement({times(g, kCosine, sum)})});
+  EXPECT_EQ(count(fold_products(g, Into::spectral)), count(g));
+  EXPECT_EQ(count(fold_products(g, Into::none)), count(g));
+  g.node(sum.node).spectral = true;
+  EXPECT_EQ(count(fold_products(g, Into::spectral)).multiplications, 2);
+  EXPECT_EQ(count(fold_products(g, Into::none)), count(g));
+}
+
+TEST(FoldDoublings, ADoubledValueThatOnlyOneProductUses) {
+  Graph g(Field::real);
+  const Value alone = g.multiply(2.0, g.input(0));
+  const Value shared = g.multiply(2.0, g.input(1));
+  g.set_outputs({g.statement({times(g, kSine, alone)}), g.statement({times(g, kSine, shared)}),
+                 g.add(shared, g.input(2))});
+  const Graph folded = fold_doublings(g);
+  expect_same_value(folded, g);
+  EXPECT_EQ(folded.literal(behind(folded, 0).terms[0].constant), 2 * to_double(kSine));
+  EXPECT_EQ(count(folded).multiplications, 3);
+}
+
+TEST(OrientOutputs, TurnsDifferencesAround) {
+  Graph g(Field::real);
+  g.set_outputs({g.subtract(g.input(0), g.input(1)), g.subtract(g.input(2), g.input(3))});
+  const Graph oriented = orient_outputs(g, {false, true});
+  expect_same_value(oriented, g);
+  EXPECT_EQ(oriented.outputs()[0].turn, 0);
+  EXPECT_EQ(oriented.outputs()[1].turn, 2);
+  EXPECT_EQ(count(oriented), count(g));
+}
+
+TEST(OrientOutputs, TurnsADifferenceFurtherBackForASum) {
+  Graph g(Field::real);
+  const Value difference = g.subtract(g.input(0), g.input(1));
+  g.set_outputs({g.add(difference, g.input(2)), difference});
+  const Graph oriented = orient_outputs(g, {true, true});
+  expect_same_value(oriented, g);
+  EXPECT_EQ(oriented.outputs()[0].turn, 2);
+  EXPECT_EQ(oriented.outputs()[1].turn, 2);
+  EXPECT_EQ(count(oriented), count(g));
+  // The difference cannot be turned for the one and stay for the other.
+  EXPECT_THROW(orient_outputs(g, {true, false}), std::logic_error);
+}
+
+TEST(OrientOutputs, RefusesWhatHasNoMinus) {
+  Graph g(Field::real);
+  g.set_outputs({g.add(g.input(0), g.input(1))});
+  EXPECT_THROW(orient_outputs(g, {true}), std::logic_error);
+  // The lenient form leaves it.
+  EXPECT_EQ(turn_differences(g, {true}).outputs()[0].turn, 0);
+}
+
+TEST(OrderTerms, ShallowFirstThenAPositiveOne) {
+  Graph g(Field::real);
+  const Value deep = g.add(g.add(g.input(0), g.input(1)), g.input(2));
+  const Value x = g.input(3), y = g.input(4), z = g.input(5);
+  g.set_outputs({g.statement({plain(deep), plain(-x), plain(y), plain(-z)})});
+  const Graph ordered = order_terms(g);
+  expect_same_value(ordered, g);
+  const Statement& s = behind(ordered, 0);
+  ASSERT_EQ(s.terms.size(), 4U);
+  std::vector<int> inputs;
+  for (const Term& t : s.terms) inputs.push_back(ordered.node(t.node).input);
+  EXPECT_EQ(inputs, (std::vector{4, 3, 5, -1}));
+  EXPECT_EQ(count(ordered).depth, 3);
+  EXPECT_EQ(count(g).depth, 5);
+}
+
+TEST(OrderTerms, ADeepPositiveTermDoesNotLead) {
+  Graph g(Field::real);
+  const Value deep = g.add(g.add(g.input(0), g.input(1)), g.input(2));
+  g.set_outputs({g.statement({plain(-g.input(3)), plain(-g.input(4)), plain(deep)})});
+  const Graph ordered = order_terms(g);
+  expect_same_value(ordered, g);
+  EXPECT_EQ(count(ordered).depth, 3);
+}
+
+/// x+y is used by statements with constants only, x-y by a plain one too; y+z costs conversions.
+struct Sums {
+  Graph graph{Field::real};
+  Value sum, difference, other;
+  Sums() {
+    Graph& g = graph;
+    const Value x = g.input(0), y = g.input(1), z = g.input(2);
+    sum = g.add(x, y);
+    difference = g.subtract(x, y);
+    other = g.add(z, g.input(3));
+    g.set_outputs({g.statement({times(g, kSine, sum), times(g, kCosine, x)}),
+                   g.statement({times(g, kSine, difference), times(g, kCosine, y)}),
+                   g.add(difference, z), g.statement({times(g, kSine, other)})});
+    widen_products(g);
+  }
+  bool is_wide(Value v) const { return graph.node(v.node).precision == Precision::wide; }
+};
+
+TEST(WidenSums, TakesTheOnesThatCostFewestConversions) {
+  Sums s;
+  widen_sums(s.graph, {1});
+  EXPECT_TRUE(s.is_wide(s.sum));
+  EXPECT_FALSE(s.is_wide(s.other));
+  EXPECT_FALSE(s.is_wide(s.difference));
+  Sums both;
+  widen_sums(both.graph, {2});
+  EXPECT_TRUE(both.is_wide(both.sum) && both.is_wide(both.other));
+}
+
+TEST(WidenSums, OrAsManyConversionsAsAsked) {
+  Sums s;
+  widen_sums(s.graph, {1, 1});
+  EXPECT_TRUE(s.is_wide(s.other));
+  EXPECT_FALSE(s.is_wide(s.sum));
+  EXPECT_THROW(widen_sums(s.graph, {1, 5}), std::logic_error);
+  EXPECT_THROW(widen_sums(s.graph, {3}), std::logic_error);
+}
+
+TEST(WidenSums, AreNeverNarrowed) {
+  Sums s;
+  const auto before = tally(lower_scalar(s.graph, FloatType::f32));
+  widen_sums(s.graph, {1});
+  const auto after = tally(lower_scalar(s.graph, FloatType::f32));
+  EXPECT_EQ(after.in64.additions, before.in64.additions + 1);
+  EXPECT_EQ(after.in32.additions, before.in32.additions - 1);
+  EXPECT_EQ(after.narrowings, before.narrowings);
+  EXPECT_EQ(after.widenings, before.widenings - 1);
+}
+
+TEST(WidenProducts, DoublingsAreExactInTheirOwnPrecision) {
+  Graph g(Field::real);
+  const Value doubled = g.multiply(2.0, g.input(0));
+  g.set_outputs({g.add(doubled, g.input(1)), g.statement({times(g, kSine, doubled)})});
+  widen_products(g);
+  const Tally t = tally(lower_scalar(g, FloatType::f32));
+  EXPECT_EQ(t.in32.products, 1);
+  EXPECT_EQ(t.in64.products, 1);
+}
+
+TEST(Tally, CountsByPrecisionAndTheLongestChain) {
+  Graph g(Field::real);
+  const Value difference = g.subtract(g.input(0), g.input(1));
+  g.set_outputs({-g.statement({times(g, kSine, difference), plain(g.input(2))}),
+                 g.add(difference, g.input(2))});
+  widen_products(g);
+  const Tally t = tally(lower_scalar(g, FloatType::f32));
+  EXPECT_EQ(t.in32.additions, 2);
+  EXPECT_EQ(t.in64.additions, 1);
+  EXPECT_EQ(t.in64.negations, 1);
+  EXPECT_EQ(t.in64.products, 1);
+  EXPECT_EQ(t.in64.scales, 1);
+  EXPECT_EQ(t.in32.scales, 1);
+  EXPECT_EQ(t.widenings, 2);
+  EXPECT_EQ(t.narrowings, 1);
+  EXPECT_EQ(t.depth, 5);  // difference, product, sum, scale, negation
+  const Tally narrowed = tally(lower_scalar(g, FloatType::f32, Scaled::kept));
+  EXPECT_EQ(narrowed.in64.scales + narrowed.in64.negations, 0);
+  EXPECT_EQ(narrowed.in32.scales, 2);
+}
+
+Graph transposed(const Graph& graph, int inputs) {
+  Graph result(Field::real);
+  std::vector<Value> fed;
+  for (std::size_t k = 0; k < graph.outputs().size(); ++k) {
+    fed.push_back(result.input(static_cast<int>(k)));
+  }
+  result.set_outputs(transpose_statements_into(result, graph, fed, inputs));
+  return result;
+}
+
+TEST(TransposeStatements, IsTheTransposedMapWithItsMultiplications) {
+  for (std::uint32_t seed = 0; seed < 100; ++seed) {
+    const Graph graph = test::random_real_graph(seed);
+    const int inputs = static_cast<int>(test::inputs_of(graph));
+    const Graph back = transposed(graph, inputs);
+    const auto entry = [](const Graph& g, int column, int row) {
+      std::vector<WideComplex> unit(16);
+      unit[at(column)] = {1.0, 0.0};
+      return evaluate(g, unit)[at(row)].re;
+    };
+    for (int i = 0; i < inputs; ++i) {
+      for (int k = 0; k < static_cast<int>(graph.outputs().size()); ++k) {
+        ASSERT_LT(std::abs((entry(graph, i, k) - entry(back, k, i)).hi), 1e-27) << "seed " << seed;
+      }
+    }
+  }
+}
+
+TEST(TransposeStatements, TwiceGivesTheTermsInTheirOrder) {
+  Graph g(Field::real);
+  const Value x = g.input(0), y = g.input(1), z = g.input(2);
+  const Value sum = g.add(y, z), difference = g.subtract(y, z);
+  g.set_outputs({g.statement({plain(x), times(g, kCosine, sum), times(g, kSine, difference)}),
+                 g.statement({plain(x), times(g, kSine, sum), times(g, kCosine, -difference)})});
+  const Graph twice = transposed(transposed(g, 3), 2);
+  expect_same_value(twice, g);
+  for (const std::size_t output : {0U, 1U}) {
+    const auto& was = behind(g, output).terms;
+    const auto& is = behind(twice, output).terms;
+    ASSERT_EQ(is.size(), was.size());
+    for (std::size_t i = 0; i < was.size(); ++i) {
+      EXPECT_EQ(is[i].constant == kNoConstant, was[i].constant == kNoConstant);
+      EXPECT_TRUE(twice.constant(is[i].constant) == g.constant(was[i].constant)) << i;
+      EXPECT_EQ(is[i].turn, was[i].turn);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace haldgen::kernelgen
