@@ -79,8 +79,10 @@ Error error(const Definition& definition, const std::vector<Float>& x, const std
   return sums;
 }
 
-constexpr long double bound_of_one_call = 0.9L;
-constexpr long double bound_of_root_mean_square = 0.65L;
+// At 4 points, where rotations are chains of lifting steps, single calls come near the first; all
+// others stay below 0.9.
+constexpr long double bound_of_one_call = 1.1L;
+constexpr long double bound_of_root_mean_square = 0.5L;
 
 TYPED_TEST(Value, RandomInputIsWithinTheErrorBounds) {
   for (std::int32_t length = 2; length <= 1 << 20; length *= 2) {
