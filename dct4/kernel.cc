@@ -8,6 +8,7 @@
 #include "dct4/size.h"
 #include "kernelgen/emit.h"
 #include "kernelgen/lower.h"
+#include "kernelgen/orient.h"
 
 namespace haldgen::dct4 {
 namespace {
@@ -32,6 +33,14 @@ std::vector<kernelgen::WideComplex> stand_in_rotations(const Kernel& kernel) {
     default:
       return {};
   }
+}
+
+/// The graph without outputs that carry a minus. The fold of two values only names them, the second
+/// with a minus that nothing can absorb.
+Graph oriented(const Kernel& kernel) {
+  const Graph graph = kernel_graph(kernel);
+  if (kernel.part == Part::fold && kernel.size == 2) return graph;
+  return kernelgen::orient_outputs(graph, std::vector<bool>(graph.outputs().size(), false));
 }
 
 int lanes(FloatType type) { return type == FloatType::f32 ? 4 : 2; }
@@ -175,7 +184,7 @@ Graph kernel_graph(const Kernel& kernel) {
 }
 
 Program kernel_program(const Kernel& kernel, const Ordering& ordering) {
-  Graph graph = kernel_graph(kernel);
+  Graph graph = oriented(kernel);
   LaneInputs inputs;
   inputs.lanes = kernel.part == Part::fixed ? 1 : lanes(kernel.type);
   inputs.transposed = kernel.part == Part::recombine;

@@ -39,9 +39,9 @@ struct LaneInputs {
   bool transposed = false;
 };
 
-/// Program of a real graph over V independent sequences, one in each lane, without a scale.
-/// Products and sums of two are its only statements. What the graph holds negated is turned around
-/// inside, so that no instruction is added unless an output is a negated input.
+/// Program of a real graph over V independent sequences, one in each lane, without a scale. Its
+/// statements are products, sums and differences of two; an output with a minus costs a negation
+/// (orient_outputs() turns differences around so that there is none).
 Program lower_lanes(const Graph& graph, FloatType type, const LaneInputs& inputs);
 
 /// Scalar program of a real graph.

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <random>
 #include <stdexcept>
 
 #include "kernelgen/lower.h"
@@ -9,95 +8,12 @@ namespace {
 
 std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
-constexpr int sign_of(int turn) { return turn == 2 ? -1 : 1; }
-
-/// The sign with which each node is held: +1 or -1. A sum of two can be held as a + b, a - b or
-/// b - a, but not as -a - b; a product takes any sign into its constant; inputs and outputs are
-/// plain. Signs that suit all sums are found by repair: while a sum is in the way, one of the signs
-/// that it hangs on is turned, mostly that which leaves the fewest sums in the way.
-class HeldSigns {
- public:
-  HeldSigns(const Graph& graph, const std::map<ConstantId, int>& table)
-      : graph_(graph),
-        sign_(graph.nodes().size(), 1),
-        fixed_(sign_.size(), 0),
-        sums_(sign_.size()) {
-    const std::vector<int> live = live_nodes(graph);
-    for (const int node : live) {
-      const Statement& s = graph.node(node);
-      // A number of the table cannot be negated.
-      if (s.input >= 0 || table.contains(s.terms[0].constant)) fixed_[at(node)] = 1;
-      if (s.terms.size() != 2) continue;
-      for (const int about : {node, s.terms[0].node, s.terms[1].node}) {
-        sums_[at(about)].push_back(node);
-      }
-    }
-    for (const Value v : graph.outputs()) {
-      if (fixed_[at(v.node)]) continue;
-      sign_[at(v.node)] = sign_of(v.turn);
-      fixed_[at(v.node)] = 1;
-    }
-    repair(live);
-  }
-
-  int operator[](int node) const { return sign_[at(node)]; }
-
- private:
-  static constexpr int kMostTurns = 1 << 20;
-
-  bool in_the_way(int node) const {
-    const Statement& s = graph_.node(node);
-    if (s.terms.size() != 2) return false;
-    for (const Term& t : s.terms) {
-      if (sign_[at(node)] * sign_of(t.turn) * sign_[at(t.node)] > 0) return false;
-    }
-    return true;
-  }
-
-  /// Sums in the way around a node, were it turned.
-  int cost_of_turning(int node) {
-    sign_[at(node)] = -sign_[at(node)];
-    int cost = 0;
-    for (const int sum : sums_[at(node)]) cost += in_the_way(sum) ? 1 : 0;
-    sign_[at(node)] = -sign_[at(node)];
-    return cost;
-  }
-
-  int choice(int sum, bool at_random) {
-    std::vector<int> open;
-    for (const int node : {sum, graph_.node(sum).terms[0].node, graph_.node(sum).terms[1].node}) {
-      if (!fixed_[at(node)]) open.push_back(node);
-    }
-    if (open.empty()) throw std::logic_error("a sum of inputs is an output held negated");
-    if (at_random) return open[random_() % open.size()];
-    return *std::min_element(open.begin(), open.end(), [this](int a, int b) {
-      return cost_of_turning(a) < cost_of_turning(b);
-    });
-  }
-
-  void repair(const std::vector<int>& live) {
-    std::vector<int> waiting(live);
-    for (int turns = 0; turns < kMostTurns; ++turns) {
-      while (!waiting.empty() && !in_the_way(waiting.back())) waiting.pop_back();
-      if (waiting.empty()) return;
-      const int turned = choice(waiting.back(), random_() % 8 == 0);
-      sign_[at(turned)] = -sign_[at(turned)];
-      waiting.insert(waiting.end(), sums_[at(turned)].begin(), sums_[at(turned)].end());
-    }
-    throw std::logic_error("no signs suit all sums");
-  }
-
-  const Graph& graph_;
-  std::vector<int> sign_;
-  std::vector<char> fixed_;
-  std::vector<std::vector<int>> sums_;  ///< those whose terms or result a node is
-  std::minstd_rand random_;             ///< the same everywhere
-};
+bool is_minus(const Term& t) { return t.turn == 2; }
 
 class LaneLowering {
  public:
   LaneLowering(const Graph& graph, FloatType type, const LaneInputs& inputs)
-      : graph_(graph), inputs_(inputs), signs_(graph, inputs.table) {
+      : graph_(graph), inputs_(inputs) {
     program_.type = type;
     program_.lanes = inputs.lanes;
     program_.memory = inputs.lanes == 1 ? Memory::arrays : Memory::slots;
@@ -111,7 +27,7 @@ class LaneLowering {
     for (std::size_t k = 0; k < graph_.outputs().size(); ++k) {
       const Value v = graph_.outputs()[k];
       int result = values_[at(v.node)];
-      if (sign_of(v.turn) != signs_[v.node]) result = emit(Op::negate, result);
+      if (v.turn == 2) result = emit(Op::negate, result);
       Instruction store;
       store.op = Op::store;
       store.a = result;
@@ -171,41 +87,41 @@ class LaneLowering {
     }
   }
 
-  int factor(const Term& t, int sign) {
+  int product(const Term& t) {
     const int operand = values_[at(t.node)];
     const auto place = inputs_.table.find(t.constant);
     if (place != inputs_.table.end()) {
+      if (is_minus(t)) throw std::logic_error("a number of the table would have to be negated");
       const auto [entry, fresh] = table_.try_emplace(place->second, -1);
       if (fresh) entry->second = load(input_count_ + place->second);
       return emit(Op::product, operand, entry->second);
     }
     const Wide c = graph_.constant(t.constant);
-    const double rounded =
-        sign * (program_.type == FloatType::f32 ? double{to_float(c)} : to_double(c));
+    const double rounded = program_.type == FloatType::f32 ? double{to_float(c)} : to_double(c);
     Instruction multiply;
     multiply.op = Op::multiply;
     multiply.a = operand;
-    multiply.constant.fill(rounded);
+    multiply.constant.fill(is_minus(t) ? -rounded : rounded);
     return emit(multiply);
   }
 
   int make(int node) {
     const Statement& s = graph_.node(node);
     if (s.input >= 0) return inputs_.transposed ? loaded_[at(s.input)] : load(s.input);
-    const auto sign = [&](const Term& t) {
-      return signs_[node] * sign_of(t.turn) * signs_[t.node];
-    };
-    if (s.terms.size() == 1) return factor(s.terms[0], sign(s.terms[0]));
-    if (s.terms.size() != 2) throw std::logic_error("a statement is no product and no sum of two");
+    if (s.terms.size() == 1) return product(s.terms[0]);
+    const bool plain = std::all_of(s.terms.begin(), s.terms.end(),
+                                   [](const Term& t) { return t.constant == kNoConstant; });
+    if (s.terms.size() != 2 || !plain || (is_minus(s.terms[0]) && is_minus(s.terms[1]))) {
+      throw std::logic_error("a statement is no product and no sum or difference of two");
+    }
     const int a = values_[at(s.terms[0].node)];
     const int b = values_[at(s.terms[1].node)];
-    if (sign(s.terms[0]) < 0) return emit(Op::subtract, b, a);
-    return emit(sign(s.terms[1]) < 0 ? Op::subtract : Op::add, a, b);
+    if (is_minus(s.terms[0])) return emit(Op::subtract, b, a);
+    return emit(is_minus(s.terms[1]) ? Op::subtract : Op::add, a, b);
   }
 
   const Graph& graph_;
   const LaneInputs& inputs_;
-  const HeldSigns signs_;
   Program program_;
   int input_count_ = 0;
   std::vector<int> values_;   ///< the instruction that holds each node
