@@ -112,7 +112,7 @@ std::string kernel_type(int length, ElementType type, bool inverse, const Progra
       float_type(type));
   text += "\n";
   text += "  template <class Access>\n";
-  text += "  static inline void transform(const Float* src, Float* dst, Float scale) {\n";
+  text += "  HALDGEN_INLINE static void transform(const Float* src, Float* dst, Float scale) {\n";
   text += emit_body(program);
   text += "  }\n};\n";
   return text;

@@ -135,7 +135,7 @@ std::string kernel_source(int length, Direction direction, FloatType type,
   text += kernelgen::scale_members(
       length, forward ? kernelgen::Divides::forward : kernelgen::Divides::inverse, type);
   text += "\n  template <class Format>\n";
-  text += "  static inline void transform(const Float* src, Float* dst, Float scale) {\n";
+  text += "  HALDGEN_INLINE static void transform(const Float* src, Float* dst, Float scale) {\n";
   text += forward ? emit_body(program, {"", "Format::at"}) + "    Format::clear(dst);\n"
                   : emit_body(program, {"Format::at", ""});
   text += "  }\n};\n\n}  // namespace\n\n";

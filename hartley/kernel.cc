@@ -90,7 +90,7 @@ std::string kernel_source(int length, FloatType type, kernelgen::Ordering orderi
   text += "namespace haldgen::hartley {\nnamespace {\n\n";
   text += "struct Kernel {\n  using Float = " + element + ";\n";
   text += kernelgen::scale_members(length, kernelgen::Divides::both, type);
-  text += "\n  static inline void transform(const Float* src, Float* dst, Float scale) {\n";
+  text += "\n  HALDGEN_INLINE static void transform(const Float* src, Float* dst, Float scale) {\n";
   text += emit_body(program) + "  }\n};\n\n}  // namespace\n\n";
   text += "extern \"C\" int32_t haldgImpl_Hartley_" + std::to_string(length) + "_" +
           kernelgen::suffix(type) + "(const " + element + "* src, " + element +
