@@ -11,6 +11,7 @@
 #include "frame/checked.h"
 #include "haldgen.h"
 #include "kernelgen/lanes.h"
+#include "kernelgen/scalar.h"
 
 namespace haldgen::dft_complex {
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "frame/checked.h"
+#include "kernelgen/scalar.h"
 
 namespace haldgen::hartley {
 
