@@ -11,17 +11,21 @@
 #include "frame/checked.h"
 #include "haldgen.h"
 #include "kernelgen/lanes.h"
+#include "kernelgen/scalar.h"
 
 namespace haldgen::dft_complex {
 
 template <class Kernel, class Access>
-inline int32_t checked(const typename Kernel::Element* src, typename Kernel::Element* dst,
-                       int32_t flag) {
+HALDGEN_INLINE int32_t checked(const typename Kernel::Element* src, typename Kernel::Element* dst,
+                               int32_t flag) {
   using Float = typename Kernel::Float;
-  return frame::checked<Kernel>(src, dst, flag, [=](Float scale) {
-    Kernel::template transform<Access>(reinterpret_cast<const Float*>(src),
-                                       reinterpret_cast<Float*>(dst), scale);
-  });
+  Float scale;
+  const int32_t status = frame::check<Kernel>(src, dst, flag, scale);
+  if (status != haldStatusOk) [[unlikely]]
+    return status;
+  Kernel::template transform<Access>(reinterpret_cast<const Float*>(src),
+                                     reinterpret_cast<Float*>(dst), scale);
+  return haldStatusOk;
 }
 
 template <class Kernel>
@@ -32,8 +36,8 @@ template <class Kernel>
 
 /// Alignment choice, null test, flag test, transform. A null pointer counts as aligned.
 template <class Kernel>
-inline int32_t run(const typename Kernel::Element* src, typename Kernel::Element* dst,
-                   int32_t flag) {
+HALDGEN_INLINE int32_t run(const typename Kernel::Element* src, typename Kernel::Element* dst,
+                           int32_t flag) {
   if constexpr (Kernel::kPathsDiffer) {
     const auto bits = reinterpret_cast<std::uintptr_t>(src) | reinterpret_cast<std::uintptr_t>(dst);
     if ((bits & 15U) != 0) [[unlikely]]

@@ -112,7 +112,7 @@ std::string kernel_type(int length, ElementType type, bool inverse, const Progra
       float_type(type));
   text += "\n";
   text += "  template <class Access>\n";
-  text += "  static inline void transform(const Float* src, Float* dst, Float scale) {\n";
+  text += "  HALDGEN_INLINE static void transform(const Float* src, Float* dst, Float scale) {\n";
   text += emit_body(program);
   text += "  }\n};\n";
   return text;
@@ -135,10 +135,8 @@ Graph kernel_graph(int length, ElementType type) { return expand(recipe_of(lengt
 Programs kernel_programs(int length, ElementType type, const Tuning& tuning) {
   Programs programs = is_scalar(length, type) ? scalar_programs(length, type)
                                               : vector_programs(length, type, tuning.seed);
-  programs.forward =
-      kernelgen::scheduled(programs.forward, tuning.forward.order, tuning.forward.cap);
-  programs.inverse =
-      kernelgen::scheduled(programs.inverse, tuning.inverse.order, tuning.inverse.cap);
+  programs.forward = kernelgen::scheduled(programs.forward, tuning.forward);
+  programs.inverse = kernelgen::scheduled(programs.inverse, tuning.inverse);
   return programs;
 }
 

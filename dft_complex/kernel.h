@@ -11,19 +11,13 @@
 
 namespace haldgen::dft_complex {
 
-/// The order of a program's instructions; the cap of live values matters to list schedules only.
-struct Ordering {
-  kernelgen::Order order = kernelgen::Order::bisection;
-  int cap = 0;
-};
-
 /// What a kernel's graph leaves open: which of many choices of forms of like cost both directions
 /// have, and the order of the instructions of each. None of it changes a bit of a result, but for
 /// the signs of zeros, in which the directions agree.
 struct Tuning {
   int seed = 0;
-  Ordering forward;
-  Ordering inverse;
+  kernelgen::Ordering forward;
+  kernelgen::Ordering inverse;
 };
 
 /// The frozen choice for the kernels of a length and type.

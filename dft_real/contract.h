@@ -11,10 +11,14 @@
 namespace haldgen::dft_real {
 
 template <class Kernel, class Format>
-inline int32_t run(const typename Kernel::Float* src, typename Kernel::Float* dst, int32_t flag) {
-  return frame::checked<Kernel>(src, dst, flag, [=](typename Kernel::Float scale) {
-    Kernel::template transform<Format>(src, dst, scale);
-  });
+HALDGEN_INLINE int32_t run(const typename Kernel::Float* src, typename Kernel::Float* dst,
+                           int32_t flag) {
+  typename Kernel::Float scale;
+  const int32_t status = frame::check<Kernel>(src, dst, flag, scale);
+  if (status != haldStatusOk) [[unlikely]]
+    return status;
+  Kernel::template transform<Format>(src, dst, scale);
+  return haldStatusOk;
 }
 
 }  // namespace haldgen::dft_real

@@ -115,17 +115,19 @@ Graph kernel_graph(int length, Direction direction) {
   return direction == Direction::forward ? forward_graph(length) : inverse_graph(length);
 }
 
-Program kernel_program(int length, Direction direction, FloatType type, const Tuning& tuning) {
+Program kernel_program(int length, Direction direction, FloatType type,
+                       kernelgen::Ordering ordering) {
   Graph graph = kernel_graph(length, direction);
   kernelgen::widen_products(graph);
   kernelgen::widen_sums(graph, {design_of(length, direction).wide_additions});
-  return kernelgen::scheduled(kernelgen::lower_scalar(graph, type), tuning.order, tuning.cap,
+  return kernelgen::scheduled(kernelgen::lower_scalar(graph, type), ordering,
                               overlap_of(length, direction));
 }
 
-std::string kernel_source(int length, Direction direction, FloatType type, const Tuning& tuning) {
+std::string kernel_source(int length, Direction direction, FloatType type,
+                          kernelgen::Ordering ordering) {
   const bool forward = direction == Direction::forward;
-  const Program program = kernel_program(length, direction, type, tuning);
+  const Program program = kernel_program(length, direction, type, ordering);
   std::string text = head_comment(length, direction, type, program);
   text += "#include \"dft_real/contract.h\"\n\n";
   text += "namespace haldgen::dft_real {\nnamespace {\n\n";
@@ -133,7 +135,7 @@ std::string kernel_source(int length, Direction direction, FloatType type, const
   text += kernelgen::scale_members(
       length, forward ? kernelgen::Divides::forward : kernelgen::Divides::inverse, type);
   text += "\n  template <class Format>\n";
-  text += "  static inline void transform(const Float* src, Float* dst, Float scale) {\n";
+  text += "  HALDGEN_INLINE static void transform(const Float* src, Float* dst, Float scale) {\n";
   text += forward ? emit_body(program, {"", "Format::at"}) + "    Format::clear(dst);\n"
                   : emit_body(program, {"Format::at", ""});
   text += "  }\n};\n\n}  // namespace\n\n";

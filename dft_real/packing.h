@@ -3,6 +3,8 @@
 // which position of the array each of them stands, and which positions hold no value.
 #pragma once
 
+#include "kernelgen/scalar.h"
+
 namespace haldgen::dft_real {
 
 enum class Packing {
@@ -44,8 +46,8 @@ struct Format {
   template <class Float>
   static void clear(Float* spectrum) {
     if constexpr (P == Packing::ccs) {
-      spectrum[1] = 0;
-      if constexpr (N % 2 == 0) spectrum[N + 1] = 0;
+      scalar::store(spectrum + 1, Float{0});
+      if constexpr (N % 2 == 0) scalar::store(spectrum + N + 1, Float{0});
     }
   }
 };

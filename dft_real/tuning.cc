@@ -10,12 +10,13 @@ namespace {
 
 using kernelgen::FloatType;
 using kernelgen::Order;
+using kernelgen::Ordering;
 
 struct Row {
   int length;
   Direction direction;
   FloatType type;
-  Tuning tuning;
+  Ordering ordering;
 };
 
 constexpr auto forward = Direction::forward;
@@ -32,11 +33,11 @@ constexpr Row kRows[] = {
 
 }  // namespace
 
-Tuning tuning_of(int length, Direction direction, FloatType type) {
+Ordering tuning_of(int length, Direction direction, FloatType type) {
   const auto row = std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& r) {
     return r.length == length && r.direction == direction && r.type == type;
   });
-  return row == std::end(kRows) ? Tuning{} : row->tuning;
+  return row == std::end(kRows) ? Ordering{} : row->ordering;
 }
 
 }  // namespace haldgen::dft_real

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 
+#include "frame/inline.h"
 #include "haldgen.h"
 
 namespace haldgen::frame {
@@ -26,14 +27,15 @@ struct Scales {
   }
 };
 
-/// Null test, flag test, then `transform` with the scale.
-template <class Kernel, class Transform>
-inline int32_t checked(const void* src, const void* dst, int32_t flag, const Transform& transform) {
+/// Null test, then flag test: what is wrong, or haldStatusOk and the scale.
+template <class Kernel>
+HALDGEN_INLINE int32_t check(const void* src, const void* dst, int32_t flag,
+                             typename Kernel::Float& scale) {
   if (src == nullptr || dst == nullptr) [[unlikely]]
     return haldStatusNullPointer;
   if (!Scales<Kernel>::valid(flag)) [[unlikely]]
     return haldStatusFlagError;
-  transform(Scales<Kernel>::of(flag));
+  scale = Scales<Kernel>::of(flag);
   return haldStatusOk;
 }
 

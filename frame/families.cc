@@ -55,119 +55,60 @@ constexpr std::string_view inverse_complex_general_definition =
 @param dst     N complex elements X[0..N-1].
 @param length  N, for lengths known at run time only: any length that has a function of its own.)";
 
-constexpr std::string_view forward_ccs_definition =
+// Definitions that differ in a few words are put together when this is compiled.
+template <const std::string_view&... kParts>
+struct Joined {
+  static constexpr auto characters = [] {
+    std::array<char, (kParts.size() + ...)> all{};
+    std::size_t length = 0;
+    for (const std::string_view part : {kParts...}) {
+      for (const char c : part) all[length++] = c;
+    }
+    return all;
+  }();
+  static constexpr std::string_view text{characters.data(), characters.size()};
+};
+
+constexpr std::string_view length_in_the_name = "\nThe length N is the number in the name.\n\n";
+constexpr std::string_view no_remark = "\n";
+constexpr std::string_view length_parameter =
+    R"(
+@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+constexpr std::string_view no_parameter;
+
+constexpr std::string_view ccs = "CCS format: N+2 elements for even N, N+1 for odd N";
+constexpr std::string_view pack = "Pack format: N elements";
+constexpr std::string_view perm = "Perm format: N elements";
+
+constexpr std::string_view forward_real_formula =
     R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+)";
+constexpr std::string_view forward_real_arrays =
+    R"(@param src     N real samples x[0..N-1]; only read.
+@param dst     Half spectrum in )";
+constexpr std::string_view full_stop = ".";
 
-The length N is the number in the name.
-
-@param src     N real samples x[0..N-1]; only read.
-@param dst     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N.)";
-
-constexpr std::string_view inverse_ccs_definition =
+constexpr std::string_view inverse_real_formula =
     R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
                                                                   - I(k) * sin(2*pi*k*n/N)))
 
 The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
 conjugate-symmetric spectrum.
-
-The length N is the number in the name.
-
-@param src     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N; only read.
+)";
+constexpr std::string_view inverse_real_source = "@param src     Half spectrum in ";
+constexpr std::string_view inverse_real_samples =
+    R"(; only read.
 @param dst     N real samples x[0..N-1].)";
 
-constexpr std::string_view forward_ccs_general_definition =
-    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
+template <const std::string_view& kFormat, const std::string_view& kRemark,
+          const std::string_view& kParameter>
+constexpr std::string_view forward_real = Joined<forward_real_formula, kRemark, forward_real_arrays,
+                                                 kFormat, full_stop, kParameter>::text;
 
-@param src     N real samples x[0..N-1]; only read.
-@param dst     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N.
-@param length  N, for lengths known at run time only: any length that has a function of its own.)";
-
-constexpr std::string_view inverse_ccs_general_definition =
-    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
-                                                                  - I(k) * sin(2*pi*k*n/N)))
-
-The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
-conjugate-symmetric spectrum.
-
-@param src     Half spectrum in CCS format: N+2 elements for even N, N+1 for odd N; only read.
-@param dst     N real samples x[0..N-1].
-@param length  N, for lengths known at run time only: any length that has a function of its own.)";
-
-constexpr std::string_view forward_pack_definition =
-    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
-
-The length N is the number in the name.
-
-@param src     N real samples x[0..N-1]; only read.
-@param dst     Half spectrum in Pack format: N elements.)";
-
-constexpr std::string_view inverse_pack_definition =
-    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
-                                                                  - I(k) * sin(2*pi*k*n/N)))
-
-The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
-conjugate-symmetric spectrum.
-
-The length N is the number in the name.
-
-@param src     Half spectrum in Pack format: N elements; only read.
-@param dst     N real samples x[0..N-1].)";
-
-constexpr std::string_view forward_pack_general_definition =
-    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
-
-@param src     N real samples x[0..N-1]; only read.
-@param dst     Half spectrum in Pack format: N elements.
-@param length  N, for lengths known at run time only: any length that has a function of its own.)";
-
-constexpr std::string_view inverse_pack_general_definition =
-    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
-                                                                  - I(k) * sin(2*pi*k*n/N)))
-
-The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
-conjugate-symmetric spectrum.
-
-@param src     Half spectrum in Pack format: N elements; only read.
-@param dst     N real samples x[0..N-1].
-@param length  N, for lengths known at run time only: any length that has a function of its own.)";
-
-constexpr std::string_view forward_perm_definition =
-    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
-
-The length N is the number in the name.
-
-@param src     N real samples x[0..N-1]; only read.
-@param dst     Half spectrum in Perm format: N elements.)";
-
-constexpr std::string_view inverse_perm_definition =
-    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
-                                                                  - I(k) * sin(2*pi*k*n/N)))
-
-The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
-conjugate-symmetric spectrum.
-
-The length N is the number in the name.
-
-@param src     Half spectrum in Perm format: N elements; only read.
-@param dst     N real samples x[0..N-1].)";
-
-constexpr std::string_view forward_perm_general_definition =
-    R"(    R(k) + i*I(k) = s * sum over n of x[n] * exp(-2*pi*i*k*n/N),   k = 0..N/2
-
-@param src     N real samples x[0..N-1]; only read.
-@param dst     Half spectrum in Perm format: N elements.
-@param length  N, for lengths known at run time only: any length that has a function of its own.)";
-
-constexpr std::string_view inverse_perm_general_definition =
-    R"(    x[n] = s * (R(0) + (-1)^n * R(N/2) + 2 * sum over k = 1..q of (R(k) * cos(2*pi*k*n/N)
-                                                                  - I(k) * sin(2*pi*k*n/N)))
-
-The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
-conjugate-symmetric spectrum.
-
-@param src     Half spectrum in Perm format: N elements; only read.
-@param dst     N real samples x[0..N-1].
-@param length  N, for lengths known at run time only: any length that has a function of its own.)";
+template <const std::string_view& kFormat, const std::string_view& kRemark,
+          const std::string_view& kParameter>
+constexpr std::string_view inverse_real = Joined<inverse_real_formula, kRemark, inverse_real_source,
+                                                 kFormat, inverse_real_samples, kParameter>::text;
 
 constexpr std::string_view hartley_definition =
     R"(    H[k] = s * sum over n of x[n] * (cos(2*pi*k*n/N) + sin(2*pi*k*n/N)),   k, n = 0..N-1
@@ -317,30 +258,42 @@ constexpr Family table[] = {
      "Inverse complex DFT, general", inverse_complex_general_definition, general_length_result},
 
     {"DFTFwd_RToCCS", S::transform, real, dft_lengths, real_built, Scaling::forward,
-     "Forward real DFT to CCS, fixed length", forward_ccs_definition, transform_result},
+     "Forward real DFT to CCS, fixed length", forward_real<ccs, length_in_the_name, no_parameter>,
+     transform_result},
     {"DFTFwd_RToCCS", S::sized_transform, real, dft_lengths, real_built, Scaling::forward,
-     "Forward real DFT to CCS, general", forward_ccs_general_definition, general_length_result},
+     "Forward real DFT to CCS, general", forward_real<ccs, no_remark, length_parameter>,
+     general_length_result},
     {"DFTFwd_RToPack", S::transform, real, dft_lengths, real_built, Scaling::forward,
-     "Forward real DFT to Pack, fixed length", forward_pack_definition, transform_result},
+     "Forward real DFT to Pack, fixed length", forward_real<pack, length_in_the_name, no_parameter>,
+     transform_result},
     {"DFTFwd_RToPack", S::sized_transform, real, dft_lengths, real_built, Scaling::forward,
-     "Forward real DFT to Pack, general", forward_pack_general_definition, general_length_result},
+     "Forward real DFT to Pack, general", forward_real<pack, no_remark, length_parameter>,
+     general_length_result},
     {"DFTFwd_RToPerm", S::transform, real, dft_lengths, real_built, Scaling::forward,
-     "Forward real DFT to Perm, fixed length", forward_perm_definition, transform_result},
+     "Forward real DFT to Perm, fixed length", forward_real<perm, length_in_the_name, no_parameter>,
+     transform_result},
     {"DFTFwd_RToPerm", S::sized_transform, real, dft_lengths, real_built, Scaling::forward,
-     "Forward real DFT to Perm, general", forward_perm_general_definition, general_length_result},
+     "Forward real DFT to Perm, general", forward_real<perm, no_remark, length_parameter>,
+     general_length_result},
 
     {"DFTInv_CCSToR", S::transform, real, dft_lengths, real_built, Scaling::inverse,
-     "Inverse real DFT from CCS, fixed length", inverse_ccs_definition, transform_result},
+     "Inverse real DFT from CCS, fixed length", inverse_real<ccs, length_in_the_name, no_parameter>,
+     transform_result},
     {"DFTInv_CCSToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
-     "Inverse real DFT from CCS, general", inverse_ccs_general_definition, general_length_result},
+     "Inverse real DFT from CCS, general", inverse_real<ccs, no_remark, length_parameter>,
+     general_length_result},
     {"DFTInv_PackToR", S::transform, real, dft_lengths, real_built, Scaling::inverse,
-     "Inverse real DFT from Pack, fixed length", inverse_pack_definition, transform_result},
+     "Inverse real DFT from Pack, fixed length",
+     inverse_real<pack, length_in_the_name, no_parameter>, transform_result},
     {"DFTInv_PackToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
-     "Inverse real DFT from Pack, general", inverse_pack_general_definition, general_length_result},
+     "Inverse real DFT from Pack, general", inverse_real<pack, no_remark, length_parameter>,
+     general_length_result},
     {"DFTInv_PermToR", S::transform, real, dft_lengths, real_built, Scaling::inverse,
-     "Inverse real DFT from Perm, fixed length", inverse_perm_definition, transform_result},
+     "Inverse real DFT from Perm, fixed length",
+     inverse_real<perm, length_in_the_name, no_parameter>, transform_result},
     {"DFTInv_PermToR", S::sized_transform, real, dft_lengths, real_built, Scaling::inverse,
-     "Inverse real DFT from Perm, general", inverse_perm_general_definition, general_length_result},
+     "Inverse real DFT from Perm, general", inverse_real<perm, no_remark, length_parameter>,
+     general_length_result},
 
     {"Hartley", S::transform, real, dft_lengths, real_built, Scaling::directionless,
      "Hartley transform, fixed length", hartley_definition, transform_result},

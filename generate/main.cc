@@ -45,8 +45,7 @@ struct UsageError : std::runtime_error {
 
 /// ORDER, ORDER:CAP or ORDER:CAP:SEED.
 struct Tuning {
-  kernelgen::Order order;
-  int cap = 0;
+  kernelgen::Ordering ordering;
   int seed = 0;
 };
 
@@ -56,7 +55,7 @@ Tuning tuning(const std::string& text) {
   std::getline(parts, order, ':');
   std::getline(parts, cap, ':');
   std::getline(parts, seed);
-  return {kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap),
+  return {{kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap)},
           seed.empty() ? 0 : std::stoi(seed)};
 }
 
@@ -104,8 +103,7 @@ constexpr Family kComplex{
     [](int n, FloatType type, const Tuning* tuning) {
       dft_complex::Tuning choice = dft_complex::tuning_of(n, complex_type(type));
       if (tuning != nullptr) {
-        const dft_complex::Ordering ordering{tuning->order, tuning->cap};
-        choice = {tuning->seed, ordering, ordering};
+        choice = {tuning->seed, tuning->ordering, tuning->ordering};
       }
       return dft_complex::kernel_source(n, complex_type(type), choice);
     },
@@ -131,9 +129,8 @@ constexpr Family real_family(std::string_view name) {
         return work_of(dft_real::kernel_program(n, Direction, type, {}));
       },
       [](int n, FloatType type, const Tuning* tuning) {
-        const dft_real::Tuning choice = tuning != nullptr
-                                            ? dft_real::Tuning{tuning->order, tuning->cap}
-                                            : dft_real::tuning_of(n, Direction, type);
+        const kernelgen::Ordering choice =
+            tuning != nullptr ? tuning->ordering : dft_real::tuning_of(n, Direction, type);
         return dft_real::kernel_source(n, Direction, type, choice);
       },
   };
@@ -153,8 +150,8 @@ constexpr Family kHartley{
     [](int n, FloatType) { return hartley::kernel_graph(n); },
     [](int n, FloatType type) { return work_of(hartley::kernel_program(n, type, {})); },
     [](int n, FloatType type, const Tuning* tuning) {
-      const hartley::Tuning choice = tuning != nullptr ? hartley::Tuning{tuning->order, tuning->cap}
-                                                       : hartley::tuning_of(n, type);
+      const kernelgen::Ordering choice =
+          tuning != nullptr ? tuning->ordering : hartley::tuning_of(n, type);
       return hartley::kernel_source(n, type, choice);
     },
 };

@@ -5,13 +5,19 @@
 #include <cstdint>
 
 #include "frame/checked.h"
+#include "kernelgen/scalar.h"
 
 namespace haldgen::hartley {
 
 template <class Kernel>
-inline int32_t run(const typename Kernel::Float* src, typename Kernel::Float* dst, int32_t flag) {
-  return frame::checked<Kernel>(
-      src, dst, flag, [=](typename Kernel::Float scale) { Kernel::transform(src, dst, scale); });
+HALDGEN_INLINE int32_t run(const typename Kernel::Float* src, typename Kernel::Float* dst,
+                           int32_t flag) {
+  typename Kernel::Float scale;
+  const int32_t status = frame::check<Kernel>(src, dst, flag, scale);
+  if (status != haldStatusOk) [[unlikely]]
+    return status;
+  Kernel::transform(src, dst, scale);
+  return haldStatusOk;
 }
 
 }  // namespace haldgen::hartley

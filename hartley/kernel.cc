@@ -74,23 +74,23 @@ Graph kernel_graph(int length) {
   return kernelgen::order_terms(kernelgen::orient_outputs(graph, none));
 }
 
-Program kernel_program(int length, FloatType type, const Tuning& tuning) {
+Program kernel_program(int length, FloatType type, kernelgen::Ordering ordering) {
   Graph graph = kernel_graph(length);
   kernelgen::widen_products(graph);
   kernelgen::widen_sums(graph, design_of(length).wide_sums);
   return kernelgen::scheduled(kernelgen::lower_scalar(graph, type, kernelgen::Scaled::kept),
-                              tuning.order, tuning.cap);
+                              ordering);
 }
 
-std::string kernel_source(int length, FloatType type, const Tuning& tuning) {
-  const Program program = kernel_program(length, type, tuning);
+std::string kernel_source(int length, FloatType type, kernelgen::Ordering ordering) {
+  const Program program = kernel_program(length, type, ordering);
   const std::string element = kernelgen::type_name(type);
   std::string text = head_comment(length, type, program);
   text += "#include \"hartley/contract.h\"\n\n";
   text += "namespace haldgen::hartley {\nnamespace {\n\n";
   text += "struct Kernel {\n  using Float = " + element + ";\n";
   text += kernelgen::scale_members(length, kernelgen::Divides::both, type);
-  text += "\n  static inline void transform(const Float* src, Float* dst, Float scale) {\n";
+  text += "\n  HALDGEN_INLINE static void transform(const Float* src, Float* dst, Float scale) {\n";
   text += emit_body(program) + "  }\n};\n\n}  // namespace\n\n";
   text += "extern \"C\" int32_t haldgImpl_Hartley_" + std::to_string(length) + "_" +
           kernelgen::suffix(type) + "(const " + element + "* src, " + element +

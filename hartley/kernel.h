@@ -10,20 +10,15 @@
 
 namespace haldgen::hartley {
 
-/// The order of a program's instructions; the cap of live values matters to list schedules only.
-struct Tuning {
-  kernelgen::Order order = kernelgen::Order::bisection;
-  int cap = 0;
-};
-
-/// The frozen choice for the kernel of a length and type.
-Tuning tuning_of(int length, kernelgen::FloatType type);
+/// The frozen order of instructions for the kernel of a length and type.
+kernelgen::Ordering tuning_of(int length, kernelgen::FloatType type);
 
 /// The graph that is counted and valued; both element types have it. Inputs and outputs 0..N-1.
 kernelgen::Graph kernel_graph(int length);
 
-kernelgen::Program kernel_program(int length, kernelgen::FloatType type, const Tuning& tuning);
+kernelgen::Program kernel_program(int length, kernelgen::FloatType type,
+                                  kernelgen::Ordering ordering);
 
-std::string kernel_source(int length, kernelgen::FloatType type, const Tuning& tuning);
+std::string kernel_source(int length, kernelgen::FloatType type, kernelgen::Ordering ordering);
 
 }  // namespace haldgen::hartley

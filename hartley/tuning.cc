@@ -10,11 +10,12 @@ namespace {
 
 using kernelgen::FloatType;
 using kernelgen::Order;
+using kernelgen::Ordering;
 
 struct Row {
   int length;
   FloatType type;
-  Tuning tuning;
+  Ordering ordering;
 };
 
 constexpr auto f32 = FloatType::f32;
@@ -29,10 +30,10 @@ constexpr Row kRows[] = {
 
 }  // namespace
 
-Tuning tuning_of(int length, FloatType type) {
+Ordering tuning_of(int length, FloatType type) {
   const auto row = std::find_if(std::begin(kRows), std::end(kRows),
                                 [&](const Row& r) { return r.length == length && r.type == type; });
-  return row == std::end(kRows) ? Tuning{} : row->tuning;
+  return row == std::end(kRows) ? Ordering{} : row->ordering;
 }
 
 }  // namespace haldgen::hartley

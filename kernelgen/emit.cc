@@ -73,9 +73,9 @@ class Printer {
     }
   }
 
-  static std::string element(const char* array, const std::string& subscript, int address) {
-    const std::string number = std::to_string(address);
-    return array + ("[" + (subscript.empty() ? number : subscript + "(" + number + ")") + "]");
+  static std::string place(const char* array, const std::string& subscript, int address) {
+    if (subscript.empty()) return at(array, address);
+    return array + (" + " + subscript + "(" + std::to_string(address) + ")");
   }
 
   void define(int index, const std::string& expression) {
@@ -111,7 +111,8 @@ class Printer {
     }
     switch (in.op) {
       case Op::load:
-        return define(index, scalar() ? element("src", subscripts_.source, in.address[0])
+        return define(index, scalar() ? "scalar::load(" +
+                                            place("src", subscripts_.source, in.address[0]) + ")"
                                       : "Access::load(" + at("src", in.address[0]) + ")");
       case Op::load_pair:
         return define(index, "lanes::load_pair(" + at("src", in.address[0]) + ", " +
@@ -154,7 +155,8 @@ class Printer {
             (scalar() ? std::string("scale") : "s" + std::to_string(scale_mask(in))) + " * " + a);
       case Op::store:
         return line(scalar()
-                        ? element("dst", subscripts_.destination, in.address[0]) + " = " + a + ";"
+                        ? "scalar::store(" + place("dst", subscripts_.destination, in.address[0]) +
+                              ", " + a + ");"
                         : "Access::store(" + at("dst", in.address[0]) + ", " + a + ");");
       case Op::store_pair:
         return line("lanes::store_pair(" + at("dst", in.address[0]) + ", " +

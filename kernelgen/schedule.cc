@@ -324,7 +324,8 @@ Order order_named(std::string_view name) {
 
 std::string_view name_of(Order order) { return kNames[static_cast<std::size_t>(order)]; }
 
-Program scheduled(const Program& program, Order order, int cap, const Overlap& overlap) {
+Program scheduled(const Program& program, Ordering ordering, const Overlap& overlap) {
+  const auto [order, cap] = ordering;
   const Dependences dependences(program, overlap);
   std::vector<int> natural(program.code.size());
   for (std::size_t i = 0; i < natural.size(); ++i) natural[i] = static_cast<int>(i);

@@ -20,12 +20,17 @@ enum class Order {
 Order order_named(std::string_view name);
 std::string_view name_of(Order order);
 
+/// An order and the number of live values that list schedules keep to where they can.
+struct Ordering {
+  Order order = Order::bisection;
+  int cap = 0;
+};
+
 /// Whether a load from one address and a store to another touch the same place when a kernel works
 /// in place. By default they do when the addresses are equal.
 using Overlap = std::function<bool(int load, int store)>;
 
-/// `cap` is the number of live values that list schedules keep to where they can.
-Program scheduled(const Program& program, Order order, int cap,
+Program scheduled(const Program& program, Ordering ordering,
                   const Overlap& overlap = std::equal_to<int>());
 
 /// Values stored to and reloaded from the stack by an ideal register allocator with `registers`

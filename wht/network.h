@@ -11,9 +11,8 @@
 #include <cstddef>
 #include <utility>
 
+#include "frame/inline.h"
 #include "wht/lanes.h"
-
-#define HALDGEN_INLINE [[gnu::always_inline]] inline
 
 namespace haldgen::wht {
 

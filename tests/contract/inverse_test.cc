@@ -1,9 +1,7 @@
 // The inverse complex transforms beside the forward ones.
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
-
+#include "tests/contract/round_trip.h"
 #include "tests/contract/transform.h"
 
 namespace haldgen::test {
@@ -74,22 +72,7 @@ TEST(Inverse, IsTheMirrorOrTheReversalOfTheForwardKernel) {
 TEST(Inverse, UndoesTheForwardTransformOfTheSameFlag) {
   const int pairs = for_each_pair(
       []<class Float>(const Transform<Float>& forward, const Transform<Float>& inverse) {
-        const std::vector<Float> src = random_floats<Float>(forward.src_floats, 9);
-        for (const std::int32_t flag : flags) {
-          const Float factor = flag == haldScaleNone ? static_cast<Float>(forward.points) : 1;
-          const std::vector<Float> back = result(inverse, result(forward, src, flag), flag);
-          long double error = 0;
-          long double norm = 0;
-          for (std::size_t i = 0; i < src.size(); ++i) {
-            error += std::pow(static_cast<long double>(back[i]) / factor - src[i], 2.0L);
-            norm += std::pow(static_cast<long double>(src[i]), 2.0L);
-          }
-          // The errors of two transforms add like independent ones.
-          const long double bound = 1.25L * std::numeric_limits<Float>::epsilon() *
-                                    std::sqrt(std::log2(static_cast<long double>(forward.points)));
-          EXPECT_LE(std::sqrt(error / norm), bound)
-              << forward.name << " and its inverse, flag " << flag;
-        }
+        expect_undone(forward, inverse, 9);
       });
   if (pairs == 0) GTEST_SKIP() << "no inverse complex transform is live";
 }

@@ -4,28 +4,12 @@
 
 #include "haldgen.h"
 #include "tests/built/library.h"
+#include "tests/built/statements.h"
 
 namespace haldgen::hartley {
 namespace {
 
-constexpr double kHalf = 0.5;
-constexpr double kSine3 = 0.8660254037844386;
-constexpr double kEighth = 0.7071067811865476;
-
-template <class Float>
-using Numbers = std::vector<Float>;
-
-/// A statement with constants: 64-bit, rounded once.
-template <class Float>
-Float kept(double value) {
-  return static_cast<Float>(value);
-}
-
-/// 64-bit operand of such a statement.
-template <class Float>
-double w(Float v) {
-  return double{v};
-}
+using namespace test::statements;  // NOLINT(google-build-using-namespace): formulas are in it
 
 template <class Float>
 Numbers<Float> hartley2(const Numbers<Float>& x) {
@@ -56,18 +40,6 @@ Numbers<Float> hartley5(const Numbers<Float>& x) {
   const Float first = x[0] + s1;
   return {first + s2, a1 + b1, a2 + b2, a2 - b2, a1 - b1};
 }
-
-template <class Float>
-struct Block3 {
-  Float total, cosine, sine;
-  Block3(Float x0, Float x1, Float x2) {
-    const Float pair = x1 + x2;
-    const Float difference = x1 - x2;
-    total = x0 + pair;
-    cosine = kept<Float>(w(x0) - kHalf * w(pair));
-    sine = kept<Float>(kSine3 * w(difference));
-  }
-};
 
 template <class Float>
 Numbers<Float> hartley6(const Numbers<Float>& x) {

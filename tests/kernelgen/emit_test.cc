@@ -76,13 +76,13 @@ TEST(Emit, ScalarStatementsOfMixedPrecision) {
   program.code[2].constant[0] = 0.1;
   program.code[4].constant[0] = 1.0;
   EXPECT_EQ(emit_body(program),
-            "    const float v0 = src[3];\n"
+            "    const float v0 = scalar::load(src + 3);\n"
             "    const double v1 = v0;\n"
             "    const double v2 = 0.1 * v1;\n"
             "    const float v3 = static_cast<float>(v2);\n"
             "    const float v4 = scale * v3;\n"
             "    const float v5 = 0.0f - v4;\n"
-            "    dst[1] = v5;\n");
+            "    scalar::store(dst + 1, v5);\n");
 }
 
 TEST(Emit, IsTheSameOnEveryCall) {
@@ -114,6 +114,19 @@ TEST(Dot, ShowsInputsConstantsTurnsAndOutputs) {
   for (const char* part : {"digraph", "x[3]", "x[1]", "+ 0.25", "X[0]", "+i"}) {
     EXPECT_NE(text.find(part), std::string::npos) << part << "\n" << text;
   }
+}
+
+TEST(Emit, ScalarProgramsReachMemoryThroughSubscripts) {
+  Graph g(Field::real);
+  g.set_outputs({g.multiply(2.0, g.input(1))});
+  const Program program = lower_scalar(g, FloatType::f64);
+  // The compiler must not see the 2: it would make an addition.
+  EXPECT_EQ(emit_body(program, {"Format::at", ""}),
+            "    const double two = scalar::opaque(2.0);\n"
+            "    const double v0 = scalar::load(src + Format::at(1));\n"
+            "    const double v1 = two * v0;\n"
+            "    const double v2 = scale * v1;\n"
+            "    scalar::store(dst, v2);\n");
 }
 
 }  // namespace

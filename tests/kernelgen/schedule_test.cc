@@ -37,7 +37,7 @@ void for_all_schedules(const Check& check) {
          {vector_program(seed, 1), vector_program(seed, 2), scalar_program(seed)}) {
       for (const Order order : kOrders) {
         const int cap = 3 + static_cast<int>(seed % 14);
-        ASSERT_NO_FATAL_FAILURE(check(program, scheduled(program, order, cap)))
+        ASSERT_NO_FATAL_FAILURE(check(program, scheduled(program, {order, cap})))
             << "seed " << seed << " " << name_of(order);
       }
     }
@@ -127,7 +127,7 @@ TEST(Schedule, StoresOfHalvesKnowLoadsOfWholeVectors) {
       code.push_back(make(Op::exchange, 2, -1, {}));
       code.push_back(make(Op::store, static_cast<int>(code.size()) - 1, -1, {4, 0}));
       for (const Order order : kOrders) {
-        const Program after = scheduled(program, order, 4);
+        const Program after = scheduled(program, {order, 4});
         const auto position = [&](auto matches) {
           return std::find_if(after.code.begin(), after.code.end(), matches) - after.code.begin();
         };
@@ -179,8 +179,8 @@ TEST(Schedule, KeepsTheBitsAlsoInPlace) {
 TEST(Schedule, IsReproducible) {
   const Program program = vector_program(3, 2);
   for (const Order order : kOrders) {
-    const Program first = scheduled(program, order, 12);
-    const Program second = scheduled(program, order, 12);
+    const Program first = scheduled(program, {order, 12});
+    const Program second = scheduled(program, {order, 12});
     for (std::size_t i = 0; i < first.code.size(); ++i) {
       ASSERT_EQ(essence(first.code[i]), essence(second.code[i]));
       ASSERT_EQ(first.code[i].a, second.code[i].a);
@@ -212,8 +212,8 @@ Program sum_of(int inputs) {
 
 TEST(Schedule, BisectionKeepsATreeInFewRegisters) {
   const Program tree = sum_of(64);
-  EXPECT_GT(spill_traffic(scheduled(tree, Order::program, 16), 8), 32);
-  EXPECT_LE(spill_traffic(scheduled(tree, Order::bisection, 16), 8), 4);
+  EXPECT_GT(spill_traffic(scheduled(tree, {Order::program, 16}), 8), 32);
+  EXPECT_LE(spill_traffic(scheduled(tree, {Order::bisection, 16}), 8), 4);
 }
 
 TEST(Schedule, SpillTrafficOfAHandMadeProgram) {

@@ -6,13 +6,12 @@
 
 #include "haldgen.h"
 #include "tests/built/library.h"
+#include "tests/built/statements.h"
 
 namespace haldgen::dft_real {
 namespace {
 
-constexpr double kHalf = 0.5;
-constexpr double kSine3 = 0.8660254037844386;
-constexpr double kEighth = 0.7071067811865476;
+using namespace test::statements;  // NOLINT(google-build-using-namespace): formulas are in it
 
 /// A result before its scale. A statement with constants is scaled, and negated, in 64 bits.
 struct Result {
@@ -36,21 +35,6 @@ Result sum(double value) { return {value, false, false}; }
 Result minus_sum(double value) { return {value, false, true}; }
 Result statement(double value) { return {value, true, false}; }
 Result minus_statement(double value) { return {value, true, true}; }
-
-/// A statement with constants, whose result is kept: narrowed once.
-template <class Float>
-Float kept(double value) {
-  return static_cast<Float>(value);
-}
-
-template <class Float>
-using Numbers = std::vector<Float>;
-
-/// 64-bit operand of a statement with constants.
-template <class Float>
-double w(Float v) {
-  return double{v};
-}
 
 // Forward: results R(0), R(1), I(1), ..
 
@@ -81,19 +65,6 @@ Results forward5(const Numbers<Float>& x) {
           statement(s1 * w(d2) - s2 * w(d1)), statement(w(x[0]) - c2 * w(a1) + c1 * w(a2)),
           minus_statement(s1 * w(d1) + s2 * w(d2))};
 }
-
-/// The block of three that composed lengths have: sum, cosine and sine statements, kept.
-template <class Float>
-struct Block3 {
-  Float total, cosine, sine;
-  Block3(Float x0, Float x1, Float x2) {
-    const Float pair = x1 + x2;
-    const Float difference = x1 - x2;
-    total = x0 + pair;
-    cosine = kept<Float>(w(x0) - kHalf * w(pair));
-    sine = kept<Float>(kSine3 * w(difference));
-  }
-};
 
 template <class Float>
 Results forward6(const Numbers<Float>& x) {

@@ -1,0 +1,4 @@
+// Kernels are one body each, however long: compilers would leave the longest ones as calls.
+#pragma once
+
+#define HALDGEN_INLINE [[gnu::always_inline]] inline
