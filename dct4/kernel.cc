@@ -144,12 +144,12 @@ std::string name(const Kernel& kernel) {
   return std::string(word(kernel.part)) + "_" + std::to_string(kernel.size);
 }
 
-Ordering ordering_of(const Kernel& kernel) {
+kernelgen::Ordering ordering_of(const Kernel& kernel) {
   using kernelgen::Order;
   struct Row {
     Part part;
     int size;
-    Ordering ordering;
+    kernelgen::Ordering ordering;
   };
   // Measured with both element types. Kernels that are not listed do best by bisection.
   static constexpr Row kRows[] = {
@@ -183,7 +183,7 @@ Graph kernel_graph(const Kernel& kernel) {
   throw std::logic_error("unknown part");
 }
 
-Program kernel_program(const Kernel& kernel, const Ordering& ordering) {
+Program kernel_program(const Kernel& kernel, kernelgen::Ordering ordering) {
   Graph graph = oriented(kernel);
   LaneInputs inputs;
   inputs.lanes = kernel.part == Part::fixed ? 1 : lanes(kernel.type);
@@ -196,7 +196,7 @@ Program kernel_program(const Kernel& kernel, const Ordering& ordering) {
   if (static_cast<int>(inputs.table.size()) != entries) {
     throw std::logic_error("two entries of a table are taken for one");
   }
-  return scheduled(lower_lanes(graph, kernel.type, inputs), ordering.order, ordering.cap);
+  return scheduled(lower_lanes(graph, kernel.type, inputs), ordering);
 }
 
 kernelgen::Counts transform_counts(int length) {
@@ -207,7 +207,7 @@ kernelgen::Counts transform_counts(int length) {
               times(fold_length / 2, count(recombine_graph(radix, length, 0))));
 }
 
-std::string kernel_source(const Kernel& kernel, const Ordering& ordering) {
+std::string kernel_source(const Kernel& kernel, kernelgen::Ordering ordering) {
   const Program program = kernel_program(kernel, ordering);
   return head_comment(kernel) + "#include \"dct4/passes.h\"\n\nnamespace haldgen::dct4 {\n" +
          (kernel.part == Part::fixed ? "\n" + fixed_function(kernel, program)

@@ -27,26 +27,20 @@ std::span<const Kernel> kernels();
 /// Such as "fold_16".
 std::string name(const Kernel& kernel);
 
-/// The order of a program's instructions; the cap of live values matters to list schedules only.
-struct Ordering {
-  kernelgen::Order order = kernelgen::Order::bisection;
-  int cap = 0;
-};
-
-/// The frozen choice for a kernel.
-Ordering ordering_of(const Kernel& kernel);
+/// The frozen order of a kernel's instructions.
+kernelgen::Ordering ordering_of(const Kernel& kernel);
 
 /// What one sequence or block costs, and what is computed from it. Recombinations are those of
 /// block 0; other blocks differ in their rotations only.
 kernelgen::Graph kernel_graph(const Kernel& kernel);
 
-kernelgen::Program kernel_program(const Kernel& kernel, const Ordering& ordering);
+kernelgen::Program kernel_program(const Kernel& kernel, kernelgen::Ordering ordering);
 
 /// What a whole transform executes in real operations: its kernels as often as its plan runs them.
 /// The depth is that of the parts one after another.
 kernelgen::Counts transform_counts(int length);
 
 /// The source file of a kernel.
-std::string kernel_source(const Kernel& kernel, const Ordering& ordering);
+std::string kernel_source(const Kernel& kernel, kernelgen::Ordering ordering);
 
 }  // namespace haldgen::dct4

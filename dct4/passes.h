@@ -9,6 +9,7 @@
 #include <cstddef>
 
 #include "kernelgen/lanes.h"
+#include "kernelgen/scalar.h"
 
 namespace haldgen::dct4 {
 
@@ -128,9 +129,9 @@ struct FoldIo {
     constexpr int kHalf = Body::kSize / 2;
     const std::ptrdiff_t step = known_or<Shape::kStep>(from.step);
     if constexpr (K < kHalf) {
-      return lanes::Unaligned::load(from.ahead + K * step);
+      return lanes::Anywhere::load(from.ahead + K * step);
     } else {
-      return lanes::reversed(lanes::Unaligned::load(from.behind + (K - kHalf) * step));
+      return lanes::reversed(lanes::Anywhere::load(from.behind + (K - kHalf) * step));
     }
   }
   template <int K>
@@ -198,9 +199,9 @@ struct RecombineIo {
   void store(V value) const {
     const std::ptrdiff_t length = known_or<Length>(run.length);
     if constexpr (K < Body::kSize) {
-      lanes::Unaligned::store(run.ascending + K * length, value);
+      lanes::Anywhere::store(run.ascending + K * length, value);
     } else {
-      lanes::Unaligned::store(run.descending + (K - Body::kSize) * length, lanes::reversed(value));
+      lanes::Anywhere::store(run.descending + (K - Body::kSize) * length, lanes::reversed(value));
     }
   }
 };

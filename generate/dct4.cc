@@ -12,8 +12,8 @@ namespace haldgen::generate {
 namespace {
 
 using dct4::Kernel;
-using dct4::Ordering;
 using kernelgen::FloatType;
+using kernelgen::Ordering;
 
 std::string suffix(FloatType type) { return type == FloatType::f32 ? "32f" : "64f"; }
 

@@ -76,6 +76,14 @@ struct Aligned {
   static void store(float* to, __m128 a) { _mm_store_ps(to, a); }
 };
 
+/// Whole vectors anywhere, at once.
+struct Anywhere {
+  static __m128d load(const double* from) { return _mm_loadu_pd(from); }
+  static void store(double* to, __m128d a) { _mm_storeu_pd(to, a); }
+  static __m128 load(const float* from) { return _mm_loadu_ps(from); }
+  static void store(float* to, __m128 a) { _mm_storeu_ps(to, a); }
+};
+
 /// Whole vectors anywhere: 64-bit elements by their halves, pairs of 32-bit elements at once.
 struct Unaligned {
   static __m128d load(const double* from) { return _mm_loadh_pd(_mm_load_sd(from), from + 1); }

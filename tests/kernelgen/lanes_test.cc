@@ -120,7 +120,7 @@ TEST(LaneLowering, SlotsOrderNothing) {
   const Value doubled = graph.multiply(sin_turn(1, 5), graph.input(1));
   graph.set_outputs({doubled, graph.multiply(sin_turn(1, 5), graph.input(0))});
   const Program program =
-      scheduled(lower_lanes(graph, FloatType::f32, {4, {}, false}), Order::bisection, 0);
+      scheduled(lower_lanes(graph, FloatType::f32, {4, {}, false}), {Order::bisection, 0});
   const auto first_store = std::find_if(program.code.begin(), program.code.end(),
                                         [](const Instruction& in) { return is_store(in.op); });
   EXPECT_TRUE(std::any_of(first_store, program.code.end(),
