@@ -74,13 +74,14 @@ endfunction()
 
 # Generated kernels. The order of instructions is the generator's; vectorisers would pack scalar
 # kernels and widen the others' registers' lives. Kernels that are the same code stay functions of
-# their own: g++ would make one jump to the other.
+# their own: g++ would make one jump to the other. To say for a debugger where each of thousands of
+# values is would take g++ minutes.
 function(haldgen_kernels target)
   set_target_properties(${target} PROPERTIES
     CXX_VISIBILITY_PRESET hidden POSITION_INDEPENDENT_CODE ON)
   target_compile_options(${target} PRIVATE
     -mssse3 -fno-tree-vectorize -fno-tree-slp-vectorize
-    $<$<CXX_COMPILER_ID:GNU>:-frename-registers;-fno-ipa-icf>
+    $<$<CXX_COMPILER_ID:GNU>:-frename-registers;-fno-ipa-icf;-fno-var-tracking>
     -Wall -Wextra -Werror)
   add_dependencies(${target} haldgen_frame_generated)
 endfunction()
