@@ -17,7 +17,6 @@ constexpr std::array<Element, 2> complex{Element::c32, Element::c64};
 constexpr std::array<Element, 2> no_arrays{Element::none, Element::none};
 
 // What is built: a size enters when its functions of both element types exist.
-constexpr SizeSet not_built{};
 constexpr SizeSet complex_built(Range{2, 64});
 constexpr SizeSet real_built(Range{2, 64});
 constexpr SizeSet wht_built(wht_orders);
