@@ -46,9 +46,10 @@ struct Uninit {
   void operator()(AVTXContext* context) const { av_tx_uninit(&context); }
 };
 
-/// Forward only: the inverse overwrites its source. Its length 2 is no DFT.
+/// Forward only: the inverse overwrites its source. Multiples of 4 only: of other even lengths what
+/// it computes is no DFT.
 std::optional<Contestant> av_tx(const RealTransform& transform) {
-  if (transform.kind != RealKind::forward || transform.length == 2) return std::nullopt;
+  if (transform.kind != RealKind::forward || transform.length % 4 != 0) return std::nullopt;
   const bool is_float = transform.element == frame::Element::f32;
   const AVTXType type = is_float ? AV_TX_FLOAT_RDFT : AV_TX_DOUBLE_RDFT;
   const float float_scale = 1;
