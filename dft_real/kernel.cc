@@ -24,7 +24,7 @@ Graph forward_graph(int length) {
   const Graph graph = kernelgen::fold_products(half_spectrum(design.recipe), Into::all);
   std::vector<bool> negated(static_cast<std::size_t>(length), false);
   // Value 2k of the half spectrum is the imaginary part of bin k.
-  for (const int bin : design.negated) negated[static_cast<std::size_t>(2 * bin)] = true;
+  for (const int bin : design.negated) negated[2 * static_cast<std::size_t>(bin)] = true;
   return kernelgen::order_terms(kernelgen::orient_outputs(graph, negated));
 }
 

@@ -57,8 +57,9 @@ Bins direct_bins(Graph& g, int n, const Reals& x) {
   for (int k = 1; 2 * k < n; ++k) {
     std::vector<Term> cosines{term(x[0])}, sines;
     for (std::size_t i = 0; i < order.size(); ++i) {
-      cosines.push_back(term(g, kernelgen::cos_turn(k * order[i], n), sums[i]));
-      sines.push_back(term(g, -kernelgen::sin_turn(k * order[i], n), differences[i]));
+      const int turn = k * order[i] % n;
+      cosines.push_back(term(g, kernelgen::cos_turn(turn, n), sums[i]));
+      sines.push_back(term(g, -kernelgen::sin_turn(turn, n), differences[i]));
     }
     const Value re = g.statement(cosines);
     bins.push_back({&g, re, g.statement(sines)});

@@ -45,7 +45,8 @@ struct Convolution {
       const Wide cosine = kernelgen::cos_turn(k, prime);
       const Wide sine = -kernelgen::sin_turn(k, prime);
       const Wide kernel = j % 2 == 0 ? cosine : sine;
-      sum = sum + kernel * kernelgen::root(length(), j * r);
+      const int turn = j * r % length();
+      sum = sum + kernel * kernelgen::root(length(), turn);
     }
     return sum;
   }

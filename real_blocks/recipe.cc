@@ -20,7 +20,7 @@ std::string joined(const Recipe& recipe, const char* separator) {
 }
 
 std::string word(const Recipe& recipe) {
-  const std::string length = std::to_string(recipe.length);
+  std::string length = std::to_string(recipe.length);
   switch (recipe.method) {
     case Method::single:
     case Method::direct:
