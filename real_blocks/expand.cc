@@ -160,28 +160,10 @@ Bins coprime_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   return bins;
 }
 
-/// Column q of a Cooley-Tukey step, twiddled.
-Bins twiddled_row(const std::vector<Bins>& columns, int k, int n) {
-  Bins bins = row(columns, k);
+/// Value q of a row of a Cooley-Tukey step multiplied by exp(-2 pi i q k / n).
+Bins twiddled(Bins bins, int k, int n) {
   for (std::size_t q = 0; q < bins.size(); ++q) {
     bins[q] = rotated(bins[q], static_cast<int>(q) * k, n, EighthRoot::sum_first);
-  }
-  return bins;
-}
-
-Bins cooley_tukey_bins(Graph& g, const Recipe& recipe, const Reals& x) {
-  const int n = recipe.length;
-  const int a = block(recipe, 0).length;
-  const int b = block(recipe, 1).length;
-  std::vector<Bins> columns;
-  for (int q = 0; q < b; ++q) columns.push_back(real_bins(g, block(recipe, 0), strided(x, q, b)));
-  Bins bins = no_bins(n / 2 + 1);
-  for (int k1 = 0; 2 * k1 <= a; ++k1) {
-    const Bins across = k1 == 0 ? real_bins(g, block(recipe, 1), real_parts(row(columns, 0)))
-                                : complex_bins(g, block(recipe, 1), twiddled_row(columns, k1, n));
-    for (std::size_t k2 = 0; k2 < across.size(); ++k2) {
-      place(bins, n, k1 + a * static_cast<int>(k2), across[k2]);
-    }
   }
   return bins;
 }
@@ -204,7 +186,8 @@ Bins permuted_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   return renamed(real_bins(g, block(recipe, 0), permuted), recipe.length, recipe.multiplier);
 }
 
-Bins relabelled_bins(Graph& g, const Recipe& recipe, const Reals& x) {
+/// Exponents and names of bins multiplied by r; r = 1 is the plain Cooley-Tukey step.
+Bins cooley_tukey_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int n = recipe.length;
   const int r = recipe.multiplier;
   const int a = block(recipe, 0).length;
@@ -219,11 +202,7 @@ Bins relabelled_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     if (k1 == 0) {
       across = renamed(real_bins(g, block(recipe, 1), real_parts(row(columns, 0))), b, r);
     } else {
-      Bins column = row(columns, k1);
-      for (int q = 0; q < b; ++q) {
-        column[at(q)] = rotated(column[at(q)], r * q * k1, n, EighthRoot::sum_first);
-      }
-      const Bins all = complex_bins(g, block(recipe, 1), column);
+      const Bins all = complex_bins(g, block(recipe, 1), twiddled(row(columns, k1), r * k1, n));
       for (int k2 = 0; k2 < b; ++k2) across.push_back(all[at(r * k2 % b)]);
     }
     for (std::size_t k2 = 0; k2 < across.size(); ++k2) {
@@ -245,7 +224,7 @@ Bins complex_cooley_tukey(Graph& g, const Recipe& recipe, const Bins& x) {
   }
   Bins bins = no_bins(n);
   for (int k1 = 0; k1 < a; ++k1) {
-    const Bins across = complex_bins(g, block(recipe, 1), twiddled_row(columns, k1, n));
+    const Bins across = complex_bins(g, block(recipe, 1), twiddled(row(columns, k1), k1, n));
     for (int k2 = 0; k2 < b; ++k2) bins[at(k1 + a * k2)] = across[at(k2)];
   }
   return bins;
@@ -387,6 +366,7 @@ Bins real_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     case Method::coprime:
       return coprime_bins(g, recipe, x);
     case Method::cooley_tukey:
+    case Method::relabelled:
       return cooley_tukey_bins(g, recipe, x);
     case Method::rader:
       return rader_bins(g, recipe, x);
@@ -394,8 +374,6 @@ Bins real_bins(Graph& g, const Recipe& recipe, const Reals& x) {
       return real_bins(g, block(recipe, 0), x);
     case Method::permuted:
       return permuted_bins(g, recipe, x);
-    case Method::relabelled:
-      return relabelled_bins(g, recipe, x);
     default:
       throw std::logic_error("no block on real values");
   }
