@@ -11,7 +11,7 @@
 #include <sstream>
 
 #include "bench/calibration.h"
-#include "bench/peers/fftw_dct4.h"
+#include "bench/peers/fftw_real.h"
 
 namespace haldgen::bench {
 namespace {
@@ -102,7 +102,7 @@ std::string Dct4Problem::fault(const Contestant& contestant, const Walk& walk,
 }
 
 std::vector<Contestant> Dct4Problem::rivals() const {
-  return fftw_dct4_contestants(element_, length_);
+  return fftw_real_contestants(FftwReal::dct4, element_, length_);
 }
 
 std::optional<OperationCounts::Counts> Dct4Problem::work(const OperationCounts& counts) const {

@@ -4,9 +4,10 @@
 #include <cstdlib>
 #include <memory>
 #include <stdexcept>
+#include <string>
 #include <type_traits>
 
-#include "bench/peers/real_peers.h"
+#include "bench/peers/fftw_real.h"
 
 // The copy has the same functions under other names.
 #define HALDGEN_DECLARE_COPY(prefix)                                    \
@@ -58,25 +59,27 @@ struct Free {
 
 template <class Real, class Complex, class Plan>
 Contestant contestant(const char* name, Role role, const Library<Real, Complex, Plan>& library,
-                      const RealTransform& transform) {
-  // Planning runs on arrays as aligned as those of the measurement; it overwrites them.
-  const std::size_t bytes = 64 * 66 * sizeof(Real);
+                      FftwReal kind, int n) {
+  // Planning runs on arrays as aligned as those of the measurement; it overwrites them. A half
+  // spectrum has two floats more than the samples at most.
+  const std::size_t bytes = ((static_cast<std::size_t>(n) + 2) * sizeof(Real) + 63) / 64 * 64;
   const std::unique_ptr<void, Free> in(std::aligned_alloc(64, bytes));
   const std::unique_ptr<void, Free> out(std::aligned_alloc(64, bytes));
-  const int n = transform.length;
   Plan plan = nullptr;
-  switch (transform.kind) {
-    case RealKind::forward:
+  switch (kind) {
+    case FftwReal::r2c:
       plan = library.plan_r2c(n, static_cast<Real*>(in.get()), static_cast<Complex*>(out.get()),
                               FFTW_PATIENT);
       break;
-    case RealKind::inverse:
+    case FftwReal::c2r:
       plan = library.plan_c2r(n, static_cast<Complex*>(in.get()), static_cast<Real*>(out.get()),
                               FFTW_PATIENT | FFTW_PRESERVE_INPUT);
       break;
-    case RealKind::hartley:
+    case FftwReal::hartley:
+    case FftwReal::dct4:
       plan = library.plan_r2r(n, static_cast<Real*>(in.get()), static_cast<Real*>(out.get()),
-                              FFTW_DHT, FFTW_PATIENT);
+                              kind == FftwReal::hartley ? FFTW_DHT : FFTW_REDFT11,
+                              FFTW_PATIENT | FFTW_PRESERVE_INPUT);
       break;
   }
   if (plan == nullptr) throw std::runtime_error("FFTW found no plan");
@@ -90,20 +93,21 @@ Contestant contestant(const char* name, Role role, const Library<Real, Complex, 
   }
   // The interface has no const, but these plans keep their input.
   const auto source = [](const std::byte* src) { return const_cast<std::byte*>(src); };
-  switch (transform.kind) {
-    case RealKind::forward:
+  switch (kind) {
+    case FftwReal::r2c:
       return {name, role, [=, execute = library.execute_r2c](const Walk& walk, std::int64_t calls) {
                 walk_calls(walk, calls, [=, p = owner.get()](const std::byte* src, std::byte* dst) {
                   execute(p, reinterpret_cast<Real*>(source(src)), reinterpret_cast<Complex*>(dst));
                 });
               }};
-    case RealKind::inverse:
+    case FftwReal::c2r:
       return {name, role, [=, execute = library.execute_c2r](const Walk& walk, std::int64_t calls) {
                 walk_calls(walk, calls, [=, p = owner.get()](const std::byte* src, std::byte* dst) {
                   execute(p, reinterpret_cast<Complex*>(source(src)), reinterpret_cast<Real*>(dst));
                 });
               }};
-    case RealKind::hartley:
+    case FftwReal::hartley:
+    case FftwReal::dct4:
       break;
   }
   return {name, role, [=, execute = library.execute_r2r](const Walk& walk, std::int64_t calls) {
@@ -115,13 +119,13 @@ Contestant contestant(const char* name, Role role, const Library<Real, Complex, 
 
 }  // namespace
 
-std::vector<Contestant> fftw_real_contestants(const RealTransform& transform) {
+std::vector<Contestant> fftw_real_contestants(FftwReal kind, frame::Element element, int length) {
   const auto both = [&](const auto& wide, const auto& narrow) {
-    return std::vector<Contestant>{contestant("fftw", Role::peer, wide, transform),
-                                   contestant("fftw128", Role::narrow_peer, narrow, transform)};
+    return std::vector<Contestant>{contestant("fftw", Role::peer, wide, kind, length),
+                                   contestant("fftw128", Role::narrow_peer, narrow, kind, length)};
   };
-  return transform.element == frame::Element::f32 ? both(wide_float, narrow_float)
-                                                  : both(wide_double, narrow_double);
+  return element == frame::Element::f32 ? both(wide_float, narrow_float)
+                                        : both(wide_double, narrow_double);
 }
 
 }  // namespace haldgen::bench

@@ -11,6 +11,8 @@ extern "C" {
 #include <optional>
 #include <utility>
 
+#include "bench/peers/fftw_real.h"
+
 namespace haldgen::bench {
 namespace {
 
@@ -40,6 +42,11 @@ std::optional<Contestant> kissfft(const RealTransform& transform) {
                                              reinterpret_cast<kiss_fft_cpx*>(dst));
                                  });
                     }};
+}
+
+FftwReal fftw_kind(RealKind kind) {
+  if (kind == RealKind::forward) return FftwReal::r2c;
+  return kind == RealKind::inverse ? FftwReal::c2r : FftwReal::hartley;
 }
 
 struct Uninit {
@@ -75,7 +82,8 @@ std::optional<Contestant> av_tx(const RealTransform& transform) {
 }  // namespace
 
 std::vector<Contestant> real_peers(const RealTransform& transform) {
-  std::vector<Contestant> all = fftw_real_contestants(transform);
+  std::vector<Contestant> all =
+      fftw_real_contestants(fftw_kind(transform.kind), transform.element, transform.length);
   for (auto peer : {kissfft(transform), av_tx(transform)}) {
     if (peer) all.push_back(std::move(*peer));
   }
