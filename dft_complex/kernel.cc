@@ -25,15 +25,6 @@ FloatType float_type(ElementType type) {
 /// 32-bit elements fill a vector by two, and the smallest lengths are scalar.
 bool is_scalar(int length, ElementType type) { return type == ElementType::c32 && length <= 5; }
 
-/// How 32-bit elements are moved at a length: whole pairs where most neighbours are wanted
-/// together.
-kernelgen::Access access_of(int length) {
-  constexpr std::array kPairs{8,  9,  16, 18, 24, 25, 27, 32, 40, 45, 46,
-                              47, 48, 49, 50, 54, 56, 59, 60, 62, 64};
-  const bool pairs = std::find(kPairs.begin(), kPairs.end(), length) != kPairs.end();
-  return pairs ? kernelgen::Access::pairs : kernelgen::Access::singles;
-}
-
 /// Lengths 3 and 5 of 32-bit elements form their products in 64 bits.
 bool has_wide_products(int length, ElementType type) {
   return type == ElementType::c32 && (length == 3 || length == 5);
@@ -127,6 +118,14 @@ std::string entry(int length, ElementType type, bool inverse) {
 }
 
 }  // namespace
+
+kernelgen::Access access_of(int length) {
+  constexpr std::array kPairs{8,  9,  16, 24, 25, 27, 32, 40, 45, 47,
+                              48, 49, 50, 54, 56, 59, 60, 62, 64};
+  if (length == 18 || length == 46) return kernelgen::Access::pairs_and_lone;
+  const bool pairs = std::find(kPairs.begin(), kPairs.end(), length) != kPairs.end();
+  return pairs ? kernelgen::Access::pairs : kernelgen::Access::singles;
+}
 
 std::string suffix(ElementType type) { return type == ElementType::c32 ? "32fc" : "64fc"; }
 

@@ -6,6 +6,7 @@
 
 #include "dft_complex/recipes.h"
 #include "kernelgen/count.h"
+#include "kernelgen/packed.h"
 #include "kernelgen/program.h"
 #include "kernelgen/schedule.h"
 
@@ -25,6 +26,10 @@ Tuning tuning_of(int length, ElementType type);
 
 /// The graph that is counted and valued; both directions have it.
 kernelgen::Graph kernel_graph(int length, ElementType type);
+
+/// How 32-bit elements are moved at a length from 6 on: whole pairs where most neighbours are
+/// wanted together.
+kernelgen::Access access_of(int length);
 
 /// The programs of both directions, in their orders.
 struct Programs {

@@ -23,11 +23,11 @@ struct Row {
 };
 
 Row paired(int length, Recipe recipe, Into fold = Into::spectral, WideSums wide_sums = {}) {
-  return {length, {Structure::paired, std::move(recipe), fold, wide_sums}};
+  return {length, {Structure::paired, totalled_by_power(std::move(recipe)), fold, wide_sums}};
 }
 
 Row transposed(int length, Recipe recipe, Into fold = Into::spectral, WideSums wide_sums = {}) {
-  return {length, {Structure::transposed, std::move(recipe), fold, wide_sums}};
+  return {length, {Structure::transposed, totalled_by_power(std::move(recipe)), fold, wide_sums}};
 }
 
 std::vector<Row> rows() {
@@ -38,6 +38,9 @@ std::vector<Row> rows() {
   const Recipe sixteen = power_of_two(16);
   const Recipe nineteen_relabelled =
       rader(19, coprime(nine, two), nine, alternated(relabelled(2, nine)));
+  // The twist of the odd half comes before its transform of half the size, not after.
+  const Recipe thirteen = rader(13, halves(coprime(three, two), twisted(three)),
+                                coprime(two, three), coprime_odd(three, odd_two));
   const Recipe fifty_three = rader(
       53, coprime(four, thirteen_by_column), coprime(two, shifted(1, thirteen_classes_three_first)),
       classes(alternated(shifted(2, thirteen_classes_three_first)), two, odd_two));
@@ -58,7 +61,7 @@ std::vector<Row> rows() {
       paired(10, coprime(five, two)),
       paired(11, direct(11)),
       transposed(12, coprime(four, three)),
-      paired(13, rader(13, coprime(four, three), coprime(two, three), twisted(three))),
+      paired(13, thirteen),
       paired(14, coprime(seven, two)),
       transposed(15, coprime(five, three)),
       paired(16, sixteen),

@@ -213,7 +213,7 @@ class PackedLowering {
   // Neighbours that an aligned array of pairs holds in one aligned vector.
   bool whole_vector(const PackedNode& n) const {
     if (graph_.halves == 1) return true;
-    return graph_.access == Access::pairs && n.element[0] >= 0 && n.element[0] % 2 == 0 &&
+    return graph_.access != Access::singles && n.element[0] >= 0 && n.element[0] % 2 == 0 &&
            n.element[1] == n.element[0] + 1;
   }
 

@@ -51,7 +51,7 @@ class Packer {
   /// `leftovers` says how far nodes without a column's partner are paired: not at all, where all
   /// operands stand side by side, or also where one does not.
   Packer(const Graph& graph, int halves, Access access, int leftovers)
-      : graph_(graph), whole_pairs_(halves == 2 && access == Access::pairs) {
+      : graph_(graph), whole_pairs_(halves == 2 && access != Access::singles) {
     packed_.halves = halves;
     packed_.access = access;
     live_.assign(graph.nodes().size(), 0);
@@ -337,8 +337,14 @@ class Packer {
       if (whole_pairs_ && k % 2 == 0 && k + 1 < count && !stored[k + 1] &&
           graph_.outputs()[k + 1].turn == value.turn) {
         const Seat beside = seat_of(graph_.outputs()[k + 1].node);
-        const bool joined = beside.vector == seat.vector && seat.half == 0 && beside.half == 1;
         stored[k + 1] = 1;
+        if (packed_.access == Access::pairs_and_lone &&
+            (is_lone(value.node) || is_lone(graph_.outputs()[k + 1].node))) {
+          store(seat, k, -1);
+          store(beside, k + 1, -1);
+          continue;
+        }
+        const bool joined = beside.vector == seat.vector && seat.half == 0 && beside.half == 1;
         store({joined ? seat.vector : gather(seat, beside), 0}, k, static_cast<int>(k) + 1);
         continue;
       }
@@ -348,6 +354,9 @@ class Packer {
       store(seat, k, other);
     }
   }
+
+  /// Whether the other half of a computed node's vector is idle.
+  bool is_lone(int node) const { return partner_[at(node)] == 0; }
 
   /// A later output in the other half of the same vector, turned the same way.
   int output_beside(std::size_t k, Seat seat, const std::vector<char>& stored) {

@@ -34,8 +34,10 @@ struct PackedNode {
 
 /// How vectors of two elements touch memory.
 enum class Access {
-  pairs,    ///< elements 2q and 2q+1 at once, by whole vectors; other pairs are gathered from these
-  singles,  ///< element by element, two of them filling a vector
+  pairs,  ///< elements 2q and 2q+1 at once, by whole vectors; other pairs are gathered from these
+  pairs_and_lone,  ///< the same, but a result beside an idle half moves alone, and so does the
+                   ///< element that would have been its pair
+  singles,         ///< element by element, two of them filling a vector
 };
 
 struct PackedGraph {

@@ -1,5 +1,6 @@
 #include "real_blocks/expand.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "real_blocks/statements.h"
@@ -46,13 +47,20 @@ std::vector<int> pair_order(int n) {
   return order;
 }
 
-Bins direct_bins(Graph& g, int n, const Reals& x) {
+Bins direct_bins(Graph& g, const Recipe& recipe, const Reals& x) {
+  const int n = recipe.length;
   const std::vector<int> order = pair_order(n);
   Reals sums, differences;
   for (const int k : order) sums.push_back(g.add(x[at(k)], x[at(n - k)]));
   for (const int k : order) differences.push_back(g.subtract(x[at(k)], x[at(n - k)]));
+  Reals totalled = sums;
+  if (recipe.total == Total::by_index) {
+    for (std::size_t i = 0; i < order.size(); ++i) {
+      totalled[at(std::min(order[i], n - order[i]) - 1)] = sums[i];
+    }
+  }
   Value total = x[0];
-  for (const Value sum : sums) total = g.add(total, sum);
+  for (const Value sum : totalled) total = g.add(total, sum);
   Bins bins{{&g, total, {}}};
   for (int k = 1; 2 * k < n; ++k) {
     std::vector<Term> cosines{term(x[0])}, sines;
@@ -110,7 +118,7 @@ Bins power_of_two_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   }
   std::vector<Bins> quarter;
   for (int r = 0; r < 4; ++r) {
-    quarter.push_back(real_bins(g, power_of_two(n / 4, recipe.eighth), strided(x, r, 4)));
+    quarter.push_back(real_bins(g, power_of_two(n / 4), strided(x, r, 4)));
   }
   const Bins outer = real_bins(g, power_of_two(4), real_parts(row(quarter, 0)));
   for (int l = 0; l <= 2; ++l) place(bins, n, l * n / 4, outer[at(l)]);
@@ -118,7 +126,7 @@ Bins power_of_two_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   for (int k = 1; k < n / 8; ++k) {
     Bins column = row(quarter, k);
     for (int r = 1; r < 4; ++r) {
-      column[at(r)] = rotated(column[at(r)], r * k, n, EighthRoot::products_first);
+      column[at(r)] = rotated(column[at(r)], r * k, n, recipe.eighth);
     }
     const Bins across = complex_bins(g, power_of_two(4), column);
     for (int l = 0; l < 4; ++l) place(bins, n, k + l * n / 4, across[at(l)]);
@@ -358,7 +366,7 @@ Bins real_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     case Method::single:
       return {{&g, x[0], {}}};
     case Method::direct:
-      return direct_bins(g, recipe.length, x);
+      return direct_bins(g, recipe, x);
     case Method::power_of_two:
       return power_of_two_bins(g, recipe, x);
     case Method::halves:

@@ -23,8 +23,9 @@ std::string word(const Recipe& recipe) {
   std::string length = std::to_string(recipe.length);
   switch (recipe.method) {
     case Method::single:
-    case Method::direct:
       return length;
+    case Method::direct:
+      return length + (recipe.total == Total::by_power ? "p" : "");
     case Method::power_of_two:
       return length + (recipe.eighth == EighthRoot::sum_first ? "'" : "");
     case Method::halves:
@@ -118,6 +119,12 @@ Recipe relabelled(int multiplier, Recipe cooley_tukey) {
   const int length = cooley_tukey.length;
   Recipe recipe = composed(Method::relabelled, length, std::move(cooley_tukey.blocks));
   recipe.multiplier = multiplier;
+  return recipe;
+}
+
+Recipe totalled_by_power(Recipe recipe) {
+  if (recipe.method == Method::direct && recipe.length > 7) recipe.total = Total::by_power;
+  for (Recipe& block : recipe.blocks) block = totalled_by_power(std::move(block));
   return recipe;
 }
 

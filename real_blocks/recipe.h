@@ -36,11 +36,19 @@ enum class EighthRoot {
   products_first,  ///< two multiplications, then sum and difference
 };
 
+/// The order in which a direct block adds its sums x[k] + x[n-k] to x[0] for bin 0. The cosine and
+/// sine sums take the pairs by powers always; up to 7 points both orders are one.
+enum class Total {
+  by_index,  ///< k = 1, 2, 3, ..
+  by_power,  ///< k = the powers of a generator
+};
+
 struct Recipe {
   Method method;
   int length;
   std::vector<Recipe> blocks = {};
   EighthRoot eighth = EighthRoot::products_first;
+  Total total = Total::by_index;
   int shift = 0;             ///< Rader: power of the root at which the outputs start
   int multiplier = 1;        ///< permuted and relabelled: r, factor of the exponents
   bool from_behind = false;  ///< classes of two: the second has the places -1, 1, 3, ..
@@ -65,6 +73,9 @@ Recipe by_column(Recipe real, Recipe complex);
 Recipe decimated(Recipe half);
 Recipe permuted(int multiplier, Recipe block);
 Recipe relabelled(int multiplier, Recipe cooley_tukey);
+
+/// The recipe with the totals of all its direct blocks in the order of powers.
+Recipe totalled_by_power(Recipe recipe);
 
 Recipe alternated(Recipe block);
 Recipe twisted(Recipe block, EighthRoot eighth = EighthRoot::sum_first);

@@ -3,8 +3,11 @@
 
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 
+#include "kernelgen/forms.h"
+#include "kernelgen/lower.h"
 #include "tests/complex/kernels.h"
 
 namespace haldgen::dft_complex {
@@ -49,6 +52,24 @@ TEST(Counts, FillersForPairsOfElementsAreNoWork) {
   for (const auto& kernel : test::all_kernels()) {
     const auto graph = expand(recipe_of(kernel.length, kernel.type), true);
     EXPECT_EQ(text(count(graph)), text(rows.at(kernel.text()))) << kernel.text();
+  }
+}
+
+// Whole pairs of 32-bit elements by 16 bytes, single ones by 8, both where some stand alone.
+TEST(Access, OfEachLength) {
+  const std::set<int> pairs{8,  9,  16, 18, 24, 25, 27, 32, 40, 45, 46,
+                            47, 48, 49, 50, 54, 56, 59, 60, 62, 64};
+  const std::set<int> alone{9, 18, 25, 27, 45, 46, 47, 49, 54, 59, 60, 62};
+  for (int n = 6; n <= 64; ++n) {
+    const auto packed = pack(expand(recipe_of(n, ElementType::c32), true), 2, access_of(n));
+    const auto program = lower_packed(packed, choose_forms(packed, 1), kernelgen::FloatType::f32);
+    bool whole = false, single = false;
+    for (const auto& in : program.code) {
+      if (!is_load(in.op) && !is_store(in.op)) continue;
+      (in.op == kernelgen::Op::load || in.op == kernelgen::Op::store ? whole : single) = true;
+    }
+    EXPECT_EQ(whole, pairs.count(n) != 0) << n;
+    EXPECT_EQ(single, pairs.count(n) == 0 || alone.count(n) != 0) << n;
   }
 }
 

@@ -6,6 +6,7 @@
 
 #include "hartley/kernel.h"
 #include "kernelgen/evaluate.h"
+#include "tests/kernelgen/steps.h"
 
 namespace haldgen::hartley {
 namespace {
@@ -35,6 +36,25 @@ TEST(Value, EveryGraphIsTheTransform) {
     }
     EXPECT_LT(std::sqrt(error / norm), 1e-29) << n;
   }
+}
+
+// The cosets (1, 3, 9) and (2, 6, 5) carry transforms of three points of the sums s; the
+// differences d are twisted by twelfth roots before their transform of half the size.
+TEST(Steps, ThirteenTwistsFirst) {
+  const test::Steps steps(kernel_graph(13));
+  const auto s = [&](std::size_t j) { return steps.x[j] + steps.x[13 - j]; };
+  const auto d = [&](std::size_t j) { return steps.x[j] - steps.x[13 - j]; };
+  const Wide half(0.5);
+  const Wide c = kernelgen::sin_turn(1, 3);
+  EXPECT_TRUE(steps.have(s(1) - half * (s(3) + s(9))));
+  EXPECT_TRUE(steps.have(c * (s(3) - s(9))));
+  EXPECT_TRUE(steps.have(s(5) - half * (s(2) + s(6))));
+  EXPECT_TRUE(steps.have(c * (s(2) - s(6))));
+  // z = d[2^q] - i d[2^(q+3)], rotated by exp(-2 pi i q / 12), q = 1 and 2.
+  EXPECT_TRUE(steps.have(c * d(2) - half * d(3)));
+  EXPECT_TRUE(steps.have(half * d(2) + c * d(3)));
+  EXPECT_TRUE(steps.have(half * d(4) - c * d(6)));
+  EXPECT_TRUE(steps.have(c * d(4) + half * d(6)));
 }
 
 }  // namespace

@@ -90,7 +90,8 @@ struct Layout {
   int halves;
   Access access;
 };
-constexpr Layout kLayouts[] = {{1, Access::pairs}, {2, Access::pairs}, {2, Access::singles}};
+constexpr Layout kLayouts[] = {
+    {1, Access::pairs}, {2, Access::pairs}, {2, Access::pairs_and_lone}, {2, Access::singles}};
 
 /// All layouts, both directions, chosen and wild forms; `check` gets the packed graph, the choices
 /// and the program.

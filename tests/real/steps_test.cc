@@ -1,0 +1,121 @@
+// The order of stages and sums where several would have the same counts.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "dft_real/kernel.h"
+#include "tests/kernelgen/steps.h"
+
+namespace haldgen::dft_real {
+namespace {
+
+using test::Steps;
+using test::Wides;
+
+std::size_t at(int k) { return static_cast<std::size_t>(k); }
+
+/// Element `stride` j + `first`, modulo the length.
+Wides strided(const Wides& x, int stride, int first, int count) {
+  Wides y;
+  for (int j = 0; j < count; ++j) y.push_back(x[at(stride * j + first) % x.size()]);
+  return y;
+}
+
+Wides sum(const Wides& a, const Wides& b) {
+  Wides c;
+  for (std::size_t i = 0; i < a.size(); ++i) c.push_back(a[i] + b[i]);
+  return c;
+}
+
+/// Samples in the order of the powers of a primitive root.
+Wides by_powers(const Wides& x, int root) {
+  Wides a;
+  std::size_t power = 1;
+  for (std::size_t q = 0; q + 1 < x.size(); ++q) {
+    a.push_back(x[power]);
+    power = power * at(root) % x.size();
+  }
+  return a;
+}
+
+/// What the blocks of 11 of a forward kernel run on: of one of its stages one block.
+Wides block_of_eleven(int length, const Wides& x) {
+  const auto halves_summed = [](const Wides& y) {
+    const int m = static_cast<int>(y.size()) / 2;
+    return sum(strided(y, 2, 0, m), strided(y, 2, m, m));
+  };
+  switch (length) {
+    case 11:
+      return x;
+    case 22:
+      return halves_summed(x);
+    case 23:
+      return halves_summed(by_powers(x, 5));
+    case 46:
+      return halves_summed(by_powers(halves_summed(x), 5));
+    case 47:
+      return halves_summed(by_powers(strided(by_powers(x, 5), 2, 0, 23), 5));
+    default:  // 33, 44, 55: the blocks of 11 come first
+      return strided(x, length / 11, 0, 11);
+  }
+}
+
+TEST(Steps, BinZeroOfElevenAddsThePairsInTheirOrder) {
+  for (const int length : {11, 22, 23, 33, 44, 46, 47, 55}) {
+    const Steps steps(kernel_graph(length, Direction::forward));
+    const Wides y = block_of_eleven(length, steps.x);
+    test::Wide total = y[0];
+    for (std::size_t k = 1; k <= 5; ++k) {
+      total += y[k] + y[11 - k];
+      EXPECT_TRUE(steps.have(total)) << length << " after pair " << k;
+    }
+  }
+}
+
+TEST(Steps, EighthRootsOfRadixFourTakeTheSumFirst) {
+  for (const int length : {32, 64}) {
+    const Steps steps(kernel_graph(length, Direction::forward));
+    // Bin length/16 of class 2, a quarter of the way round: Re = y0 - y1 + y2 - .. of even places,
+    // Im the same of odd ones.
+    const Wides y = strided(steps.x, 4, 2, length / 4);
+    test::Wide re, im;
+    for (std::size_t j = 0; j < y.size(); j += 2) {
+      re += j % 4 == 0 ? y[j] : -y[j];
+      im += j % 4 == 0 ? -y[j + 1] : y[j + 1];
+    }
+    const test::Wide c = sqrt(test::Wide(0.5));
+    for (const test::Wide part : {re + im, re - im}) {
+      EXPECT_TRUE(steps.have(part)) << length;
+      EXPECT_TRUE(steps.have(c * part)) << length;
+    }
+    EXPECT_FALSE(steps.have(c * re) || steps.have(c * im)) << length;
+  }
+}
+
+TEST(Steps, EighteenRotatesItsNineByTheSecondAndFourthPower) {
+  std::set<double> literals;
+  const kernelgen::Graph graph = kernel_graph(18, Direction::forward);
+  for (const int node : live_nodes(graph)) {
+    for (const auto& t : graph.node(node).terms) {
+      if (t.constant != kernelgen::kNoConstant) literals.insert(graph.literal(t.constant));
+    }
+  }
+  EXPECT_EQ(literals,
+            (std::set<double>{0.17364817766693036, 0.3420201433256687, 0.5, 0.8660254037844386,
+                              0.9396926207859084, 0.984807753012208}));
+}
+
+// Forward, 13 runs before 4; so the inverse begins with blocks of 4 on bins that are alike
+// modulo 13.
+TEST(Steps, InverseFiftyTwoBeginsWithFour) {
+  const Steps steps(kernel_graph(52, Direction::inverse));
+  const auto re = [&](int bin) { return steps.x[at(bin == 0 ? 0 : 2 * bin - 1)]; };
+  EXPECT_TRUE(steps.have(re(0) + re(26)));
+  EXPECT_TRUE(steps.have(re(0) - re(26)));
+  // Bin 1 and its mates 14, 12 = -(40), 25 = -(27).
+  EXPECT_TRUE(steps.have(2.0 * re(1) + 2.0 * re(25)));
+  EXPECT_TRUE(steps.have(2.0 * re(14) + 2.0 * re(12)));
+}
+
+}  // namespace
+}  // namespace haldgen::dft_real
