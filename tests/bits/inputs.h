@@ -63,7 +63,6 @@ std::vector<InputSet> input_sets(int points) {
   return {
       {full, -full, -full},  // uniform, below 1
       {full, -full, -full},
-      {full, -full, -full},
       {full, -full - 15, -full + 15},  // mixed magnitudes: every sum rounds
       {full, -full - 5, -full + 5},
       {full, most, most},            // large

@@ -174,8 +174,11 @@ class Taker {
       for (const std::size_t gap : arrays_.src_gaps) {
         input_[gap] = std::numeric_limits<Float>::quiet_NaN();
       }
-      for (const auto& equal_ways : ways_) {
-        const std::string fault = take(equal_ways);
+      // Every input meets every flag, and every placement under one of the flags in turn.
+      for (std::size_t k = 0; k < ways_.size(); ++k) {
+        const bool everywhere = seed % ways_.size() == k;
+        const std::string fault =
+            take(ways_[k], std::span(placements_).first(everywhere ? placements_.size() : 1));
         if (!fault.empty()) return {{}, fault};
       }
     }
@@ -183,19 +186,22 @@ class Taker {
   }
 
  private:
-  std::string take(const std::vector<Way<ArrayElement>>& equal_ways) {
+  std::string take(const std::vector<Way<ArrayElement>>& equal_ways,
+                   std::span<const Placement> places) {
     std::vector<Float> first;
     for (const auto& way : equal_ways) {
-      for (const Placement& placement : placements_) {
-        const std::string where = way.text + text<Float>(placement);
+      for (const Placement& placement : places) {
         const std::int32_t status = run(way, placement);
-        if (status != haldStatusOk) return where + ": status " + std::to_string(status);
+        if (status != haldStatusOk) {
+          return way.text + text<Float>(placement) + ": status " + std::to_string(status);
+        }
         const std::span<const Float> result(dst_.at(placement.dst), arrays_.dst_floats);
         if (first.empty()) {
           first.assign(result.begin(), result.end());
           checksum_.add<Float>(first);
         } else if (!same<Float>(first, result)) {
-          return where + ": other bits than at first";
+          return way.text + text<Float>(placement) + ": other bits than " + equal_ways[0].text +
+                 text<Float>(places[0]);
         }
       }
     }
