@@ -9,7 +9,7 @@
 namespace haldgen::bits {
 
 inline Find linked() {
-  return [](const std::string& name) -> void (*)() {
+  return [](const std::string& name) -> Address {
     const auto all = frame::linked_functions();
     const auto found = std::ranges::lower_bound(all, name, {}, &frame::LinkedFunction::name);
     return found != all.end() && found->name == name ? found->address : nullptr;

@@ -18,7 +18,7 @@ Find loaded(const std::string& path, std::string& error) {
   void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) error = dlerror();
   return [library](const std::string& name) {
-    return reinterpret_cast<void (*)()>(dlsym(library, name.c_str()));
+    return reinterpret_cast<Address>(dlsym(library, name.c_str()));
   };
 #else
   error = "cannot open " + path + ": this machine has linked libraries only";

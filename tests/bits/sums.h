@@ -9,8 +9,11 @@
 
 namespace haldgen::bits {
 
-/// Address of an exported function, to be cast to its type; null if there is none of this name.
-using Find = std::function<void (*(const std::string& name))()>;
+/// Of a function, to be cast to its type.
+using Address = void (*)();
+
+/// Address of an exported function; null if there is none of this name.
+using Find = std::function<Address(const std::string& name)>;
 
 struct Finding {
   std::optional<std::uint64_t> sum;  ///< none for a general entry, which has those of its sizes
