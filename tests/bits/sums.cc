@@ -170,17 +170,19 @@ class Taker {
   Finding take() {
     std::uint64_t seed = 0;
     for (const InputSet& set : input_sets<Float>(arrays_.points)) {
-      input_ = numbers<Float>(set, seed++, arrays_.src_floats);
+      input_ = numbers<Float>(set, seed, arrays_.src_floats);
       for (const std::size_t gap : arrays_.src_gaps) {
         input_[gap] = std::numeric_limits<Float>::quiet_NaN();
       }
-      // Every input meets every flag, and every placement under one of the flags in turn.
+      // Every input meets every flag, and every placement under one of the flags in turn. Without
+      // flags, one input in so many meets every placement.
       for (std::size_t k = 0; k < ways_.size(); ++k) {
-        const bool everywhere = seed % ways_.size() == k;
+        const bool everywhere = seed % flags.size() == k;
         const std::string fault =
             take(ways_[k], std::span(placements_).first(everywhere ? placements_.size() : 1));
         if (!fault.empty()) return {{}, fault};
       }
+      ++seed;
     }
     return {checksum_.value(), {}};
   }
