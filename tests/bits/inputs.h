@@ -85,7 +85,7 @@ std::vector<Float> numbers(const InputSet& set, std::uint64_t seed, std::size_t 
     const std::uint64_t integer = random.bits(set.bits);
     const bool kept = random.bits(set.rarity) == 0;
     const bool negative = random.bits(1) != 0;
-    const auto choices = static_cast<std::uint64_t>(set.highest - set.lowest + 1);
+    const auto choices = static_cast<unsigned>(set.highest - set.lowest + 1);
     const int exponent = set.lowest + static_cast<int>(random.next() % choices);
     const Float magnitude = static_cast<Float>(kept ? integer : 0) * power_of_two<Float>(exponent);
     number = negative ? -magnitude : magnitude;

@@ -52,7 +52,9 @@ std::int32_t other_at_11(const float* src, float* dst, std::int32_t length, std:
   return haldgHartley_32f(src, dst, length, length == 11 ? haldScaleNone : flag);
 }
 
-std::int32_t refuses(const double*, double*, std::int32_t) { return haldStatusFlagError; }
+std::int32_t refuses(const double* /*src*/, double* /*dst*/, std::int32_t /*flag*/) {
+  return haldStatusFlagError;
+}
 
 std::int32_t other_if_allocated(Dct4State** state, std::int32_t length) {
   return haldgDCT4InitAlloc_32f(state, length == 256 ? 128 : length);

@@ -362,7 +362,7 @@ Finding take_dct4(const Find& find, Element element, std::int32_t length) {
     return [=](const Float* src, Float* dst) { return transform(src, dst, of); };
   };
   const auto count = static_cast<std::size_t>(length);
-  const Finding result = finding<Float>(
+  Finding result = finding<Float>(
       library, {length, count, count, {}},
       {{{"state in a buffer, ", call(state)}, {"state allocated, ", call(allocated)}}});
   release(allocated);
