@@ -70,36 +70,41 @@ int32_t transform(const Float* src, Float* dst, const Dct4State* state) {
 
 namespace dct4 = haldgen::dct4;
 
+// What the entries call, here and in other libraries, may rely on a stack aligned to 16 bytes.
+#define HALDGEN_REALIGNED [[gnu::force_align_arg_pointer]]
+
 extern "C" {
 
-int32_t haldgImpl_DCT4GetSize_32f(int32_t length, int32_t* size) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4GetSize_32f(int32_t length, int32_t* size) {
   return dct4::get_size<float>(length, size);
 }
-int32_t haldgImpl_DCT4GetSize_64f(int32_t length, int32_t* size) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4GetSize_64f(int32_t length, int32_t* size) {
   return dct4::get_size<double>(length, size);
 }
 
-int32_t haldgImpl_DCT4Init_32f(Dct4State** state, int32_t length, uint8_t* buffer) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4Init_32f(Dct4State** state, int32_t length,
+                                                 uint8_t* buffer) {
   return dct4::init<float>(state, length, buffer);
 }
-int32_t haldgImpl_DCT4Init_64f(Dct4State** state, int32_t length, uint8_t* buffer) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4Init_64f(Dct4State** state, int32_t length,
+                                                 uint8_t* buffer) {
   return dct4::init<double>(state, length, buffer);
 }
 
-int32_t haldgImpl_DCT4InitAlloc_32f(Dct4State** state, int32_t length) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4InitAlloc_32f(Dct4State** state, int32_t length) {
   return dct4::init_alloc<float>(state, length);
 }
-int32_t haldgImpl_DCT4InitAlloc_64f(Dct4State** state, int32_t length) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4InitAlloc_64f(Dct4State** state, int32_t length) {
   return dct4::init_alloc<double>(state, length);
 }
 
-int32_t haldgImpl_DCT4Free_32f(Dct4State* state) { return dct4::release(state); }
-int32_t haldgImpl_DCT4Free_64f(Dct4State* state) { return dct4::release(state); }
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4Free_32f(Dct4State* state) { return dct4::release(state); }
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4Free_64f(Dct4State* state) { return dct4::release(state); }
 
-int32_t haldgImpl_DCT4_32f(const float* src, float* dst, Dct4State* state) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4_32f(const float* src, float* dst, Dct4State* state) {
   return dct4::transform(src, dst, state);
 }
-int32_t haldgImpl_DCT4_64f(const double* src, double* dst, Dct4State* state) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4_64f(const double* src, double* dst, Dct4State* state) {
   return dct4::transform(src, dst, state);
 }
 
