@@ -1,31 +1,15 @@
 #include "dct4/execution.h"
 
 #include <cstring>
+#include <iterator>
 
 #include "dct4/size.h"
 
 namespace haldgen::dct4 {
 namespace {
 
-template <class Float>
-struct Kernels {
-  using Fixed = void (*)(const Float*, Float*);
-  using Fold = void (*)(const FoldRun<Float>&);
-  using Recombine = void (*)(const RecombineRun<Float>&);
-  using InnerRecombine = void (*)(const InnerRecombineRun<Float>&);
-
-  /// By class, the first of which is 1.
-  static constexpr Fixed kFixed[] = {fixed_2, fixed_4, fixed_8, fixed_16, fixed_32};
-  static constexpr Fold kFold[] = {fold_2, fold_4, fold_8, fold_16, fold_32, fold_64};
-  /// No plan has a radix of 1, nor one below the lanes.
-  static constexpr Recombine kRecombine[] = {
-      nullptr,      kLanes<Float> == 2 ? Recombine{recombine_2} : nullptr,
-      recombine_4,  recombine_8,
-      recombine_16, recombine_32};
-  static constexpr InnerRecombine kInnerRecombine[] = {inner_recombine_2, inner_recombine_4,
-                                                       inner_recombine_8, inner_recombine_16,
-                                                       inner_recombine_32};
-};
+static_assert(std::size(KernelTable<float>::kFixed) == kPlannedClass - 1);
+static_assert(std::size(KernelTable<float>::kFold) == kPlannedFoldClass - 1);
 
 template <class Node>
 const Node& first_item(const NodeList* list) {
@@ -68,7 +52,7 @@ void InnerFoldPass(const InnerFoldNode& node, Float* destination, const Sequence
     if (node.foldClass == kPlannedFoldClass) {
       InnerRun(first_item<InnerPlan>(node.stageList.get()), column, part);
     } else {
-      Kernels<Float>::kFold[node.foldClass - 1](
+      KernelTable<Float>::kFold[node.foldClass - 1](
           {gathered(part, node.subLength, lines), column, kLineGroups});
     }
   }
@@ -77,7 +61,7 @@ void InnerFoldPass(const InnerFoldNode& node, Float* destination, const Sequence
 template <class Float>
 void InnerRecombinePass(const InnerRecombineNode& node, const Spectrum<Float>& destination,
                         const Float* source) {
-  Kernels<Float>::kInnerRecombine[node.tableClass - 1](
+  KernelTable<Float>::kInnerRecombine[node.tableClass - 1](
       {source, floats<Float>(node.table), destination, node.subLength});
 }
 
@@ -88,7 +72,7 @@ constexpr std::ptrdiff_t kFarRows = 4096;
 /// The recombination of 16 blocks at a time into a tile, as if it were all of a transform with rows
 /// of 32, and from there by whole lines into the output.
 template <class Float>
-void recombine_by_tiles(typename Kernels<Float>::Recombine kernel, const RecombineNode& node,
+void recombine_by_tiles(typename Signatures<Float>::recombine* kernel, const RecombineNode& node,
                         Float* destination, const Float* source) {
   constexpr int kRow = 32;
   constexpr int kBlocks = kRow / 2;
@@ -131,7 +115,7 @@ int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source) 
   Sequences<Float> from{source, source + row - kLanes<Float>, row};
   Spectrum<Float> to{destination, row, node.radix};
   if (node.foldClass != kPlannedFoldClass) {
-    Kernels<Float>::kFold[node.foldClass - 1]({from, to, node.laneGroups});
+    KernelTable<Float>::kFold[node.foldClass - 1]({from, to, node.laneGroups});
     return haldStatusOk;
   }
   // Plans with an inner one have a radix of 32, a multiple of a line.
@@ -147,8 +131,9 @@ int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source) 
 
 template <class Float>
 int32_t RecombinePass(const RecombineNode& node, Float* destination, const Float* source) {
-  if (node.tableClass < 1 || node.tableClass > 6) return haldStatusBadArgument;
-  const auto kernel = Kernels<Float>::kRecombine[node.tableClass - 1];
+  constexpr auto kClasses = static_cast<int32_t>(std::size(KernelTable<Float>::kRecombine));
+  if (node.tableClass < 1 || node.tableClass > kClasses) return haldStatusBadArgument;
+  auto* const kernel = KernelTable<Float>::kRecombine[node.tableClass - 1];
   const std::ptrdiff_t length = node.innerLength;
   const auto* const table = floats<Float>(node.table);
   if (length * static_cast<std::ptrdiff_t>(sizeof(Float)) < kFarRows) {
@@ -164,7 +149,7 @@ template <class Float>
 int32_t RunState(const Float* src, Float* dst, const Dct4State& state) {
   if (state.sizeClass < 1 || state.sizeClass > kPlannedClass) return haldStatusBadArgument;
   if (state.sizeClass != kPlannedClass) {
-    Kernels<Float>::kFixed[state.sizeClass - 1](src, dst);
+    KernelTable<Float>::kFixed[state.sizeClass - 1](src, dst);
     return haldStatusOk;
   }
   auto* const scratch = reinterpret_cast<Float*>(state.scratch.get());

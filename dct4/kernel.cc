@@ -1,10 +1,9 @@
 #include "dct4/kernel.h"
 
-#include <algorithm>
-#include <array>
 #include <stdexcept>
 #include <vector>
 
+#include "dct4/kernel_list.h"
 #include "dct4/size.h"
 #include "kernelgen/emit.h"
 #include "kernelgen/lower.h"
@@ -45,19 +44,12 @@ Graph oriented(const Kernel& kernel) {
 
 int lanes(FloatType type) { return type == FloatType::f32 ? 4 : 2; }
 
-std::vector<Kernel> all_kernels() {
-  std::vector<Kernel> all;
-  for (const FloatType type : {FloatType::f32, FloatType::f64}) {
-    for (const int length : {2, 4, 8, 16, 32}) all.push_back({Part::fixed, length, type});
-    for (const int length : {2, 4, 8, 16, 32, 64}) all.push_back({Part::fold, length, type});
-    // A radix is a multiple of the lanes.
-    for (int radix = lanes(type); radix <= 32; radix *= 2) {
-      all.push_back({Part::recombine, radix, type});
-    }
-    for (const int radix : {2, 4, 8, 16, 32}) all.push_back({Part::inner_recombine, radix, type});
-  }
-  return all;
-}
+#define HALDGEN_DCT4_ROW_32F(part, size) {Part::part, size, FloatType::f32},
+#define HALDGEN_DCT4_ROW_64F(part, size) {Part::part, size, FloatType::f64},
+constexpr Kernel kKernels[] = {HALDGEN_DCT4_KERNELS(HALDGEN_DCT4_ROW_32F)
+                                   HALDGEN_DCT4_KERNELS(HALDGEN_DCT4_ROW_64F)};
+#undef HALDGEN_DCT4_ROW_32F
+#undef HALDGEN_DCT4_ROW_64F
 
 kernelgen::Counts times(int count, const kernelgen::Counts& c) {
   return {count * c.additions, count * c.multiplications, c.depth};
@@ -135,10 +127,7 @@ std::string pass_function(const Kernel& kernel, const Program& program) {
 
 }  // namespace
 
-std::span<const Kernel> kernels() {
-  static const std::vector<Kernel> all = all_kernels();
-  return all;
-}
+std::span<const Kernel> kernels() { return kKernels; }
 
 std::string name(const Kernel& kernel) {
   return std::string(word(kernel.part)) + "_" + std::to_string(kernel.size);

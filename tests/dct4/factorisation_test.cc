@@ -119,6 +119,8 @@ TEST(Factorisation, TheWalkPairsWhatIsAddedFirst) {
   for (int s = 0; s < 8; ++s) EXPECT_EQ(WalkIndex(8, s), radix_8[at(s)]) << s;
   for (int s = 0; s < 32; ++s) EXPECT_EQ(WalkIndex(32, s), radix_32[at(s)]) << s;
   EXPECT_EQ(WalkIndex(1, 0), 0);
+  EXPECT_EQ(WalkIndex(2, 0), 0);
+  EXPECT_EQ(WalkIndex(2, 1), 1);
 }
 
 }  // namespace

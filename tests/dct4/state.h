@@ -9,13 +9,13 @@
 
 namespace haldgen::dct4::test {
 
-/// A state in a buffer that begins `misalignment` bytes past a multiple of 32 and has the queried
-/// size.
+/// A state in a buffer that begins `misalignment` bytes past a multiple of 32 and has the size of
+/// the length's state. The length may be one that is refused, if it has a radix all the same.
 template <class Float>
 class OwnState {
  public:
   explicit OwnState(std::int32_t length, std::size_t misalignment = 0)
-      : bytes_(static_cast<std::size_t>(*StateSize(length, sizeof(Float))) + 64) {
+      : bytes_(static_cast<std::size_t>(ExactStateSize(length, sizeof(Float))) + 64) {
     const auto beyond = reinterpret_cast<std::uintptr_t>(bytes_.data()) % 32;
     start_ = bytes_.data() + (32 - beyond) % 32 + misalignment;
     state_ = BuildState<Float>(length, arena());

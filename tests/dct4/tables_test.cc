@@ -37,7 +37,7 @@ TYPED_TEST_SUITE(Tables, FloatTypes);
 
 TYPED_TEST(Tables, RotationsInTheOrderOfTheWalk) {
   constexpr int kWidth = kLanes<TypeParam>;
-  for (const int length : {64, 65, 256, 1024, 2048, 8192}) {
+  for (const int length : {17, 33, 64, 65, 256, 1024, 2048, 8192}) {
     OwnState<TypeParam> state(length);
     const int radix = state->radix;
     const int groups = length / (2 * radix) / kWidth;
