@@ -12,7 +12,7 @@ namespace {
 
 template <class Float>
 int32_t get_size(int32_t length, int32_t* size) {
-  const std::optional<int32_t> bytes = StateSize(length, static_cast<int32_t>(sizeof(Float)));
+  const std::optional<int32_t> bytes = state_size(length, static_cast<int32_t>(sizeof(Float)));
   if (size == nullptr) return haldStatusNullPointer;
   if (!bytes) return haldStatusSizeError;
   *size = *bytes;
@@ -23,8 +23,8 @@ int32_t get_size(int32_t length, int32_t* size) {
 /// that a caller can have asked for holds the state.
 template <class Float>
 bool buildable(int32_t length) {
-  return AcceptLength(length, kLanes<Float>) &&
-         ExactStateSize(length, static_cast<int32_t>(sizeof(Float))) <=
+  return accept_length(length, kLanes<Float>) &&
+         exact_state_size(length, static_cast<int32_t>(sizeof(Float))) <=
              std::numeric_limits<int32_t>::max();
 }
 
@@ -33,7 +33,7 @@ template <class Float>
 int32_t init(Dct4State** state, int32_t length, uint8_t* buffer) {
   if (state == nullptr || buffer == nullptr) return haldStatusNullPointer;
   if (!buildable<Float>(length)) return haldStatusSizeError;
-  *state = BuildState<Float>(length, reinterpret_cast<Arena*>(buffer));
+  *state = build_state<Float>(length, reinterpret_cast<Arena*>(buffer));
   return haldStatusOk;
 }
 
@@ -53,7 +53,7 @@ int32_t init_alloc(Dct4State** state, int32_t length) {
 int32_t release(Dct4State* state) {
   if (state == nullptr) return haldStatusNullPointer;
   Arena* const buffer = state->arena.get();
-  ReleaseState(state);
+  release_state(state);
   haldFree(buffer);
   return haldStatusOk;
 }
@@ -62,7 +62,7 @@ template <class Float>
 int32_t transform(const Float* src, Float* dst, const Dct4State* state) {
   if (state == nullptr || src == nullptr || dst == nullptr) [[unlikely]]
     return haldStatusNullPointer;
-  return RunState(src, dst, *state);
+  return run_state(src, dst, *state);
 }
 
 }  // namespace

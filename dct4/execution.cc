@@ -13,7 +13,7 @@ static_assert(std::size(KernelTable<float>::kFold) == kPlannedFoldClass - 1);
 
 template <class Node>
 const Node& first_item(const NodeList* list) {
-  return *static_cast<const Node*>(ListAt(list, 0));
+  return *static_cast<const Node*>(list_at(list, 0));
 }
 
 template <class Float>
@@ -43,14 +43,15 @@ Sequences<Float> gathered(const Sequences<Float>& source, int length, Lines<Floa
 /// The folds of length m' = m/r' of the positions t = r'u + a, a = 0..r'-1, side by side in the
 /// rows of the inner scratch.
 template <class Float>
-void InnerFoldPass(const InnerFoldNode& node, Float* destination, const Sequences<Float>& source) {
+void inner_fold_pass(const InnerFoldNode& node, Float* destination,
+                     const Sequences<Float>& source) {
   Lines<Float> lines;
   for (int a = 0; a < node.innerRadix; ++a) {
     const Spectrum<Float> column{destination + 2 * a * kLine<Float>,
                                  inner_pitch<Float>(node.innerRadix), kLine<Float>};
     const Sequences<Float> part = source.every(node.innerRadix, a);
     if (node.foldClass == kPlannedFoldClass) {
-      InnerRun(first_item<InnerPlan>(node.stageList.get()), column, part);
+      inner_run(first_item<InnerPlan>(node.stageList.get()), column, part);
     } else {
       KernelTable<Float>::kFold[node.foldClass - 1](
           {gathered(part, node.subLength, lines), column, kLineGroups});
@@ -59,8 +60,8 @@ void InnerFoldPass(const InnerFoldNode& node, Float* destination, const Sequence
 }
 
 template <class Float>
-void InnerRecombinePass(const InnerRecombineNode& node, const Spectrum<Float>& destination,
-                        const Float* source) {
+void inner_recombine_pass(const InnerRecombineNode& node, const Spectrum<Float>& destination,
+                          const Float* source) {
   KernelTable<Float>::kInnerRecombine[node.tableClass - 1](
       {source, floats<Float>(node.table), destination, node.subLength});
 }
@@ -98,18 +99,18 @@ void recombine_by_tiles(typename Signatures<Float>::recombine* kernel, const Rec
 }  // namespace
 
 template <class Float>
-int32_t InnerRun(const InnerPlan& plan, const Spectrum<Float>& destination,
-                 const Sequences<Float>& source) {
+int32_t inner_run(const InnerPlan& plan, const Spectrum<Float>& destination,
+                  const Sequences<Float>& source) {
   if (plan.hasChild != 1) return haldStatusBadArgument;
   auto* const scratch = reinterpret_cast<Float*>(plan.innerScratch.get());
-  InnerFoldPass(first_item<InnerFoldNode>(plan.firstList.get()), scratch, source);
-  InnerRecombinePass<Float>(first_item<InnerRecombineNode>(plan.secondList.get()), destination,
-                            scratch);
+  inner_fold_pass(first_item<InnerFoldNode>(plan.firstList.get()), scratch, source);
+  inner_recombine_pass<Float>(first_item<InnerRecombineNode>(plan.secondList.get()), destination,
+                              scratch);
   return haldStatusOk;
 }
 
 template <class Float>
-int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source) {
+int32_t fold_pass(const FoldNode& node, Float* destination, const Float* source) {
   if (node.foldClass < 1 || node.foldClass > kPlannedFoldClass) return haldStatusBadArgument;
   const std::ptrdiff_t row = node.rowLength;
   Sequences<Float> from{source, source + row - kLanes<Float>, row};
@@ -121,7 +122,7 @@ int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source) 
   // Plans with an inner one have a radix of 32, a multiple of a line.
   const auto& plan = first_item<InnerPlan>(node.stageList.get());
   for (int32_t i = 0; i < node.laneGroups; i += kLineGroups) {
-    InnerRun(plan, to, from);
+    inner_run(plan, to, from);
     from.ahead += kLine<Float>;
     from.behind -= kLine<Float>;
     to.first += kLine<Float>;
@@ -130,7 +131,7 @@ int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source) 
 }
 
 template <class Float>
-int32_t RecombinePass(const RecombineNode& node, Float* destination, const Float* source) {
+int32_t recombine_pass(const RecombineNode& node, Float* destination, const Float* source) {
   constexpr auto kClasses = static_cast<int32_t>(std::size(KernelTable<Float>::kRecombine));
   if (node.tableClass < 1 || node.tableClass > kClasses) return haldStatusBadArgument;
   auto* const kernel = KernelTable<Float>::kRecombine[node.tableClass - 1];
@@ -146,7 +147,7 @@ int32_t RecombinePass(const RecombineNode& node, Float* destination, const Float
 }
 
 template <class Float>
-int32_t RunState(const Float* src, Float* dst, const Dct4State& state) {
+int32_t run_state(const Float* src, Float* dst, const Dct4State& state) {
   if (state.sizeClass < 1 || state.sizeClass > kPlannedClass) return haldStatusBadArgument;
   if (state.sizeClass != kPlannedClass) {
     KernelTable<Float>::kFixed[state.sizeClass - 1](src, dst);
@@ -155,23 +156,24 @@ int32_t RunState(const Float* src, Float* dst, const Dct4State& state) {
   auto* const scratch = reinterpret_cast<Float*>(state.scratch.get());
   const auto& first = first_item<FirstStage>(state.firstStage.get());
   if (first.hasChild == 1) {
-    FoldPass(first_item<FoldNode>(first.stageList.get()), scratch, src);
+    fold_pass(first_item<FoldNode>(first.stageList.get()), scratch, src);
   }
   const auto& second = first_item<SecondStage>(state.secondStage.get());
   if (second.hasChild == 1) {
-    RecombinePass<Float>(first_item<RecombineNode>(second.stageList.get()), dst, scratch);
+    recombine_pass<Float>(first_item<RecombineNode>(second.stageList.get()), dst, scratch);
   }
   return haldStatusOk;
 }
 
-template int32_t FoldPass<float>(const FoldNode&, float*, const float*);
-template int32_t FoldPass<double>(const FoldNode&, double*, const double*);
-template int32_t RecombinePass<float>(const RecombineNode&, float*, const float*);
-template int32_t RecombinePass<double>(const RecombineNode&, double*, const double*);
-template int32_t InnerRun<float>(const InnerPlan&, const Spectrum<float>&, const Sequences<float>&);
-template int32_t InnerRun<double>(const InnerPlan&, const Spectrum<double>&,
-                                  const Sequences<double>&);
-template int32_t RunState<float>(const float*, float*, const Dct4State&);
-template int32_t RunState<double>(const double*, double*, const Dct4State&);
+template int32_t fold_pass<float>(const FoldNode&, float*, const float*);
+template int32_t fold_pass<double>(const FoldNode&, double*, const double*);
+template int32_t recombine_pass<float>(const RecombineNode&, float*, const float*);
+template int32_t recombine_pass<double>(const RecombineNode&, double*, const double*);
+template int32_t inner_run<float>(const InnerPlan&, const Spectrum<float>&,
+                                  const Sequences<float>&);
+template int32_t inner_run<double>(const InnerPlan&, const Spectrum<double>&,
+                                   const Sequences<double>&);
+template int32_t run_state<float>(const float*, float*, const Dct4State&);
+template int32_t run_state<double>(const double*, double*, const Dct4State&);
 
 }  // namespace haldgen::dct4

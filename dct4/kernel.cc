@@ -60,8 +60,8 @@ kernelgen::Counts then(const kernelgen::Counts& a, const kernelgen::Counts& b) {
 }
 
 kernelgen::Counts fold_counts(int length) {
-  if (FoldClass(length) != kPlannedFoldClass) return count(fold_graph(length));
-  const int radix = PickRadix(length / 2);
+  if (fold_class(length) != kPlannedFoldClass) return count(fold_graph(length));
+  const int radix = pick_radix(length / 2);
   const int sub_length = length / radix;
   return then(times(radix, fold_counts(sub_length)),
               times(sub_length / 2, count(inner_recombine_graph(radix, length, 0))));
@@ -189,8 +189,8 @@ Program kernel_program(const Kernel& kernel, kernelgen::Ordering ordering) {
 }
 
 kernelgen::Counts transform_counts(int length) {
-  if (SizeClass(length) != kPlannedClass) return count(fixed_graph(length));
-  const int radix = PickRadix(length / 2);
+  if (size_class(length) != kPlannedClass) return count(fixed_graph(length));
+  const int radix = pick_radix(length / 2);
   const int fold_length = length / radix;
   return then(times(radix, fold_counts(fold_length)),
               times(fold_length / 2, count(recombine_graph(radix, length, 0))));

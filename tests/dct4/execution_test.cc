@@ -58,7 +58,7 @@ TYPED_TEST(Execution, FirstStageLeavesFoldsInBlocks) {
   for (const int length : {64, 512, 2048, 4096, 16384, 131072}) {
     OwnState<TypeParam> state(length);
     const auto x = random_floats<TypeParam>(length);
-    ASSERT_EQ(FoldPass(*state.folds(), state.scratch(), x.data()), haldStatusOk);
+    ASSERT_EQ(fold_pass(*state.folds(), state.scratch(), x.data()), haldStatusOk);
     const int radix = state->radix, blocks = length / (2 * radix);
     const long double bound =
         2 * std::sqrt(length / radix) * std::numeric_limits<TypeParam>::epsilon();
@@ -92,7 +92,7 @@ class Recombination {
     node.view = &view;
     std::byte* const table = bytes_.data() + sizeof(Nodes);
     node.table = table + (32 - reinterpret_cast<std::uintptr_t>(table) % 32) % 32;
-    FillRotationTable<Float>(node);
+    fill_rotation_table<Float>(node);
   }
   const RecombineNode& node() const { return reinterpret_cast<const Nodes*>(bytes_.data())->node; }
 
@@ -112,7 +112,7 @@ void check_second_stage(const RecombineNode& node, std::int64_t length) {
   const auto random = random_floats<Float>(radix * m + 8);
   const Float* const z = aligned(random);
   std::vector<Float> y(random.size(), std::numeric_limits<Float>::quiet_NaN());
-  ASSERT_EQ(RecombinePass(node, y.data(), z), haldStatusOk);
+  ASSERT_EQ(recombine_pass(node, y.data(), z), haldStatusOk);
   // A term is two products of sum at most 2 with at most five roundings each, half an epsilon every
   // one; the errors of a sum grow like the root of its terms, and its last levels round too.
   const long double bound = 8 * std::sqrt(radix) * std::numeric_limits<Float>::epsilon();
@@ -160,17 +160,17 @@ TYPED_TEST(Execution, UnknownClassesAreRefused) {
   const auto untouched = y;
   for (const int bad : {-1, 0, 8}) {
     state.folds()->foldClass = bad;
-    EXPECT_EQ(FoldPass(*state.folds(), y.data(), x.data()), haldStatusBadArgument) << bad;
+    EXPECT_EQ(fold_pass(*state.folds(), y.data(), x.data()), haldStatusBadArgument) << bad;
   }
   auto* const plan = state.template item<InnerPlan>(state.folds()->stageList.get());
   plan->hasChild = 0;
-  EXPECT_EQ(InnerRun<TypeParam>(*plan, {y.data(), 64, 32}, {x.data(), x.data(), 64}),
+  EXPECT_EQ(inner_run<TypeParam>(*plan, {y.data(), 64, 32}, {x.data(), x.data(), 64}),
             haldStatusBadArgument);
   for (const int bad : {-1, 0, 7}) {
     state.recombination()->tableClass = bad;
-    EXPECT_EQ(RecombinePass(*state.recombination(), y.data(), x.data()), haldStatusBadArgument);
+    EXPECT_EQ(recombine_pass(*state.recombination(), y.data(), x.data()), haldStatusBadArgument);
     state->sizeClass = bad;
-    EXPECT_EQ(RunState(x.data(), y.data(), *state.get()), haldStatusBadArgument) << bad;
+    EXPECT_EQ(run_state(x.data(), y.data(), *state.get()), haldStatusBadArgument) << bad;
   }
   EXPECT_EQ(y, untouched);
 }
@@ -181,12 +181,12 @@ TYPED_TEST(Execution, StagesWithoutAChildAreSkipped) {
   std::vector<TypeParam> y(64, TypeParam{7});
   const auto untouched = y;
   state.second_stage()->hasChild = 0;
-  EXPECT_EQ(RunState(x.data(), y.data(), *state.get()), haldStatusOk);
+  EXPECT_EQ(run_state(x.data(), y.data(), *state.get()), haldStatusOk);
   EXPECT_EQ(y, untouched);
   state.second_stage()->hasChild = 1;
   state.first_stage()->hasChild = 0;
   std::fill_n(state.scratch(), 64, TypeParam{0});
-  EXPECT_EQ(RunState(x.data(), y.data(), *state.get()), haldStatusOk);
+  EXPECT_EQ(run_state(x.data(), y.data(), *state.get()), haldStatusOk);
   EXPECT_EQ(y, std::vector<TypeParam>(64));
 }
 

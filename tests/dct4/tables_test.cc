@@ -48,7 +48,7 @@ TYPED_TEST(Tables, RotationsInTheOrderOfTheWalk) {
       for (int s = 0; s < radix; ++s) {
         for (const bool sine : {false, true}) {
           for (int lane = 0; lane < kWidth; ++lane) {
-            const std::int64_t odd_j = 2 * WalkIndex(radix, s) + 1;
+            const std::int64_t odd_j = 2 * walk_index(radix, s) + 1;
             const std::int64_t odd_b = 2 * (kWidth * g + lane) + 1;
             ASSERT_EQ(table[index], value<TypeParam>(sine, odd_j * odd_b, 4 * length))
                 << length << ", entry " << index;
