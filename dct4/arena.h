@@ -46,7 +46,7 @@ enum class Operation : std::int32_t;
 /// What every node begins with.
 struct PlanNode {
   Operation freeOp{};     ///< releases what the node holds, not the node's own block
-  std::int32_t nodeSize;  ///< as given to ArenaTake
+  std::int32_t nodeSize;  ///< as given to arena_take
   Operation setupOp{};    ///< what built the node; of a formula, its element function
   Link<Arena> arena;
 };
@@ -64,44 +64,46 @@ static_assert(sizeof(NodeList) == kCellSize);
 /// Blocks are rounded up to multiples of this, and begin at such.
 inline constexpr std::int32_t kBlockAlignment = 32;
 
-constexpr std::int32_t ArenaRound(std::int32_t n) {
+constexpr std::int32_t arena_round(std::int32_t n) {
   // Unsigned, so that amounts beyond the range wrap.
   constexpr std::uint32_t kLowBits = kBlockAlignment - 1;
   return static_cast<std::int32_t>((static_cast<std::uint32_t>(n) + kLowBits) & ~kLowBits);
 }
 
-constexpr std::int32_t ListCellBytes(std::int32_t count) { return count * ArenaRound(kCellSize); }
+constexpr std::int32_t list_cell_bytes(std::int32_t count) {
+  return count * arena_round(kCellSize);
+}
 
 /// Empties the arena: the first block will begin at the lowest boundary that lies at least 33 bytes
 /// behind the buffer's start.
-void ArenaReset(Arena* arena);
+void arena_reset(Arena* arena);
 
-std::byte* ArenaPosition(const Arena* arena);
+std::byte* arena_position(const Arena* arena);
 
-/// The next ArenaRound(n) bytes; no bound is tested.
-std::byte* ArenaTake(Arena* arena, std::int32_t n);
+/// The next arena_round(n) bytes; no bound is tested.
+std::byte* arena_take(Arena* arena, std::int32_t n);
 
-/// Moves the position back by ArenaRound(n), which it returns. Amounts of releases need to add up;
+/// Moves the position back by arena_round(n), which it returns. Amounts of releases need to add up;
 /// their order means nothing, and so the block is not looked at.
-std::int32_t ArenaGiveBack(Arena* arena, const void* block, std::int32_t n);
+std::int32_t arena_give_back(Arena* arena, const void* block, std::int32_t n);
 
 /// Makes a new, empty head cell of a block.
-NodeList* ListCellInit(void* cell, Arena* arena);
+NodeList* list_cell_init(void* cell, Arena* arena);
 
 /// Puts the item behind the last one, in a new cell unless it is the first. Returns the item.
-PlanNode* ListAppend(NodeList* head, PlanNode* item);
+PlanNode* list_append(NodeList* head, PlanNode* item);
 
 /// The item at an index, null past the end and at negative indices.
-inline PlanNode* ListAt(const NodeList* head, std::int32_t index) {
+inline PlanNode* list_at(const NodeList* head, std::int32_t index) {
   if (index < 0) return nullptr;
   while (head != nullptr && index-- > 0) head = head->next.get();
   return head == nullptr ? nullptr : head->item.get();
 }
 
 /// Gives back all cells but the head.
-void ListReleaseCells(const NodeList* head);
+void list_release_cells(const NodeList* head);
 
 /// Calls each item's free operation and gives its block back. For lists that own their items.
-void ListFreeItems(const NodeList* head);
+void list_free_items(const NodeList* head);
 
 }  // namespace haldgen::dct4

@@ -12,7 +12,7 @@ namespace {
 
 template <class Float>
 int32_t get_size(int32_t length, int32_t* size) {
-  const std::optional<int32_t> bytes = StateSize(length, static_cast<int32_t>(sizeof(Float)));
+  const std::optional<int32_t> bytes = state_size(length, static_cast<int32_t>(sizeof(Float)));
   if (size == nullptr) return haldStatusNullPointer;
   if (!bytes) return haldStatusSizeError;
   *size = *bytes;
@@ -23,8 +23,8 @@ int32_t get_size(int32_t length, int32_t* size) {
 /// that a caller can have asked for holds the state.
 template <class Float>
 bool buildable(int32_t length) {
-  return AcceptLength(length, kLanes<Float>) &&
-         ExactStateSize(length, static_cast<int32_t>(sizeof(Float))) <=
+  return accept_length(length, kLanes<Float>) &&
+         exact_state_size(length, static_cast<int32_t>(sizeof(Float))) <=
              std::numeric_limits<int32_t>::max();
 }
 
@@ -33,7 +33,7 @@ template <class Float>
 int32_t init(Dct4State** state, int32_t length, uint8_t* buffer) {
   if (state == nullptr || buffer == nullptr) return haldStatusNullPointer;
   if (!buildable<Float>(length)) return haldStatusSizeError;
-  *state = BuildState<Float>(length, reinterpret_cast<Arena*>(buffer));
+  *state = build_state<Float>(length, reinterpret_cast<Arena*>(buffer));
   return haldStatusOk;
 }
 
@@ -53,7 +53,7 @@ int32_t init_alloc(Dct4State** state, int32_t length) {
 int32_t release(Dct4State* state) {
   if (state == nullptr) return haldStatusNullPointer;
   Arena* const buffer = state->arena.get();
-  ReleaseState(state);
+  release_state(state);
   haldFree(buffer);
   return haldStatusOk;
 }
@@ -62,7 +62,7 @@ template <class Float>
 int32_t transform(const Float* src, Float* dst, const Dct4State* state) {
   if (state == nullptr || src == nullptr || dst == nullptr) [[unlikely]]
     return haldStatusNullPointer;
-  return RunState(src, dst, *state);
+  return run_state(src, dst, *state);
 }
 
 }  // namespace
@@ -70,36 +70,41 @@ int32_t transform(const Float* src, Float* dst, const Dct4State* state) {
 
 namespace dct4 = haldgen::dct4;
 
+// What the entries call, here and in other libraries, may rely on a stack aligned to 16 bytes.
+#define HALDGEN_REALIGNED [[gnu::force_align_arg_pointer]]
+
 extern "C" {
 
-int32_t haldgImpl_DCT4GetSize_32f(int32_t length, int32_t* size) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4GetSize_32f(int32_t length, int32_t* size) {
   return dct4::get_size<float>(length, size);
 }
-int32_t haldgImpl_DCT4GetSize_64f(int32_t length, int32_t* size) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4GetSize_64f(int32_t length, int32_t* size) {
   return dct4::get_size<double>(length, size);
 }
 
-int32_t haldgImpl_DCT4Init_32f(Dct4State** state, int32_t length, uint8_t* buffer) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4Init_32f(Dct4State** state, int32_t length,
+                                                 uint8_t* buffer) {
   return dct4::init<float>(state, length, buffer);
 }
-int32_t haldgImpl_DCT4Init_64f(Dct4State** state, int32_t length, uint8_t* buffer) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4Init_64f(Dct4State** state, int32_t length,
+                                                 uint8_t* buffer) {
   return dct4::init<double>(state, length, buffer);
 }
 
-int32_t haldgImpl_DCT4InitAlloc_32f(Dct4State** state, int32_t length) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4InitAlloc_32f(Dct4State** state, int32_t length) {
   return dct4::init_alloc<float>(state, length);
 }
-int32_t haldgImpl_DCT4InitAlloc_64f(Dct4State** state, int32_t length) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4InitAlloc_64f(Dct4State** state, int32_t length) {
   return dct4::init_alloc<double>(state, length);
 }
 
-int32_t haldgImpl_DCT4Free_32f(Dct4State* state) { return dct4::release(state); }
-int32_t haldgImpl_DCT4Free_64f(Dct4State* state) { return dct4::release(state); }
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4Free_32f(Dct4State* state) { return dct4::release(state); }
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4Free_64f(Dct4State* state) { return dct4::release(state); }
 
-int32_t haldgImpl_DCT4_32f(const float* src, float* dst, Dct4State* state) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4_32f(const float* src, float* dst, Dct4State* state) {
   return dct4::transform(src, dst, state);
 }
-int32_t haldgImpl_DCT4_64f(const double* src, double* dst, Dct4State* state) {
+HALDGEN_REALIGNED int32_t haldgImpl_DCT4_64f(const double* src, double* dst, Dct4State* state) {
   return dct4::transform(src, dst, state);
 }
 

@@ -1,35 +1,19 @@
 #include "dct4/execution.h"
 
 #include <cstring>
+#include <iterator>
 
 #include "dct4/size.h"
 
 namespace haldgen::dct4 {
 namespace {
 
-template <class Float>
-struct Kernels {
-  using Fixed = void (*)(const Float*, Float*);
-  using Fold = void (*)(const FoldRun<Float>&);
-  using Recombine = void (*)(const RecombineRun<Float>&);
-  using InnerRecombine = void (*)(const InnerRecombineRun<Float>&);
-
-  /// By class, the first of which is 1.
-  static constexpr Fixed kFixed[] = {fixed_2, fixed_4, fixed_8, fixed_16, fixed_32};
-  static constexpr Fold kFold[] = {fold_2, fold_4, fold_8, fold_16, fold_32, fold_64};
-  /// No plan has a radix of 1, nor one below the lanes.
-  static constexpr Recombine kRecombine[] = {
-      nullptr,      kLanes<Float> == 2 ? Recombine{recombine_2} : nullptr,
-      recombine_4,  recombine_8,
-      recombine_16, recombine_32};
-  static constexpr InnerRecombine kInnerRecombine[] = {inner_recombine_2, inner_recombine_4,
-                                                       inner_recombine_8, inner_recombine_16,
-                                                       inner_recombine_32};
-};
+static_assert(std::size(KernelTable<float>::kFixed) == kPlannedClass - 1);
+static_assert(std::size(KernelTable<float>::kFold) == kPlannedFoldClass - 1);
 
 template <class Node>
 const Node& first_item(const NodeList* list) {
-  return *static_cast<const Node*>(ListAt(list, 0));
+  return *static_cast<const Node*>(list_at(list, 0));
 }
 
 template <class Float>
@@ -59,25 +43,26 @@ Sequences<Float> gathered(const Sequences<Float>& source, int length, Lines<Floa
 /// The folds of length m' = m/r' of the positions t = r'u + a, a = 0..r'-1, side by side in the
 /// rows of the inner scratch.
 template <class Float>
-void InnerFoldPass(const InnerFoldNode& node, Float* destination, const Sequences<Float>& source) {
+void inner_fold_pass(const InnerFoldNode& node, Float* destination,
+                     const Sequences<Float>& source) {
   Lines<Float> lines;
   for (int a = 0; a < node.innerRadix; ++a) {
     const Spectrum<Float> column{destination + 2 * a * kLine<Float>,
                                  inner_pitch<Float>(node.innerRadix), kLine<Float>};
     const Sequences<Float> part = source.every(node.innerRadix, a);
     if (node.foldClass == kPlannedFoldClass) {
-      InnerRun(first_item<InnerPlan>(node.stageList.get()), column, part);
+      inner_run(first_item<InnerPlan>(node.stageList.get()), column, part);
     } else {
-      Kernels<Float>::kFold[node.foldClass - 1](
+      KernelTable<Float>::kFold[node.foldClass - 1](
           {gathered(part, node.subLength, lines), column, kLineGroups});
     }
   }
 }
 
 template <class Float>
-void InnerRecombinePass(const InnerRecombineNode& node, const Spectrum<Float>& destination,
-                        const Float* source) {
-  Kernels<Float>::kInnerRecombine[node.tableClass - 1](
+void inner_recombine_pass(const InnerRecombineNode& node, const Spectrum<Float>& destination,
+                          const Float* source) {
+  KernelTable<Float>::kInnerRecombine[node.tableClass - 1](
       {source, floats<Float>(node.table), destination, node.subLength});
 }
 
@@ -88,7 +73,7 @@ constexpr std::ptrdiff_t kFarRows = 4096;
 /// The recombination of 16 blocks at a time into a tile, as if it were all of a transform with rows
 /// of 32, and from there by whole lines into the output.
 template <class Float>
-void recombine_by_tiles(typename Kernels<Float>::Recombine kernel, const RecombineNode& node,
+void recombine_by_tiles(typename Signatures<Float>::recombine* kernel, const RecombineNode& node,
                         Float* destination, const Float* source) {
   constexpr int kRow = 32;
   constexpr int kBlocks = kRow / 2;
@@ -114,30 +99,30 @@ void recombine_by_tiles(typename Kernels<Float>::Recombine kernel, const Recombi
 }  // namespace
 
 template <class Float>
-int32_t InnerRun(const InnerPlan& plan, const Spectrum<Float>& destination,
-                 const Sequences<Float>& source) {
+int32_t inner_run(const InnerPlan& plan, const Spectrum<Float>& destination,
+                  const Sequences<Float>& source) {
   if (plan.hasChild != 1) return haldStatusBadArgument;
   auto* const scratch = reinterpret_cast<Float*>(plan.innerScratch.get());
-  InnerFoldPass(first_item<InnerFoldNode>(plan.firstList.get()), scratch, source);
-  InnerRecombinePass<Float>(first_item<InnerRecombineNode>(plan.secondList.get()), destination,
-                            scratch);
+  inner_fold_pass(first_item<InnerFoldNode>(plan.firstList.get()), scratch, source);
+  inner_recombine_pass<Float>(first_item<InnerRecombineNode>(plan.secondList.get()), destination,
+                              scratch);
   return haldStatusOk;
 }
 
 template <class Float>
-int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source) {
+int32_t fold_pass(const FoldNode& node, Float* destination, const Float* source) {
   if (node.foldClass < 1 || node.foldClass > kPlannedFoldClass) return haldStatusBadArgument;
   const std::ptrdiff_t row = node.rowLength;
   Sequences<Float> from{source, source + row - kLanes<Float>, row};
   Spectrum<Float> to{destination, row, node.radix};
   if (node.foldClass != kPlannedFoldClass) {
-    Kernels<Float>::kFold[node.foldClass - 1]({from, to, node.laneGroups});
+    KernelTable<Float>::kFold[node.foldClass - 1]({from, to, node.laneGroups});
     return haldStatusOk;
   }
   // Plans with an inner one have a radix of 32, a multiple of a line.
   const auto& plan = first_item<InnerPlan>(node.stageList.get());
   for (int32_t i = 0; i < node.laneGroups; i += kLineGroups) {
-    InnerRun(plan, to, from);
+    inner_run(plan, to, from);
     from.ahead += kLine<Float>;
     from.behind -= kLine<Float>;
     to.first += kLine<Float>;
@@ -146,9 +131,10 @@ int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source) 
 }
 
 template <class Float>
-int32_t RecombinePass(const RecombineNode& node, Float* destination, const Float* source) {
-  if (node.tableClass < 1 || node.tableClass > 6) return haldStatusBadArgument;
-  const auto kernel = Kernels<Float>::kRecombine[node.tableClass - 1];
+int32_t recombine_pass(const RecombineNode& node, Float* destination, const Float* source) {
+  constexpr auto kClasses = static_cast<int32_t>(std::size(KernelTable<Float>::kRecombine));
+  if (node.tableClass < 1 || node.tableClass > kClasses) return haldStatusBadArgument;
+  auto* const kernel = KernelTable<Float>::kRecombine[node.tableClass - 1];
   const std::ptrdiff_t length = node.innerLength;
   const auto* const table = floats<Float>(node.table);
   if (length * static_cast<std::ptrdiff_t>(sizeof(Float)) < kFarRows) {
@@ -161,32 +147,33 @@ int32_t RecombinePass(const RecombineNode& node, Float* destination, const Float
 }
 
 template <class Float>
-int32_t RunState(const Float* src, Float* dst, const Dct4State& state) {
+int32_t run_state(const Float* src, Float* dst, const Dct4State& state) {
   if (state.sizeClass < 1 || state.sizeClass > kPlannedClass) return haldStatusBadArgument;
   if (state.sizeClass != kPlannedClass) {
-    Kernels<Float>::kFixed[state.sizeClass - 1](src, dst);
+    KernelTable<Float>::kFixed[state.sizeClass - 1](src, dst);
     return haldStatusOk;
   }
   auto* const scratch = reinterpret_cast<Float*>(state.scratch.get());
   const auto& first = first_item<FirstStage>(state.firstStage.get());
   if (first.hasChild == 1) {
-    FoldPass(first_item<FoldNode>(first.stageList.get()), scratch, src);
+    fold_pass(first_item<FoldNode>(first.stageList.get()), scratch, src);
   }
   const auto& second = first_item<SecondStage>(state.secondStage.get());
   if (second.hasChild == 1) {
-    RecombinePass<Float>(first_item<RecombineNode>(second.stageList.get()), dst, scratch);
+    recombine_pass<Float>(first_item<RecombineNode>(second.stageList.get()), dst, scratch);
   }
   return haldStatusOk;
 }
 
-template int32_t FoldPass<float>(const FoldNode&, float*, const float*);
-template int32_t FoldPass<double>(const FoldNode&, double*, const double*);
-template int32_t RecombinePass<float>(const RecombineNode&, float*, const float*);
-template int32_t RecombinePass<double>(const RecombineNode&, double*, const double*);
-template int32_t InnerRun<float>(const InnerPlan&, const Spectrum<float>&, const Sequences<float>&);
-template int32_t InnerRun<double>(const InnerPlan&, const Spectrum<double>&,
-                                  const Sequences<double>&);
-template int32_t RunState<float>(const float*, float*, const Dct4State&);
-template int32_t RunState<double>(const double*, double*, const Dct4State&);
+template int32_t fold_pass<float>(const FoldNode&, float*, const float*);
+template int32_t fold_pass<double>(const FoldNode&, double*, const double*);
+template int32_t recombine_pass<float>(const RecombineNode&, float*, const float*);
+template int32_t recombine_pass<double>(const RecombineNode&, double*, const double*);
+template int32_t inner_run<float>(const InnerPlan&, const Spectrum<float>&,
+                                  const Sequences<float>&);
+template int32_t inner_run<double>(const InnerPlan&, const Spectrum<double>&,
+                                   const Sequences<double>&);
+template int32_t run_state<float>(const float*, float*, const Dct4State&);
+template int32_t run_state<double>(const double*, double*, const Dct4State&);
 
 }  // namespace haldgen::dct4

@@ -9,19 +9,19 @@ namespace haldgen::dct4 {
 /// Folds all r sequences of the source into the m/2 blocks of the destination, the real parts of a
 /// block before its imaginary parts. The bad-argument status is for a class that no plan has.
 template <class Float>
-int32_t FoldPass(const FoldNode& node, Float* destination, const Float* source);
+int32_t fold_pass(const FoldNode& node, Float* destination, const Float* source);
 
 /// Rotates and recombines those blocks.
 template <class Float>
-int32_t RecombinePass(const RecombineNode& node, Float* destination, const Float* source);
+int32_t recombine_pass(const RecombineNode& node, Float* destination, const Float* source);
 
 /// Folds longer than the kernels', of as many sequences as a line has elements (passes.h).
 template <class Float>
-int32_t InnerRun(const InnerPlan& plan, const Spectrum<Float>& destination,
-                 const Sequences<Float>& source);
+int32_t inner_run(const InnerPlan& plan, const Spectrum<Float>& destination,
+                  const Sequences<Float>& source);
 
 /// The transform; the bad-argument status if the state's class is none.
 template <class Float>
-int32_t RunState(const Float* src, Float* dst, const Dct4State& state);
+int32_t run_state(const Float* src, Float* dst, const Dct4State& state);
 
 }  // namespace haldgen::dct4

@@ -188,7 +188,7 @@ Graph recombine_graph(int radix, int length, int block) {
   const std::vector<WideComplex> rotations = block_rotations(radix, length, block);
   std::vector<Parts> terms(at(radix));
   for (int s = 0; s < radix; ++s) {
-    const int j = WalkIndex(radix, s);
+    const int j = walk_index(radix, s);
     const Parts z{&graph, graph.input(j), graph.input(radix + j)};
     terms[at(j)] = rotated(rotations[at(s)], z);
   }
@@ -248,7 +248,7 @@ Graph fixed_graph(int length) {
 std::vector<WideComplex> block_rotations(int radix, int length, int block) {
   std::vector<WideComplex> rotations;
   for (int s = 0; s < radix; ++s) {
-    const std::int64_t angle = std::int64_t{2 * WalkIndex(radix, s) + 1} * (2 * block + 1);
+    const std::int64_t angle = std::int64_t{2 * walk_index(radix, s) + 1} * (2 * block + 1);
     rotations.push_back(half_turn(angle, 4 * std::int64_t{length}));
   }
   return rotations;

@@ -1,10 +1,9 @@
 #include "dct4/kernel.h"
 
-#include <algorithm>
-#include <array>
 #include <stdexcept>
 #include <vector>
 
+#include "dct4/kernel_list.h"
 #include "dct4/size.h"
 #include "kernelgen/emit.h"
 #include "kernelgen/lower.h"
@@ -45,19 +44,12 @@ Graph oriented(const Kernel& kernel) {
 
 int lanes(FloatType type) { return type == FloatType::f32 ? 4 : 2; }
 
-std::vector<Kernel> all_kernels() {
-  std::vector<Kernel> all;
-  for (const FloatType type : {FloatType::f32, FloatType::f64}) {
-    for (const int length : {2, 4, 8, 16, 32}) all.push_back({Part::fixed, length, type});
-    for (const int length : {2, 4, 8, 16, 32, 64}) all.push_back({Part::fold, length, type});
-    // A radix is a multiple of the lanes.
-    for (int radix = lanes(type); radix <= 32; radix *= 2) {
-      all.push_back({Part::recombine, radix, type});
-    }
-    for (const int radix : {2, 4, 8, 16, 32}) all.push_back({Part::inner_recombine, radix, type});
-  }
-  return all;
-}
+#define HALDGEN_DCT4_ROW_32F(part, size) {Part::part, size, FloatType::f32},
+#define HALDGEN_DCT4_ROW_64F(part, size) {Part::part, size, FloatType::f64},
+constexpr Kernel kKernels[] = {HALDGEN_DCT4_KERNELS(HALDGEN_DCT4_ROW_32F)
+                                   HALDGEN_DCT4_KERNELS(HALDGEN_DCT4_ROW_64F)};
+#undef HALDGEN_DCT4_ROW_32F
+#undef HALDGEN_DCT4_ROW_64F
 
 kernelgen::Counts times(int count, const kernelgen::Counts& c) {
   return {count * c.additions, count * c.multiplications, c.depth};
@@ -68,8 +60,8 @@ kernelgen::Counts then(const kernelgen::Counts& a, const kernelgen::Counts& b) {
 }
 
 kernelgen::Counts fold_counts(int length) {
-  if (FoldClass(length) != kPlannedFoldClass) return count(fold_graph(length));
-  const int radix = PickRadix(length / 2);
+  if (fold_class(length) != kPlannedFoldClass) return count(fold_graph(length));
+  const int radix = pick_radix(length / 2);
   const int sub_length = length / radix;
   return then(times(radix, fold_counts(sub_length)),
               times(sub_length / 2, count(inner_recombine_graph(radix, length, 0))));
@@ -135,10 +127,7 @@ std::string pass_function(const Kernel& kernel, const Program& program) {
 
 }  // namespace
 
-std::span<const Kernel> kernels() {
-  static const std::vector<Kernel> all = all_kernels();
-  return all;
-}
+std::span<const Kernel> kernels() { return kKernels; }
 
 std::string name(const Kernel& kernel) {
   return std::string(word(kernel.part)) + "_" + std::to_string(kernel.size);
@@ -200,8 +189,8 @@ Program kernel_program(const Kernel& kernel, kernelgen::Ordering ordering) {
 }
 
 kernelgen::Counts transform_counts(int length) {
-  if (SizeClass(length) != kPlannedClass) return count(fixed_graph(length));
-  const int radix = PickRadix(length / 2);
+  if (size_class(length) != kPlannedClass) return count(fixed_graph(length));
+  const int radix = pick_radix(length / 2);
   const int fold_length = length / radix;
   return then(times(radix, fold_counts(fold_length)),
               times(fold_length / 2, count(recombine_graph(radix, length, 0))));

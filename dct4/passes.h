@@ -8,6 +8,7 @@
 
 #include <cstddef>
 
+#include "dct4/kernel_list.h"
 #include "kernelgen/lanes.h"
 #include "kernelgen/scalar.h"
 
@@ -189,10 +190,12 @@ struct RecombineIo {
   template <int K>
   V load() const {
     constexpr int kRow = 2 * Body::kSize;
-    if constexpr (K < kRow) {
-      return lanes::Aligned::load(run.blocks + K % kWidth * kRow + K / kWidth * kWidth);
-    } else {
+    if constexpr (K >= kRow) {
       return lanes::Aligned::load(run.table + (K - kRow) * kWidth);
+    } else if constexpr (kRow < kWidth) {
+      return lanes::Aligned::load(run.blocks + K * kWidth);
+    } else {
+      return lanes::Aligned::load(run.blocks + K % kWidth * kRow + K / kWidth * kWidth);
     }
   }
   template <int K>
@@ -316,31 +319,33 @@ inline void run_inner_recombine(const InnerRecombineRun<typename Body::Float>& r
   }
 }
 
+template <class Float>
+struct Signatures {
+  using fixed = void(const Float* src, Float* dst);
+  using fold = void(const FoldRun<Float>& run);
+  using recombine = void(const RecombineRun<Float>& run);
+  using inner_recombine = void(const InnerRecombineRun<Float>& run);
+};
+
 // The generated kernels.
-#define HALDGEN_DCT4_KERNELS(Float)                             \
-  void fixed_2(const Float* src, Float* dst);                   \
-  void fixed_4(const Float* src, Float* dst);                   \
-  void fixed_8(const Float* src, Float* dst);                   \
-  void fixed_16(const Float* src, Float* dst);                  \
-  void fixed_32(const Float* src, Float* dst);                  \
-  void fold_2(const FoldRun<Float>& run);                       \
-  void fold_4(const FoldRun<Float>& run);                       \
-  void fold_8(const FoldRun<Float>& run);                       \
-  void fold_16(const FoldRun<Float>& run);                      \
-  void fold_32(const FoldRun<Float>& run);                      \
-  void fold_64(const FoldRun<Float>& run);                      \
-  void recombine_2(const RecombineRun<Float>& run);             \
-  void recombine_4(const RecombineRun<Float>& run);             \
-  void recombine_8(const RecombineRun<Float>& run);             \
-  void recombine_16(const RecombineRun<Float>& run);            \
-  void recombine_32(const RecombineRun<Float>& run);            \
-  void inner_recombine_2(const InnerRecombineRun<Float>& run);  \
-  void inner_recombine_4(const InnerRecombineRun<Float>& run);  \
-  void inner_recombine_8(const InnerRecombineRun<Float>& run);  \
-  void inner_recombine_16(const InnerRecombineRun<Float>& run); \
-  void inner_recombine_32(const InnerRecombineRun<Float>& run);
-HALDGEN_DCT4_KERNELS(float)
-HALDGEN_DCT4_KERNELS(double)
-#undef HALDGEN_DCT4_KERNELS
+#define HALDGEN_DCT4_DECLARE(part, size) \
+  Signatures<float>::part part##_##size; \
+  Signatures<double>::part part##_##size;
+HALDGEN_DCT4_KERNELS(HALDGEN_DCT4_DECLARE)
+#undef HALDGEN_DCT4_DECLARE
+
+/// The same by class, the first of which is 1.
+template <class Float>
+struct KernelTable {
+  using Of = Signatures<Float>;
+#define HALDGEN_DCT4_NAME(part, size) part##_##size,
+  static constexpr typename Of::fixed* kFixed[] = {HALDGEN_DCT4_FIXED(HALDGEN_DCT4_NAME)};
+  static constexpr typename Of::fold* kFold[] = {HALDGEN_DCT4_FOLD(HALDGEN_DCT4_NAME)};
+  static constexpr
+      typename Of::recombine* kRecombine[] = {HALDGEN_DCT4_RECOMBINE(HALDGEN_DCT4_NAME)};
+  static constexpr typename Of::inner_recombine* kInnerRecombine[] = {
+      HALDGEN_DCT4_INNER_RECOMBINE(HALDGEN_DCT4_NAME)};
+#undef HALDGEN_DCT4_NAME
+};
 
 }  // namespace haldgen::dct4

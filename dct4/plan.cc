@@ -19,7 +19,7 @@ inline constexpr bool kIsSingle = kElementSize<Float> == 4;
 
 template <class Node>
 Node* take_node(Arena* arena, Operation free_operation, Operation setup_operation) {
-  auto* const node = new (ArenaTake(arena, kNodeSize<Node>)) Node{};
+  auto* const node = new (arena_take(arena, kNodeSize<Node>)) Node{};
   node->freeOp = free_operation;
   node->nodeSize = kNodeSize<Node>;
   node->setupOp = setup_operation;
@@ -37,7 +37,7 @@ Formula* take_formula(Arena* arena, Operation element_function) {
   return take_node<Formula>(arena, Operation::nothing, element_function);
 }
 
-NodeList* take_list(Arena* arena) { return ListCellInit(ArenaTake(arena, kCellSize), arena); }
+NodeList* take_list(Arena* arena) { return list_cell_init(arena_take(arena, kCellSize), arena); }
 
 /// 1 + log2 of a radix.
 int32_t radix_class(int32_t radix) {
@@ -61,7 +61,7 @@ void add_inner_plan(Parent* parent, int32_t fold_length, int32_t length, int32_t
   plan->secondList = take_list(arena);
   plan->firstList = take_list(arena);
   plan->ownedNodes = take_list(arena);
-  ListAppend(parent->stageList.get(), ListAppend(parent->ownedNodes.get(), plan));
+  list_append(parent->stageList.get(), list_append(parent->ownedNodes.get(), plan));
   build_inner_plan<Float>(plan, fold_length, length, radix);
 }
 
@@ -73,7 +73,7 @@ void add_inner_recombination(InnerPlan* plan) {
       take_formula<InnerRotationFormula>(arena, Operation::inner_rotation_element);
   formula->foldLength = plan->foldLength;
   formula->innerRadix = plan->innerRadix;
-  ListAppend(plan->ownedNodes.get(), formula);
+  list_append(plan->ownedNodes.get(), formula);
 
   node->tableClass = radix_class(plan->innerRadix) - 1;
   node->innerRadix = plan->innerRadix;
@@ -86,10 +86,10 @@ void add_inner_recombination(InnerPlan* plan) {
   node->subLength = plan->foldLength / plan->innerRadix;
   node->formula = formula;
   node->ownedNodes = take_list(arena);
-  ListAppend(plan->secondList.get(), ListAppend(plan->ownedNodes.get(), node));
+  list_append(plan->secondList.get(), list_append(plan->ownedNodes.get(), node));
 
-  node->table = ArenaTake(arena, node->rowCount * InnerRowBytes(node->innerRadix));
-  FillInnerTable<Float>(*node);
+  node->table = arena_take(arena, node->rowCount * inner_row_bytes(node->innerRadix));
+  fill_inner_table<Float>(*node);
 }
 
 template <class Float>
@@ -105,8 +105,8 @@ void add_inner_fold(InnerPlan* plan) {
   node->radix = plan->radix;
   node->stageList = take_list(arena);
   node->ownedNodes = take_list(arena);
-  ListAppend(plan->firstList.get(), ListAppend(plan->ownedNodes.get(), node));
-  node->foldClass = FoldClass(node->subLength);
+  list_append(plan->firstList.get(), list_append(plan->ownedNodes.get(), node));
+  node->foldClass = fold_class(node->subLength);
   if (node->foldClass == kPlannedFoldClass) {
     add_inner_plan<Float>(node, node->subLength, plan->length, plan->radix);
   }
@@ -116,13 +116,13 @@ template <class Float>
 void build_inner_plan(InnerPlan* plan, int32_t fold_length, int32_t length, int32_t radix) {
   plan->hasChild = 1;
   plan->foldLength = fold_length;
-  plan->innerRadix = PickRadix(fold_length / 2);
+  plan->innerRadix = pick_radix(fold_length / 2);
   plan->length = plan->length2 = plan->length3 = length;
   plan->rowLength = 2 * radix;
   plan->radix = radix;
   add_inner_recombination<Float>(plan);
   add_inner_fold<Float>(plan);
-  plan->innerScratch = ArenaTake(plan->arena.get(), length * kElementSize<Float>);
+  plan->innerScratch = arena_take(plan->arena.get(), length * kElementSize<Float>);
 }
 
 RotationFormula* make_rotation_formula(const Dct4State* state) {
@@ -143,7 +143,7 @@ void add_recombination(SecondStage* stage) {
   view->rowLength = stage->rowLength;
   view->groupCount = stage->rowCount / kLanes<Float>;
   view->formula = stage->formula.get();
-  ListAppend(stage->ownedNodes.get(), view);
+  list_append(stage->ownedNodes.get(), view);
 
   node->tableClass = radix_class(stage->radix);
   node->radix = stage->radix;
@@ -155,10 +155,10 @@ void add_recombination(SecondStage* stage) {
   node->innerLength = stage->innerLength;
   node->view = view;
   node->ownedNodes = take_list(arena);
-  ListAppend(stage->stageList.get(), ListAppend(stage->ownedNodes.get(), node));
+  list_append(stage->stageList.get(), list_append(stage->ownedNodes.get(), node));
 
-  node->table = ArenaTake(arena, node->groupCount * node->vectorStride * kElementSize<Float>);
-  FillRotationTable<Float>(*node);
+  node->table = arena_take(arena, node->groupCount * node->vectorStride * kElementSize<Float>);
+  fill_rotation_table<Float>(*node);
 }
 
 template <class Float>
@@ -166,7 +166,7 @@ void add_second_stage(Dct4State* state) {
   Arena* const arena = state->arena.get();
   auto* const stage = take_node<SecondStage>(arena, Operation::second_stage);
   RotationFormula* const formula = make_rotation_formula(state);
-  ListAppend(state->ownedNodes.get(), formula);
+  list_append(state->ownedNodes.get(), formula);
   stage->hasChild = 1;
   stage->radix = state->radix;
   stage->length = stage->length2 = state->length;
@@ -177,7 +177,7 @@ void add_second_stage(Dct4State* state) {
   stage->formula = formula;
   stage->stageList = take_list(arena);
   stage->ownedNodes = take_list(arena);
-  ListAppend(state->secondStage.get(), ListAppend(state->ownedNodes.get(), stage));
+  list_append(state->secondStage.get(), list_append(state->ownedNodes.get(), stage));
   add_recombination<Float>(stage);
 }
 
@@ -193,8 +193,8 @@ void add_folds(FirstStage* stage) {
   node->radix = stage->radix;
   node->stageList = take_list(arena);
   node->ownedNodes = take_list(arena);
-  ListAppend(stage->stageList.get(), ListAppend(stage->ownedNodes.get(), node));
-  node->foldClass = FoldClass(node->innerLength);
+  list_append(stage->stageList.get(), list_append(stage->ownedNodes.get(), node));
+  node->foldClass = fold_class(node->innerLength);
   if (node->foldClass == kPlannedFoldClass) {
     add_inner_plan<Float>(node, node->innerLength, node->length, node->radix);
   }
@@ -212,25 +212,25 @@ void add_first_stage(Dct4State* state) {
   stage->radix = stage->radix2 = state->radix;
   stage->stageList = take_list(arena);
   stage->ownedNodes = take_list(arena);
-  ListAppend(state->firstStage.get(), ListAppend(state->ownedNodes.get(), stage));
+  list_append(state->firstStage.get(), list_append(state->ownedNodes.get(), stage));
   add_folds<Float>(stage);
 }
 
 /// A list that only refers to its items.
 void release_references(const NodeList* list) {
   Arena* const arena = list->arena.get();
-  ListReleaseCells(list);
-  ArenaGiveBack(arena, list, kCellSize);
+  list_release_cells(list);
+  arena_give_back(arena, list, kCellSize);
 }
 
 void release_owned(const NodeList* list) {
-  ListFreeItems(list);
+  list_free_items(list);
   release_references(list);
 }
 
 template <class Stage>
 void free_stage(const Stage* stage) {
-  if (stage->hasChild == 1) ArenaGiveBack(stage->arena.get(), nullptr, stage->reserved);
+  if (stage->hasChild == 1) arena_give_back(stage->arena.get(), nullptr, stage->reserved);
   release_references(stage->stageList.get());
   release_owned(stage->ownedNodes.get());
 }
@@ -238,27 +238,28 @@ void free_stage(const Stage* stage) {
 template <class Node>
 void free_fold(const Node* node) {
   if (node->foldClass >= 1 && node->foldClass <= kPlannedFoldClass) {
-    ArenaGiveBack(node->arena.get(), nullptr, node->reserved);
+    arena_give_back(node->arena.get(), nullptr, node->reserved);
   }
   release_references(node->stageList.get());
   release_owned(node->ownedNodes.get());
 }
 
 void free_recombination(const RecombineNode* node) {
-  ArenaGiveBack(node->arena.get(), node->table.get(), node->groupCount << (4 + node->tableClass));
+  arena_give_back(node->arena.get(), node->table.get(), node->groupCount << (4 + node->tableClass));
   release_owned(node->ownedNodes.get());
 }
 
 void free_inner_recombination(const InnerRecombineNode* node) {
-  ArenaGiveBack(node->arena.get(), node->table.get(),
-                node->rowCount * InnerRowBytes(node->innerRadix));
+  arena_give_back(node->arena.get(), node->table.get(),
+                  node->rowCount * inner_row_bytes(node->innerRadix));
   release_owned(node->ownedNodes.get());
 }
 
 template <class Float>
 void free_inner_plan(const InnerPlan* plan) {
   if (plan->hasChild == 1) {
-    ArenaGiveBack(plan->arena.get(), plan->innerScratch.get(), plan->length * kElementSize<Float>);
+    arena_give_back(plan->arena.get(), plan->innerScratch.get(),
+                    plan->length * kElementSize<Float>);
   }
   release_references(plan->secondList.get());
   release_references(plan->firstList.get());
@@ -269,7 +270,7 @@ template <class Float>
 void free_state(const Dct4State* state) {
   const int32_t scratch =
       state->sizeClass == kPlannedClass ? state->length * kElementSize<Float> : 0;
-  ArenaGiveBack(state->arena.get(), state->scratch.get(), scratch);
+  arena_give_back(state->arena.get(), state->scratch.get(), scratch);
   release_references(state->secondStage.get());
   release_references(state->firstStage.get());
   release_owned(state->ownedNodes.get());
@@ -277,7 +278,7 @@ void free_state(const Dct4State* state) {
 
 }  // namespace
 
-void FreeNode(PlanNode* node) {
+void free_node(PlanNode* node) {
   switch (node->freeOp) {
     case Operation::state_32f:
       return free_state<float>(static_cast<Dct4State*>(node));
@@ -308,31 +309,31 @@ void FreeNode(PlanNode* node) {
 }
 
 template <class Float>
-Dct4State* BuildState(int32_t length, Arena* arena) {
-  ArenaReset(arena);
+Dct4State* build_state(int32_t length, Arena* arena) {
+  arena_reset(arena);
   auto* const state =
       take_node<Dct4State>(arena, kIsSingle<Float> ? Operation::state_32f : Operation::state_64f);
   state->length = length;
   state->secondStage = take_list(arena);
   state->firstStage = take_list(arena);
   state->ownedNodes = take_list(arena);
-  state->sizeClass = SizeClass(length);
+  state->sizeClass = size_class(length);
   if (state->sizeClass != kPlannedClass) return state;
-  state->radix = PickRadix(length / 2);
+  state->radix = pick_radix(length / 2);
   add_second_stage<Float>(state);
   add_first_stage<Float>(state);
-  state->scratch = ArenaTake(arena, length * kElementSize<Float>);
+  state->scratch = arena_take(arena, length * kElementSize<Float>);
   return state;
 }
 
-void ReleaseState(Dct4State* state) {
+void release_state(Dct4State* state) {
   Arena* const arena = state->arena.get();
   const int32_t size = state->nodeSize;
-  FreeNode(state);
-  ArenaGiveBack(arena, state, size);
+  free_node(state);
+  arena_give_back(arena, state, size);
 }
 
-template Dct4State* BuildState<float>(int32_t, Arena*);
-template Dct4State* BuildState<double>(int32_t, Arena*);
+template Dct4State* build_state<float>(int32_t, Arena*);
+template Dct4State* build_state<double>(int32_t, Arena*);
 
 }  // namespace haldgen::dct4

@@ -6,13 +6,12 @@
 //
 //   Dct4State ─┬─ RotationFormula
 //              ├─ SecondStage ─┬─ RotationView
-//              │               └─ RecombineNode           rotate and recombine blocks, N/(2r) of
-//              them └─ FirstStage ─── FoldNode                 r folds of length m, and if m > 64
+//              │               └─ RecombineNode     rotates and recombines the N/(2r) blocks
+//              └─ FirstStage ─── FoldNode           r folds of length m, and if m > 64
 //                                └─ InnerPlan ─┬─ InnerRotationFormula
-//                                              ├─ InnerRecombineNode    m'/2 rows of r' values
-//                                              └─ InnerFoldNode         r' folds of length m' =
-//                                              m/r',
-//                                                 └─ InnerPlan ...      and so on while m' > 64
+//                                              ├─ InnerRecombineNode   m'/2 rows of r' values
+//                                              └─ InnerFoldNode        r' folds of m' = m/r'
+//                                                 └─ InnerPlan ...     so on while m' > 64
 #pragma once
 
 #include <haldgen.h>
@@ -178,14 +177,14 @@ static_assert(kNodeSize<InnerPlan> == 64 && kNodeSize<InnerRotationFormula> == 2
 static_assert(kNodeSize<InnerRecombineNode> == 72 && kNodeSize<InnerFoldNode> == 68);
 
 /// Calls a node's free operation.
-void FreeNode(PlanNode* node);
+void free_node(PlanNode* node);
 
 /// Builds a state in a buffer of sufficient size; the length must be accepted.
 template <class Float>
-Dct4State* BuildState(int32_t length, Arena* arena);
+Dct4State* build_state(int32_t length, Arena* arena);
 
 /// Releases all that a state holds, and its own block.
-void ReleaseState(Dct4State* state);
+void release_state(Dct4State* state);
 
 }  // namespace haldgen::dct4
 

@@ -45,64 +45,66 @@ std::int64_t node() {
   return rounded(kNodeSize<Node>);
 }
 
-constexpr std::int64_t kCell = ArenaRound(kCellSize);
+constexpr std::int64_t kCell = arena_round(kCellSize);
 
-Sum inner_size(std::int32_t fold_length, std::int64_t node_above, std::int64_t elements) {
+Sum inner_sum(std::int32_t fold_length, std::int64_t node_above, std::int64_t elements) {
   Sum sum;
-  if (FoldClass(fold_length) != kPlannedFoldClass) return sum.add(node_above, 2 * kCell);
-  const std::int32_t radix = PickRadix(fold_length / 2);
+  if (fold_class(fold_length) != kPlannedFoldClass) return sum.add(node_above, 2 * kCell);
+  const std::int32_t radix = pick_radix(fold_length / 2);
   const std::int64_t rows = fold_length / (2 * radix);
-  sum.add(rounded(rows * InnerRowBytes(radix)), node<InnerRecombineNode>(), kCell);
-  sum.add(inner_size(fold_length / radix, node<InnerFoldNode>(), elements));
-  sum.add(elements, node<InnerPlan>(), 3 * kCell, ListCellBytes(2), node<InnerRotationFormula>(),
-          ListCellBytes(1), ListCellBytes(2));
-  return sum.add(node_above, 2 * kCell, ListCellBytes(2));
+  sum.add(rounded(rows * inner_row_bytes(radix)), node<InnerRecombineNode>(), kCell);
+  sum.add(inner_sum(fold_length / radix, node<InnerFoldNode>(), elements));
+  sum.add(elements, node<InnerPlan>(), 3 * kCell, list_cell_bytes(2), node<InnerRotationFormula>(),
+          list_cell_bytes(1), list_cell_bytes(2));
+  return sum.add(node_above, 2 * kCell, list_cell_bytes(2));
 }
 
-Sum state_size(std::int32_t length, std::int32_t element_size) {
+Sum state_sum(std::int32_t length, std::int32_t element_size) {
   Sum sum;
-  const std::int32_t first_position = 2 * ArenaRound(1);
-  if (SizeClass(length) != kPlannedClass) {
+  const std::int32_t first_position = 2 * arena_round(1);
+  if (size_class(length) != kPlannedClass) {
     return sum.add(node<Dct4State>(), 3 * kCell, first_position);
   }
-  const std::int32_t radix = PickRadix(length / 2);
+  const std::int32_t radix = pick_radix(length / 2);
   const std::int64_t groups = length / (2 * radix) / (16 / element_size);
   const std::int64_t elements = rounded(std::int64_t{element_size} * length);
   sum.add(rounded(groups * 32 * radix), node<RecombineNode>(), kCell);
-  sum.add(node<SecondStage>(), 2 * kCell, ListCellBytes(2), node<RotationView>(), ListCellBytes(1));
-  Sum first_stage = inner_size(length / radix, node<FoldNode>(), elements);
-  first_stage.add(node<FirstStage>(), 2 * kCell, ListCellBytes(2));
+  sum.add(node<SecondStage>(), 2 * kCell, list_cell_bytes(2), node<RotationView>(),
+          list_cell_bytes(1));
+  Sum first_stage = inner_sum(length / radix, node<FoldNode>(), elements);
+  first_stage.add(node<FirstStage>(), 2 * kCell, list_cell_bytes(2));
   sum.add(first_stage);
-  return sum.add(elements, node<Dct4State>(), 3 * kCell, ListCellBytes(2), node<RotationFormula>(),
-                 ListCellBytes(1), ListCellBytes(2), first_position);
+  return sum.add(elements, node<Dct4State>(), 3 * kCell, list_cell_bytes(2),
+                 node<RotationFormula>(), list_cell_bytes(1), list_cell_bytes(2), first_position);
 }
 
-}  // namespace
-
-bool AcceptInner(std::int32_t fold_length) {
-  while (FoldClass(fold_length) == kPlannedFoldClass) {
-    const std::int32_t radix = PickRadix(fold_length / 2);
+/// Whether folds of this length can be computed.
+bool accept_inner(std::int32_t fold_length) {
+  while (fold_class(fold_length) == kPlannedFoldClass) {
+    const std::int32_t radix = pick_radix(fold_length / 2);
     if (radix == 0) return false;
     fold_length /= radix;
   }
   return true;
 }
 
-bool AcceptLength(std::int32_t length, std::int32_t lanes) {
-  if (SizeClass(length) != kPlannedClass) return true;
-  const std::int32_t radix = PickRadix(length / 2);
+}  // namespace
+
+bool accept_length(std::int32_t length, std::int32_t lanes) {
+  if (size_class(length) != kPlannedClass) return true;
+  const std::int32_t radix = pick_radix(length / 2);
   if (radix == 0) return false;
   const std::int32_t rows = length / (2 * radix);
-  return rows % lanes == 0 && radix % lanes == 0 && AcceptInner(length / radix);
+  return rows % lanes == 0 && radix % lanes == 0 && accept_inner(length / radix);
 }
 
-std::int64_t ExactStateSize(std::int32_t length, std::int32_t element_size) {
-  return state_size(length, element_size).exact();
+std::int64_t exact_state_size(std::int32_t length, std::int32_t element_size) {
+  return state_sum(length, element_size).exact();
 }
 
-std::optional<std::int32_t> StateSize(std::int32_t length, std::int32_t element_size) {
-  if (!AcceptLength(length, 16 / element_size)) return std::nullopt;
-  const Sum sum = state_size(length, element_size);
+std::optional<std::int32_t> state_size(std::int32_t length, std::int32_t element_size) {
+  if (!accept_length(length, 16 / element_size)) return std::nullopt;
+  const Sum sum = state_sum(length, element_size);
   if (sum.went_negative()) return std::nullopt;
   return sum.wrapped();
 }

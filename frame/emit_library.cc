@@ -112,6 +112,21 @@ std::string emit_general_entries() {
   return out.str();
 }
 
+std::string emit_linked_functions() {
+  std::ostringstream out;
+  out << "// " << generated_notice << "\n"
+      << "#include \"frame/linked_functions.h\"\n\n#include \"haldgen.h\"\n\n"
+      << "namespace haldgen::frame {\n\n"
+      << "std::span<const LinkedFunction> linked_functions() {\n"
+      << "  static const LinkedFunction all[] = {\n";
+  for (const Export& function : live_exports()) {
+    out << "      {\"" << function.name << "\", reinterpret_cast<void (*)()>(" << function.name
+        << ")},\n";
+  }
+  out << "  };\n  return all;\n}\n\n}  // namespace haldgen::frame\n";
+  return out.str();
+}
+
 std::string emit_list() {
   std::string text;
   for (const Export& function : exports()) {

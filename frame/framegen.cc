@@ -21,6 +21,7 @@ constexpr Output outputs[] = {
     {"exports", haldgen::frame::emit_exports, "linker version script"},
     {"implementations", haldgen::frame::emit_implementations, "hidden declarations, C++"},
     {"general_entries", haldgen::frame::emit_general_entries, "general entries, C++"},
+    {"linked_functions", haldgen::frame::emit_linked_functions, "names and addresses, C++"},
     {"list", haldgen::frame::emit_list, "all names, live or not built yet"},
 };
 

@@ -35,7 +35,8 @@ struct LaneInputs {
   /// The constants that are read at run time, and their places in the table behind the inputs.
   std::map<ConstantId, int> table;
   /// Each sequence lies contiguous in memory: slot k holds elements V (k/V) ... of sequence k mod
-  /// V, and loading transposes squares of V by V. Else slot k holds element k of all V sequences.
+  /// V, and loading transposes squares of V by V; sequences shorter than V, which are pairs, follow
+  /// one another through the slots. Else slot k holds element k of all V sequences.
   bool transposed = false;
 };
 

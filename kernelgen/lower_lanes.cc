@@ -79,10 +79,13 @@ class LaneLowering {
   }
 
   void load_transposed() {
-    for (int first = 0; first < input_count_; first += program_.lanes) {
+    const int side = std::min(input_count_, program_.lanes);
+    for (int first = 0; first < input_count_; first += side) {
       std::vector<int> rows;
-      for (int l = 0; l < program_.lanes; ++l) rows.push_back(load(first + l));
-      const std::vector<int> columns = transposed(rows);
+      for (int l = 0; l < side; ++l) rows.push_back(load(first + l));
+      std::vector<int> columns = transposed(rows);
+      // Two vectors of pairs: once more brings the evens and the odds together.
+      if (side < program_.lanes) columns = transposed(columns);
       loaded_.insert(loaded_.end(), columns.begin(), columns.end());
     }
   }

@@ -7,12 +7,13 @@
 #include <stdexcept>
 #include <type_traits>
 
+#include "frame/arrays.h"
+
 namespace haldgen::test {
 namespace {
 
 using frame::Element;
 using frame::Export;
-using frame::Family;
 using frame::Signature;
 
 // The float type that arrays of an element type consist of.
@@ -28,37 +29,6 @@ template <>
 struct FloatOf<Cplx64> {
   using Type = double;
 };
-
-struct Shape {
-  int points;
-  std::size_t src_floats;
-  std::size_t dst_floats;
-};
-
-std::size_t spectrum_floats(std::string_view format, std::size_t samples) {
-  return format == "CCS" ? samples / 2 * 2 + 2 : samples;
-}
-
-Shape shape(const Family& family, int size) {
-  if (family.word == "WHT") {
-    const std::size_t points = std::size_t{1} << size;
-    return {1 << size, points, points};
-  }
-  if (family.word == "DFTFwd_CToC" || family.word == "DFTInv_CToC") {
-    const auto floats = 2 * static_cast<std::size_t>(size);
-    return {size, floats, floats};
-  }
-  const auto samples = static_cast<std::size_t>(size);
-  if (family.word == "Hartley") return {size, samples, samples};
-  if (const auto direction = family.word.find("_RTo"); direction != std::string_view::npos) {
-    return {size, samples, spectrum_floats(family.word.substr(direction + 4), samples)};
-  }
-  if (family.word.starts_with("DFTInv_") && family.word.ends_with("ToR")) {
-    const std::string_view format = family.word.substr(7, family.word.size() - 10);
-    return {size, spectrum_floats(format, samples), samples};
-  }
-  throw std::logic_error("the arrays of " + std::string(family.word) + " are not described");
-}
 
 void* library() {
   static void* const handle = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
@@ -76,7 +46,7 @@ Function* resolve(const std::string& name) {
 template <class Float, class Array>
 void add_fixed(const Export& entry, Live<Float>& all) {
   auto* function = resolve<std::int32_t(const Array*, Array*, std::int32_t)>(entry.name);
-  const Shape arrays = shape(*entry.family, entry.size);
+  const frame::Arrays arrays = frame::arrays(*entry.family, entry.size);
   all.fixed.push_back(
       {entry.name, entry.family, entry.element, entry.size, arrays.points, arrays.src_floats,
        arrays.dst_floats, [function](const Float* src, Float* dst, std::int32_t flag) {
@@ -89,7 +59,7 @@ void add_general_call(const Export& entry, const Call& call, Live<Float>& all) {
   all.general.push_back({entry.name, entry.family, call});
   for (int size = entry.family->sizes.first; size <= entry.family->sizes.last; ++size) {
     if (!entry.family->live.contains(size)) continue;
-    const Shape arrays = shape(*entry.family, size);
+    const frame::Arrays arrays = frame::arrays(*entry.family, size);
     all.through_general.push_back({entry.name + " at " + std::to_string(size), entry.family,
                                    entry.element, size, arrays.points, arrays.src_floats,
                                    arrays.dst_floats,
@@ -133,7 +103,7 @@ template <class Float>
 void add_buffered_fixed(const Export& entry, Live<Float>& all) {
   auto* function =
       resolve<std::int32_t(const Float*, Float*, std::int32_t, std::uint8_t*)>(entry.name);
-  const Shape arrays = shape(*entry.family, entry.size);
+  const frame::Arrays arrays = frame::arrays(*entry.family, entry.size);
   all.fixed.push_back({entry.name, entry.family, entry.element, entry.size, arrays.points,
                        arrays.src_floats, arrays.dst_floats,
                        [function](const Float* src, Float* dst, std::int32_t flag) {

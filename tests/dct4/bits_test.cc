@@ -122,9 +122,11 @@ void check_recombine(int radix, int m, void (*kernel)(const RecombineRun<Float>&
   const int row = 2 * radix;
   for (int group = 0; group < groups; ++group) {
     std::vector<Float> slots;
-    for (int element = 0; element < row; element += kWidth) {
+    const Float* const blocks = z.data() + row * kWidth * group;
+    if (row < kWidth) slots.assign(blocks, blocks + row * kWidth);
+    for (int element = 0; element + kWidth <= row; element += kWidth) {
       for (int lane = 0; lane < kWidth; ++lane) {
-        const Float* const from = z.data() + (kWidth * group + lane) * row + element;
+        const Float* const from = blocks + lane * row + element;
         slots.insert(slots.end(), from, from + kWidth);
       }
     }
@@ -186,44 +188,43 @@ class Bits : public ::testing::Test {};
 using FloatTypes = ::testing::Types<float, double>;
 TYPED_TEST_SUITE(Bits, FloatTypes);
 
+/// Checks the kernel of every class of a part; classes count powers of two.
+template <class Kernel, std::size_t Count, class Check>
+void for_each_class(Kernel* const (&table)[Count], int first, int last, Check check) {
+  ASSERT_EQ(first << (Count - 1), last);
+  for (std::size_t k = 0; k < Count; ++k) {
+    ASSERT_NE(table[k], nullptr) << "size " << (first << k);
+    check(first << k, table[k]);
+  }
+}
+
 TYPED_TEST(Bits, FixedKernels) {
-  using Kernel = void (*)(const TypeParam*, TypeParam*);
-  const Kernel kernels[] = {fixed_2, fixed_4, fixed_8, fixed_16, fixed_32};
-  for (int k = 0; k < 5; ++k) check_fixed<TypeParam>(2 << k, kernels[k]);
+  for_each_class(KernelTable<TypeParam>::kFixed, 2, 32, check_fixed<TypeParam>);
 }
 
 TYPED_TEST(Bits, FoldsOfEveryShape) {
-  using Kernel = void (*)(const FoldRun<TypeParam>&);
-  constexpr int kWidth = kLanes<TypeParam>;
-  constexpr int kElements = kLine<TypeParam>;
-  const Kernel kernels[] = {fold_2, fold_4, fold_8, fold_16, fold_32, fold_64};
-  for (int k = 0; k < 6; ++k) {
+  for_each_class(KernelTable<TypeParam>::kFold, 2, 64, [](int m, auto* kernel) {
+    constexpr int kWidth = kLanes<TypeParam>;
+    constexpr int kElements = kLine<TypeParam>;
     for (int radix = kWidth; radix <= 32; radix *= 2) {
       const auto pitch = static_cast<int>(inner_pitch<TypeParam>(radix));
-      check_fold<TypeParam>(2 << k, {2 * radix, 2 * radix, radix, radix / kWidth}, kernels[k]);
-      check_fold<TypeParam>(2 << k, {kElements, pitch, kElements, kLineGroups}, kernels[k]);
+      check_fold<TypeParam>(m, {2 * radix, 2 * radix, radix, radix / kWidth}, kernel);
+      check_fold<TypeParam>(m, {kElements, pitch, kElements, kLineGroups}, kernel);
     }
-    check_fold<TypeParam>(2 << k, {40, 48, 24, 20 / kWidth}, kernels[k]);
-  }
+    check_fold<TypeParam>(m, {40, 48, 24, 20 / kWidth}, kernel);
+  });
 }
 
 TYPED_TEST(Bits, RecombinationsAtSeveralLengths) {
-  using Kernel = void (*)(const RecombineRun<TypeParam>&);
-  const std::pair<int, Kernel> kernels[] = {
-      {4, recombine_4}, {8, recombine_8}, {16, recombine_16}, {32, recombine_32}};
-  for (const auto& [radix, kernel] : kernels) {
-    for (int m = radix < 8 ? 8 : radix; m <= 4 * radix; m *= 2) {
-      check_recombine<TypeParam>(radix, m, kernel);
+  for_each_class(KernelTable<TypeParam>::kRecombine, 1, 32, [](int radix, auto* kernel) {
+    for (const int m : {8, 16, radix, 2 * radix, 4 * radix}) {
+      if (m >= 8) check_recombine<TypeParam>(radix, m, kernel);
     }
-  }
-  if constexpr (kLanes<TypeParam> == 2) check_recombine<double>(2, 8, recombine_2);
+  });
 }
 
 TYPED_TEST(Bits, InnerRecombinations) {
-  using Kernel = void (*)(const InnerRecombineRun<TypeParam>&);
-  const Kernel kernels[] = {inner_recombine_2, inner_recombine_4, inner_recombine_8,
-                            inner_recombine_16, inner_recombine_32};
-  for (int k = 0; k < 5; ++k) check_inner_recombine<TypeParam>(2 << k, kernels[k]);
+  for_each_class(KernelTable<TypeParam>::kInnerRecombine, 2, 32, check_inner_recombine<TypeParam>);
 }
 
 }  // namespace

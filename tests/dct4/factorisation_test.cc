@@ -116,9 +116,11 @@ TEST(Factorisation, TheWalkPairsWhatIsAddedFirst) {
   const std::vector<int> radix_8 = {0, 7, 1, 6, 2, 5, 3, 4};
   const std::vector<int> radix_32 = {0, 31, 16, 15, 4, 27, 20, 11, 8, 23, 24, 7, 12, 19, 28, 3,
                                      1, 30, 17, 14, 5, 26, 21, 10, 9, 22, 25, 6, 13, 18, 29, 2};
-  for (int s = 0; s < 8; ++s) EXPECT_EQ(WalkIndex(8, s), radix_8[at(s)]) << s;
-  for (int s = 0; s < 32; ++s) EXPECT_EQ(WalkIndex(32, s), radix_32[at(s)]) << s;
-  EXPECT_EQ(WalkIndex(1, 0), 0);
+  for (int s = 0; s < 8; ++s) EXPECT_EQ(walk_index(8, s), radix_8[at(s)]) << s;
+  for (int s = 0; s < 32; ++s) EXPECT_EQ(walk_index(32, s), radix_32[at(s)]) << s;
+  EXPECT_EQ(walk_index(1, 0), 0);
+  EXPECT_EQ(walk_index(2, 0), 0);
+  EXPECT_EQ(walk_index(2, 1), 1);
 }
 
 }  // namespace

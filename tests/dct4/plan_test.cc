@@ -16,7 +16,7 @@ using test::OwnState;
 
 int item_count(const NodeList* list) {
   int count = 0;
-  while (ListAt(list, count) != nullptr) ++count;
+  while (list_at(list, count) != nullptr) ++count;
   return count;
 }
 
@@ -37,8 +37,8 @@ TYPED_TEST(Plan, OfTheSmallestPlannedLength) {
   // Owned in the order of attachment; stage lists refer to the same nodes.
   ASSERT_EQ(item_count(state->ownedNodes.get()), 3);
   const auto* formula = state.template item<RotationFormula>(state->ownedNodes.get());
-  EXPECT_EQ(ListAt(state->ownedNodes.get(), 1), state.second_stage());
-  EXPECT_EQ(ListAt(state->ownedNodes.get(), 2), state.first_stage());
+  EXPECT_EQ(list_at(state->ownedNodes.get(), 1), state.second_stage());
+  EXPECT_EQ(list_at(state->ownedNodes.get(), 2), state.first_stage());
   EXPECT_EQ(formula->nodeSize, 36);
   EXPECT_EQ(formula->rowLength, 16);
   EXPECT_EQ(formula->rowLength2, 16);
@@ -61,7 +61,7 @@ TYPED_TEST(Plan, OfTheSmallestPlannedLength) {
   EXPECT_EQ(view->groupCount, 4 / kWidth);
 
   const RecombineNode* recombination = state.recombination();
-  EXPECT_EQ(ListAt(second->ownedNodes.get(), 1), recombination);
+  EXPECT_EQ(list_at(second->ownedNodes.get(), 1), recombination);
   EXPECT_EQ(recombination->nodeSize, 64);
   EXPECT_EQ(recombination->tableClass, 4);
   EXPECT_EQ(recombination->radix, 8);
@@ -78,7 +78,7 @@ TYPED_TEST(Plan, OfTheSmallestPlannedLength) {
   EXPECT_EQ(first->innerLength, 8);
   ASSERT_EQ(item_count(first->ownedNodes.get()), 1);
   const FoldNode* folds = state.folds();
-  EXPECT_EQ(ListAt(first->ownedNodes.get(), 0), folds);
+  EXPECT_EQ(list_at(first->ownedNodes.get(), 0), folds);
   EXPECT_EQ(folds->nodeSize, 60);
   EXPECT_EQ(folds->foldClass, 3);
   EXPECT_EQ(folds->laneGroups, 8 / kWidth);
@@ -102,9 +102,9 @@ std::vector<std::pair<int, int>> inner_levels(OwnState<Float>& state) {
     const auto* folds = state.template item<InnerFoldNode>(plan->firstList.get());
     const auto* step = state.template item<InnerRecombineNode>(plan->secondList.get());
     EXPECT_EQ(item_count(plan->ownedNodes.get()), 3);
-    EXPECT_EQ(ListAt(plan->ownedNodes.get(), 0), step->formula.get());
-    EXPECT_EQ(ListAt(plan->ownedNodes.get(), 1), step);
-    EXPECT_EQ(ListAt(plan->ownedNodes.get(), 2), folds);
+    EXPECT_EQ(list_at(plan->ownedNodes.get(), 0), step->formula.get());
+    EXPECT_EQ(list_at(plan->ownedNodes.get(), 1), step);
+    EXPECT_EQ(list_at(plan->ownedNodes.get(), 2), folds);
     EXPECT_EQ(plan->hasChild, 1);
     EXPECT_EQ(plan->nodeSize, 64);
     EXPECT_EQ(step->nodeSize, 72);
@@ -115,7 +115,7 @@ std::vector<std::pair<int, int>> inner_levels(OwnState<Float>& state) {
     EXPECT_EQ(folds->strideA, 2 * state->radix * plan->innerRadix);
     EXPECT_NE(plan->innerScratch.get(), state->scratch.get());
     levels.emplace_back(plan->innerRadix, folds->subLength);
-    EXPECT_EQ(folds->foldClass == 7, ListAt(folds->stageList.get(), 0) != nullptr);
+    EXPECT_EQ(folds->foldClass == 7, list_at(folds->stageList.get(), 0) != nullptr);
     list = folds->stageList.get();
   }
   return levels;
@@ -166,9 +166,9 @@ TYPED_TEST(Plan, FitsAndIsReleasedAtEveryAlignment) {
       if (length > 4096 && misalignment % 7 != 0) continue;
       OwnState<TypeParam> state(length, misalignment);
       const auto shift = static_cast<std::ptrdiff_t>(misalignment);
-      EXPECT_EQ(*StateSize(length, sizeof(TypeParam)) - state.position(), left + shift);
+      EXPECT_EQ(*state_size(length, sizeof(TypeParam)) - state.position(), left + shift);
       EXPECT_EQ(reinterpret_cast<std::uintptr_t>(state.get()) % 32, 0U);
-      ReleaseState(state.get());
+      release_state(state.get());
       EXPECT_EQ(state.position(), 64 - shift) << length;
     }
   }

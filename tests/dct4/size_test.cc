@@ -22,16 +22,16 @@ TEST(Sizes, EveryRowOfTheTable) {
     std::istringstream columns(line);
     int length = 0, bytes_32f = 0, bytes_64f = 0;
     columns >> length >> bytes_32f >> bytes_64f;
-    EXPECT_EQ(StateSize(length, 4), bytes_32f) << length;
-    EXPECT_EQ(StateSize(length, 8), bytes_64f) << length;
+    EXPECT_EQ(state_size(length, 4), bytes_32f) << length;
+    EXPECT_EQ(state_size(length, 8), bytes_64f) << length;
   }
   EXPECT_EQ(rows, 12);
 }
 
 TEST(Sizes, FixedLengthsAllNeedTheSame) {
   for (const int length : {2, 4, 8, 16, 32}) {
-    EXPECT_EQ(StateSize(length, 4), 224) << length;
-    EXPECT_EQ(StateSize(length, 8), 224) << length;
+    EXPECT_EQ(state_size(length, 4), 224) << length;
+    EXPECT_EQ(state_size(length, 8), 224) << length;
   }
 }
 
@@ -39,20 +39,20 @@ TEST(Sizes, SumsWrapIn32Bits) {
   const auto last = [](int element_size) { return element_size == 4 ? 26 : 25; };
   for (const int element_size : {4, 8}) {
     for (int k = 6; k <= last(element_size); ++k) {
-      EXPECT_EQ(StateSize(1 << k, element_size), ExactStateSize(1 << k, element_size)) << k;
+      EXPECT_EQ(state_size(1 << k, element_size), exact_state_size(1 << k, element_size)) << k;
     }
     for (int k = last(element_size) + 1; k < last(element_size) + 4; ++k) {
-      EXPECT_EQ(StateSize(1 << k, element_size), std::nullopt) << k;
-      EXPECT_EQ(StateSize((1 << k) + 1, element_size), std::nullopt) << k;
-      EXPECT_GT(ExactStateSize(1 << k, element_size), INT_MAX) << k;
+      EXPECT_EQ(state_size(1 << k, element_size), std::nullopt) << k;
+      EXPECT_EQ(state_size((1 << k) + 1, element_size), std::nullopt) << k;
+      EXPECT_GT(exact_state_size(1 << k, element_size), INT_MAX) << k;
     }
-    EXPECT_EQ(StateSize(1 << 30, element_size), 536874336);
+    EXPECT_EQ(state_size(1 << 30, element_size), 536874336);
   }
-  EXPECT_TRUE(StateSize(1 << 29, 8).has_value());
+  EXPECT_TRUE(state_size(1 << 29, 8).has_value());
 }
 
 TEST(Sizes, RadixByHalfLength) {
-  const auto radix = [](int v) { return PickRadix(v); };
+  const auto radix = [](int v) { return pick_radix(v); };
   // At each threshold, just below it, and where the larger divisor does not divide.
   EXPECT_EQ(radix(512), 32);
   EXPECT_EQ(radix(511), 0);
@@ -89,9 +89,9 @@ TEST(Sizes, AcceptedLengths) {
       }
     }
     for (const int n : candidates) {
-      EXPECT_EQ(AcceptLength(n, lanes), expected.count(n) == 1) << n << ", lanes " << lanes;
+      EXPECT_EQ(accept_length(n, lanes), expected.count(n) == 1) << n << ", lanes " << lanes;
       if (expected.count(n) == 1) continue;
-      EXPECT_EQ(StateSize(n, 16 / lanes), std::nullopt) << n;
+      EXPECT_EQ(state_size(n, 16 / lanes), std::nullopt) << n;
     }
   }
 }
@@ -99,12 +99,12 @@ TEST(Sizes, AcceptedLengths) {
 TEST(Sizes, Classes) {
   const int lengths[] = {2, 4, 8, 16, 32, 64};
   for (int k = 0; k < 6; ++k) {
-    EXPECT_EQ(SizeClass(lengths[k]), k + 1);
-    EXPECT_EQ(FoldClass(lengths[k]), k + 1);
+    EXPECT_EQ(size_class(lengths[k]), k + 1);
+    EXPECT_EQ(fold_class(lengths[k]), k + 1);
   }
   for (const int other : {-2, 0, 1, 3, 33, 128}) {
-    EXPECT_EQ(SizeClass(other), 6) << other;
-    EXPECT_EQ(FoldClass(other), 7) << other;
+    EXPECT_EQ(size_class(other), 6) << other;
+    EXPECT_EQ(fold_class(other), 7) << other;
   }
 }
 

@@ -9,22 +9,22 @@
 
 namespace haldgen::dct4::test {
 
-/// A state in a buffer that begins `misalignment` bytes past a multiple of 32 and has the queried
-/// size.
+/// A state in a buffer that begins `misalignment` bytes past a multiple of 32 and has the size of
+/// the length's state. The length may be one that is refused, if it has a radix all the same.
 template <class Float>
 class OwnState {
  public:
   explicit OwnState(std::int32_t length, std::size_t misalignment = 0)
-      : bytes_(static_cast<std::size_t>(*StateSize(length, sizeof(Float))) + 64) {
+      : bytes_(static_cast<std::size_t>(exact_state_size(length, sizeof(Float))) + 64) {
     const auto beyond = reinterpret_cast<std::uintptr_t>(bytes_.data()) % 32;
     start_ = bytes_.data() + (32 - beyond) % 32 + misalignment;
-    state_ = BuildState<Float>(length, arena());
+    state_ = build_state<Float>(length, arena());
   }
   OwnState(const OwnState&) = delete;
   OwnState& operator=(const OwnState&) = delete;
 
   Arena* arena() { return reinterpret_cast<Arena*>(start_); }
-  std::ptrdiff_t position() { return ArenaPosition(arena()) - start_; }
+  std::ptrdiff_t position() { return arena_position(arena()) - start_; }
   Dct4State* operator->() { return state_; }
   Dct4State* get() { return state_; }
 
@@ -36,7 +36,7 @@ class OwnState {
 
   template <class Node>
   static Node* item(const NodeList* list, std::int32_t index = 0) {
-    return static_cast<Node*>(ListAt(list, index));
+    return static_cast<Node*>(list_at(list, index));
   }
 
  private:

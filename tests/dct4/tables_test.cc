@@ -37,7 +37,7 @@ TYPED_TEST_SUITE(Tables, FloatTypes);
 
 TYPED_TEST(Tables, RotationsInTheOrderOfTheWalk) {
   constexpr int kWidth = kLanes<TypeParam>;
-  for (const int length : {64, 65, 256, 1024, 2048, 8192}) {
+  for (const int length : {17, 33, 64, 65, 256, 1024, 2048, 8192}) {
     OwnState<TypeParam> state(length);
     const int radix = state->radix;
     const int groups = length / (2 * radix) / kWidth;
@@ -48,7 +48,7 @@ TYPED_TEST(Tables, RotationsInTheOrderOfTheWalk) {
       for (int s = 0; s < radix; ++s) {
         for (const bool sine : {false, true}) {
           for (int lane = 0; lane < kWidth; ++lane) {
-            const std::int64_t odd_j = 2 * WalkIndex(radix, s) + 1;
+            const std::int64_t odd_j = 2 * walk_index(radix, s) + 1;
             const std::int64_t odd_b = 2 * (kWidth * g + lane) + 1;
             ASSERT_EQ(table[index], value<TypeParam>(sine, odd_j * odd_b, 4 * length))
                 << length << ", entry " << index;
