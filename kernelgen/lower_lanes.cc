@@ -80,6 +80,9 @@ class LaneLowering {
 
   void load_transposed() {
     const int side = std::min(input_count_, program_.lanes);
+    if (input_count_ % side != 0 || (side < program_.lanes && 2 * side != program_.lanes)) {
+      throw std::logic_error("sequences fill no squares of vectors");
+    }
     for (int first = 0; first < input_count_; first += side) {
       std::vector<int> rows;
       for (int l = 0; l < side; ++l) rows.push_back(load(first + l));

@@ -114,6 +114,12 @@ TEST(LaneLowering, RefusesOtherStatements) {
   EXPECT_THROW(lower_lanes(graph, FloatType::f64, {2, {}, false}), std::logic_error);
 }
 
+TEST(LaneLowering, RefusesSequencesThatFillNoVectors) {
+  Graph graph(Field::real);
+  graph.set_outputs({graph.add(graph.input(0), graph.input(2))});
+  EXPECT_THROW(lower_lanes(graph, FloatType::f32, {4, {}, true}), std::logic_error);
+}
+
 // The accessor's source and destination are different memory, so a store may come before a load.
 TEST(LaneLowering, SlotsOrderNothing) {
   Graph graph(Field::real);
