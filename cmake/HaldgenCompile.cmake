@@ -88,6 +88,4 @@ endfunction()
 
 # Kernels that may keep vectors on their stack align it themselves and ask no caller for the 16 bytes
 # of the calling convention. g++ does so in the functions that need it, clang in all.
-function(haldgen_realign_stack target)
-  target_compile_options(${target} PRIVATE -mstackrealign)
-endfunction()
+set(HALDGEN_REALIGN_STACK -mstackrealign)

@@ -70,7 +70,7 @@ int32_t transform(const Float* src, Float* dst, const Dct4State* state) {
 
 namespace dct4 = haldgen::dct4;
 
-// What the entries call, here and in other libraries, may rely on a stack aligned to 16 bytes.
+// Set-up and release call other libraries, which may rely on a stack aligned to 16 bytes.
 #define HALDGEN_REALIGNED [[gnu::force_align_arg_pointer]]
 
 extern "C" {
@@ -101,10 +101,10 @@ HALDGEN_REALIGNED int32_t haldgImpl_DCT4InitAlloc_64f(Dct4State** state, int32_t
 HALDGEN_REALIGNED int32_t haldgImpl_DCT4Free_32f(Dct4State* state) { return dct4::release(state); }
 HALDGEN_REALIGNED int32_t haldgImpl_DCT4Free_64f(Dct4State* state) { return dct4::release(state); }
 
-HALDGEN_REALIGNED int32_t haldgImpl_DCT4_32f(const float* src, float* dst, Dct4State* state) {
+int32_t haldgImpl_DCT4_32f(const float* src, float* dst, Dct4State* state) {
   return dct4::transform(src, dst, state);
 }
-HALDGEN_REALIGNED int32_t haldgImpl_DCT4_64f(const double* src, double* dst, Dct4State* state) {
+int32_t haldgImpl_DCT4_64f(const double* src, double* dst, Dct4State* state) {
   return dct4::transform(src, dst, state);
 }
 

@@ -96,6 +96,22 @@ void recombine_by_tiles(typename Signatures<Float>::recombine* kernel, const Rec
   }
 }
 
+/// The passes of a plan. What they call, here and in other libraries, relies on a stack aligned to
+/// 16 bytes. The kernels of fixed lengths see to theirs themselves, as most have nothing on it.
+template <class Float>
+[[gnu::noinline, gnu::force_align_arg_pointer]] void run_plan(const Float* src, Float* dst,
+                                                              const Dct4State& state) {
+  auto* const scratch = reinterpret_cast<Float*>(state.scratch.get());
+  const auto& first = first_item<FirstStage>(state.firstStage.get());
+  if (first.hasChild == 1) {
+    fold_pass(first_item<FoldNode>(first.stageList.get()), scratch, src);
+  }
+  const auto& second = first_item<SecondStage>(state.secondStage.get());
+  if (second.hasChild == 1) {
+    recombine_pass<Float>(first_item<RecombineNode>(second.stageList.get()), dst, scratch);
+  }
+}
+
 }  // namespace
 
 template <class Float>
@@ -153,15 +169,7 @@ int32_t run_state(const Float* src, Float* dst, const Dct4State& state) {
     KernelTable<Float>::kFixed[state.sizeClass - 1](src, dst);
     return haldStatusOk;
   }
-  auto* const scratch = reinterpret_cast<Float*>(state.scratch.get());
-  const auto& first = first_item<FirstStage>(state.firstStage.get());
-  if (first.hasChild == 1) {
-    fold_pass(first_item<FoldNode>(first.stageList.get()), scratch, src);
-  }
-  const auto& second = first_item<SecondStage>(state.secondStage.get());
-  if (second.hasChild == 1) {
-    recombine_pass<Float>(first_item<RecombineNode>(second.stageList.get()), dst, scratch);
-  }
+  run_plan(src, dst, state);
   return haldStatusOk;
 }
 
