@@ -70,7 +70,7 @@ struct FivePoint {
     const Wide s2 = kernelgen::sin_turn(2, 5);
     const E s1_d = s1 * d;
     const E s2_f = s2 * f;
-    const E u = turned(s1_d - s2_f, direction.quarter());
+    const E u = written_turned(s1_d - s2_f, direction.quarter());
     const E s2_d = s2 * d;
     const E s1_f = s1 * f;
     const E v = turned(s2_d + s1_f, direction.quarter());

@@ -66,7 +66,9 @@ Programs vector_programs(int length, ElementType type, int seed) {
   const bool pairs = type == ElementType::c32;
   const auto packed =
       kernelgen::pack(expand(recipe_of(length, type), pairs), pairs ? 2 : 1, access_of(length));
-  const auto forms = kernelgen::choose_forms(packed, kFormSweeps, seed);
+  const auto signs = recipe_of(length, type).signs_as_written ? kernelgen::Signs::as_written
+                                                              : kernelgen::Signs::free;
+  const auto forms = kernelgen::choose_forms(packed, kFormSweeps, seed, signs);
   Programs programs;
   programs.forward = kernelgen::lower_packed(packed, forms, float_type(type));
   if (is_reversed(length, type)) {

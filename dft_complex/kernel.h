@@ -14,7 +14,7 @@ namespace haldgen::dft_complex {
 
 /// What a kernel's graph leaves open: which of many choices of forms of like cost both directions
 /// have, and the order of the instructions of each. None of it changes a bit of a result, but for
-/// the signs of zeros, in which the directions agree.
+/// the signs of exact zeros where the recipe leaves them open; in them the directions agree.
 struct Tuning {
   int seed = 0;
   kernelgen::Ordering forward;

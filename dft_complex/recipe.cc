@@ -194,6 +194,10 @@ Recipe with_mate(Recipe recipe, int bin) {
   recipe.mate = bin;
   return recipe;
 }
+Recipe with_written_signs(Recipe recipe) {
+  recipe.signs_as_written = true;
+  return recipe;
+}
 
 std::vector<int> symmetric(int count) {
   std::vector<int> result;

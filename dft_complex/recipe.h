@@ -57,6 +57,9 @@ struct Recipe {
   int mate = 0;                 ///< the bin that shares a vector with bin 0
   int carried = 0;              ///< Bluestein: places carried as values on the way there
   int computed = 0;             ///< Bluestein: outputs computed on the way back
+  /// Of a whole kernel: each sum is held in the signs of its formula, so that sums whose terms
+  /// cancel make the zeros that the formulas make. Otherwise instructions decide.
+  bool signs_as_written = false;
 
   friend bool operator==(const Recipe&, const Recipe&) = default;
 };
@@ -98,6 +101,7 @@ Recipe folded_there(Recipe recipe);
 Recipe folded_back(Recipe recipe);
 Recipe with_zero_lanes(Recipe recipe, int count);
 Recipe with_mate(Recipe recipe, int bin);
+Recipe with_written_signs(Recipe recipe);
 
 /// 0, 1, .., then the negative ones: representatives of least magnitude.
 std::vector<int> symmetric(int count);

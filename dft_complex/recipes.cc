@@ -71,7 +71,7 @@ std::map<int, Recipe> cplx32_recipes() {
       {3, b3},
       {4, b4},
       {5, b5},
-      {6, pfa(b2, b3)},
+      {6, with_written_signs(pfa(b2, b3))},
       {7, with_zero_lanes(rader(7, pfa(b2, b3)), 2)},
       {8, with_late_twiddles(ct(b4, b2))},
       {9, ct9},
@@ -172,11 +172,11 @@ std::map<int, Recipe> cplx64_recipes() {
   const Recipe r61 = folded_back(joined_rader(61, pfa(b3, b4, b5), four_odd(n15)));
 
   return {
-      {2, b2},
-      {3, b3},
-      {4, b4},
-      {5, b5},
-      {6, n6},
+      {2, with_written_signs(b2)},
+      {3, with_written_signs(b3)},
+      {4, with_written_signs(b4)},
+      {5, with_written_signs(b5)},
+      {6, with_written_signs(n6)},
       {7, b7},
       {8, b8},
       {9, ct9_even},

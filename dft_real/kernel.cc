@@ -25,7 +25,7 @@ Graph forward_graph(int length) {
   std::vector<bool> negated(static_cast<std::size_t>(length), false);
   // Value 2k of the half spectrum is the imaginary part of bin k.
   for (const int bin : design.negated) negated[2 * static_cast<std::size_t>(bin)] = true;
-  return kernelgen::order_terms(kernelgen::orient_outputs(graph, negated));
+  return kernelgen::order_terms(kernelgen::orient_outputs(graph, negated, design.turned));
 }
 
 // x[n] takes each bin but those at 0 and N/2 twice, as itself and as its conjugate: the transpose
@@ -44,7 +44,7 @@ Graph inverse_graph(int length) {
   backward.set_outputs(kernelgen::transpose_statements_into(backward, forward, fed, length));
   const Graph folded = kernelgen::fold_doublings(kernelgen::fold_products(backward, Into::all));
   const std::vector<bool> none(static_cast<std::size_t>(length), false);
-  return kernelgen::order_terms(kernelgen::orient_outputs(folded, none));
+  return kernelgen::order_terms(kernelgen::orient_outputs(folded, none, design.turned));
 }
 
 /// Whether a load and a store meet in any format when the kernel works in place.

@@ -24,6 +24,11 @@ Row row(int length, Recipe recipe, std::vector<int> negated, int wide_additions 
   return {length, {std::move(recipe), std::move(negated), wide_additions}};
 }
 
+Row turned(Row row, std::vector<kernelgen::Way> differences) {
+  row.design.turned = std::move(differences);
+  return row;
+}
+
 std::vector<Row> forward_rows() {
   const Recipe eight = power_of_two(8);
   const Recipe sixteen = power_of_two(16);
@@ -47,7 +52,7 @@ std::vector<Row> forward_rows() {
       row(10, coprime(five, two), {2, 3, 4}),
       row(11, eleven, {1}),
       row(12, coprime(four, three), {1, 4, 5}),
-      row(13, thirteen, {4, 6}),
+      turned(row(13, thirteen, {4, 6}), {{6, 1, 1}, {6, 1}}),
       row(14, coprime(two, seven), {2, 4, 6}),
       row(15, coprime(three, five), {2, 4, 7}),
       row(16, sixteen, {1, 2, 3, 4, 6, 7}),
@@ -149,10 +154,10 @@ std::vector<Row> inverse_rows() {
       transposed(5, five),
       transposed(6, coprime(three, two)),
       transposed(7, seven),
-      transposed(8, eight),
+      turned(transposed(8, eight), {{2, 1}}),
       transposed(9, nine),
       transposed(10, coprime(five, two)),
-      transposed(11, eleven),
+      turned(transposed(11, eleven), {{5, 1, 0, 0, 1, 1}, {5, 1, 0, 0}, {5, 1, 0}}),
       transposed(12, coprime(four, three)),
       transposed(13, thirteen),
       transposed(14, coprime(two, seven)),

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "kernelgen/fold.h"
+#include "kernelgen/orient.h"
 #include "real_blocks/recipe.h"
 
 namespace haldgen::dft_real {
@@ -23,6 +24,8 @@ struct Design {
   int wide_additions = 0;
   /// Which constants of the forward graph meet before it is transposed.
   kernelgen::Into fold_before_transposing = kernelgen::Into::spectral;
+  /// Differences that the formulas write the other way round than they come about.
+  std::vector<kernelgen::Way> turned = {};
 };
 
 const Design& design_of(int length, Direction direction);

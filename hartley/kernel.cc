@@ -71,7 +71,7 @@ Graph kernel_graph(int length) {
     graph = kernelgen::fold_products(transposed(graph, length), kernelgen::Into::all);
   }
   const std::vector<bool> none(static_cast<std::size_t>(length), false);
-  return kernelgen::order_terms(kernelgen::orient_outputs(graph, none));
+  return kernelgen::order_terms(kernelgen::orient_outputs(graph, none, design.turned));
 }
 
 Program kernel_program(int length, FloatType type, kernelgen::Ordering ordering) {

@@ -30,6 +30,11 @@ Row transposed(int length, Recipe recipe, Into fold = Into::spectral, WideSums w
   return {length, {Structure::transposed, totalled_by_power(std::move(recipe)), fold, wide_sums}};
 }
 
+Row turned(Row row, std::vector<kernelgen::Way> differences) {
+  row.design.turned = std::move(differences);
+  return row;
+}
+
 std::vector<Row> rows() {
   constexpr auto spectral = Into::spectral;
   constexpr auto all = Into::all;
@@ -54,13 +59,14 @@ std::vector<Row> rows() {
       paired(3, three),
       paired(4, four),
       paired(5, five),
-      paired(6, coprime(three, two)),
+      turned(paired(6, coprime(three, two)), {{1, 1}}),
       paired(7, seven),
-      paired(8, eight),
+      turned(paired(8, eight), {{3, 1}}),
       paired(9, nine),
       paired(10, coprime(five, two)),
       paired(11, direct(11)),
-      transposed(12, coprime(four, three)),
+      turned(transposed(12, coprime(four, three)),
+             {{3, 1, 0}, {3, 1, 1, 1}, {1, 1, 1}, {1, 0, 1, 1}}),
       paired(13, thirteen),
       paired(14, coprime(seven, two)),
       transposed(15, coprime(five, three)),

@@ -2,9 +2,10 @@
 // it is made of, and how.
 #pragma once
 
-#include <optional>
+#include <vector>
 
 #include "kernelgen/fold.h"
+#include "kernelgen/orient.h"
 #include "kernelgen/precision.h"
 #include "real_blocks/recipe.h"
 
@@ -26,6 +27,8 @@ struct Design {
   /// Which constants of the half spectrum's graph meet.
   kernelgen::Into fold = kernelgen::Into::spectral;
   kernelgen::WideSums wide_sums = {};
+  /// Differences that the formulas write the other way round than they come about.
+  std::vector<kernelgen::Way> turned = {};
 };
 
 const Design& design_of(int length);

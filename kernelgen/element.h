@@ -31,6 +31,13 @@ inline Whole operator+(Whole a, Whole b) { return {a.graph, a.graph->add(a.value
 inline Whole operator-(Whole a) { return {a.graph, -a.value}; }
 inline Whole operator-(Whole a, Whole b) { return a + (-b); }
 inline Whole turned(Whole a, int turns) { return {a.graph, turned(a.value, turns)}; }
+/// The same of a sum that its block writes down turned, part by part: where the sum's terms cancel,
+/// it makes another zero. Formal parts keep the signs of the sum.
+inline Whole written_turned(Whole a, int turns) {
+  const Value v = turned(a.value, turns);
+  a.graph->node(v.node).written = v.turn;
+  return {a.graph, v};
+}
 inline Whole operator*(Wide c, Whole a) { return {a.graph, a.graph->multiply(c, a.value)}; }
 inline Whole add_zero(Whole a) { return {a.graph, a.graph->add_zero(a.value)}; }
 inline Whole zero_like(Whole a) { return {a.graph, {}}; }
@@ -59,6 +66,7 @@ inline Parts turned(Parts a, int turns) {
       return a;
   }
 }
+inline Parts written_turned(Parts a, int turns) { return turned(a, turns); }
 inline Parts operator*(Wide c, Parts a) {
   return {a.graph, a.graph->multiply(c, a.re), a.graph->multiply(c, a.im)};
 }

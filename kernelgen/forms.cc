@@ -4,7 +4,9 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <optional>
 #include <span>
+#include <stdexcept>
 #include <utility>
 
 namespace haldgen::kernelgen {
@@ -26,6 +28,12 @@ Form turned_operand(Form form, int turn) {
     result.negated |= (((form.negated >> lane) & 1) ^ (sign ? 1 : 0)) << lane;
   }
   return result;
+}
+
+/// A form that has the signs in which the value is written down.
+Form written_form(const PackedNode& node) {
+  if (node.written[0] != node.written[1]) throw std::logic_error("halves are written differently");
+  return turned_operand({}, node.written[0]);
 }
 
 /// Cost of providing a set of forms of one value (bit mask) and a vector in either lane order
@@ -119,10 +127,10 @@ double decay(double x) {
 
 class Annealer {
  public:
-  /// With `model`, the mirrored kernel of those choices. `scale_masks` are the masks that stores
-  /// may use.
-  Annealer(const PackedGraph& graph, const std::vector<Choice>* model, std::vector<int> scale_masks,
-           int seed)
+  /// With `model`, the mirrored kernel of those choices, in their signs. `scale_masks` are the
+  /// masks that stores may use.
+  Annealer(const PackedGraph& graph, const std::vector<Choice>* model, Signs signs,
+           std::vector<int> scale_masks, int seed)
       : nodes_(graph.nodes),
         choices_(graph.nodes.size()),
         wants_(graph.nodes.size()),
@@ -131,14 +139,16 @@ class Annealer {
     allowed_.assign(nodes_.size(), {0, 1, 2, 3, 4, 5, 6, 7});
     for (std::size_t i = 0; i < nodes_.size(); ++i) {
       const PackedKind kind = nodes_[i].kind;
-      if (model != nullptr) {
-        if (kind == PackedKind::load || kind == PackedKind::store) {
-          choices_[i].form.exchanged = 1;
-        } else if (kind == PackedKind::sum || kind == PackedKind::rotate) {
-          const Form form = (*model)[i].form;
-          allowed_[i] = {index_of(form), index_of(exchanged(form))};
-          choices_[i].form = form;
-        }
+      const bool adds = kind == PackedKind::sum || kind == PackedKind::rotate;
+      std::optional<Form> signed_form;
+      if (adds && model != nullptr) signed_form = (*model)[i].form;
+      if (adds && signs == Signs::as_written) signed_form = written_form(nodes_[i]);
+      if (signed_form) {
+        allowed_[i] = {index_of(*signed_form), index_of(exchanged(*signed_form))};
+        choices_[i].form = *signed_form;
+      }
+      if (model != nullptr && (kind == PackedKind::load || kind == PackedKind::store)) {
+        choices_[i].form.exchanged = 1;
       }
       if (kind == PackedKind::store) allowed_[i] = {index_of(choices_[i].form)};
       if (kind != PackedKind::load && kind != PackedKind::zero) {
@@ -401,12 +411,12 @@ namespace {
 
 /// Negated scales cost an instruction each, which only the whole kernel can weigh: so the choice is
 /// made with none, one and all of them, and the cheapest stays.
-std::vector<Choice> cheapest(const PackedGraph& graph, const std::vector<Choice>* model, int sweeps,
-                             int seed) {
+std::vector<Choice> cheapest(const PackedGraph& graph, const std::vector<Choice>* model,
+                             Signs signs, int sweeps, int seed) {
   std::vector<Choice> best;
   int least = 0;
   for (const std::vector<int>& masks : {std::vector{0}, {0, 3}, {0, 1, 2, 3}}) {
-    std::vector<Choice> choices = Annealer(graph, model, masks, seed).run(sweeps);
+    std::vector<Choice> choices = Annealer(graph, model, signs, masks, seed).run(sweeps);
     const FormCost cost = cost_of(graph, choices);
     const int total = cost.exchanges + cost.sign_changes;
     if (best.empty() || total < least) {
@@ -419,14 +429,14 @@ std::vector<Choice> cheapest(const PackedGraph& graph, const std::vector<Choice>
 
 }  // namespace
 
-std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps, int seed) {
-  return cheapest(graph, nullptr, sweeps, seed);
+std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps, int seed, Signs signs) {
+  return cheapest(graph, nullptr, signs, sweeps, seed);
 }
 
 std::vector<Choice> choose_mirrored_forms(const PackedGraph& graph,
                                           const std::vector<Choice>& forward, int sweeps,
                                           int seed) {
-  return cheapest(graph, &forward, sweeps, seed);
+  return cheapest(graph, &forward, Signs::free, sweeps, seed);
 }
 
 }  // namespace haldgen::kernelgen

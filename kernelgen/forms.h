@@ -51,10 +51,17 @@ struct FormCost {
 };
 FormCost cost_of(const PackedGraph& graph, const std::vector<Choice>& choices);
 
+/// Which signs the parts of a sum may be held in.
+enum class Signs {
+  free,        ///< whatever costs least
+  as_written,  ///< those of its statement, which settles the signs of exact zeros too
+};
+
 /// One choice per node, by annealing with a fixed sequence of random numbers: the same graph gives
 /// the same choices on every machine. `sweeps` bounds the work; another `seed` may find another
 /// choice of like cost.
-std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps, int seed = 0);
+std::vector<Choice> choose_forms(const PackedGraph& graph, int sweeps, int seed = 0,
+                                 Signs signs = Signs::free);
 
 /// The choices of the mirrored kernel, which reads and writes elements with their parts exchanged.
 /// Each sum keeps the signs that `forward` gave its parts, so that the two kernels agree in every

@@ -69,6 +69,9 @@ struct Statement {
   /// A product with the spectrum of a convolution, see `fold_products`.
   bool spectral = false;
   Precision precision = Precision::element;
+  /// The power of i with which a sum is written down: where its terms cancel, the sign of the zero
+  /// is that of i^written times this statement. See `written_turned`.
+  int written = 0;
   /// Where the node stood when its block was written: the order in which a transposed statement
   /// takes its terms, so that a block transposed twice reads as it did before.
   int rank = 0;

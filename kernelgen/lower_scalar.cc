@@ -143,11 +143,12 @@ Graph split_parts(const Graph& graph) {
     for (const Term& t : s.terms) {
       const ConstantId constant =
           t.constant == kNoConstant ? kNoConstant : result.intern(graph.constant(t.constant));
-      const Parts operand = turned(parts[at(t.node)], t.turn);
+      const Parts operand = turned(parts[at(t.node)], t.turn + s.written);
       re.push_back({operand.re.turn, constant, operand.re.node});
       im.push_back({operand.im.turn, constant, operand.im.node});
     }
-    parts[at(node)] = {&result, result.statement(re), result.statement(im)};
+    const Parts written{&result, result.statement(re), result.statement(im)};
+    parts[at(node)] = turned(written, -s.written);
   }
   std::vector<Value> outputs;
   for (const Value v : graph.outputs()) {

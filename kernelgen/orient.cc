@@ -41,18 +41,21 @@ int wrong_output(const Graph& graph, const std::vector<bool>& negated) {
   return -1;
 }
 
-}  // namespace
-
-Graph turn_differences(const Graph& graph, const std::vector<bool>& negated) {
-  std::vector<int> behind;
-  for (std::size_t k = 0; k < negated.size(); ++k) {
-    const Value v = graph.outputs()[k];
-    if ((v.turn == 2) != negated[k] && is_difference(graph.node(v.node))) behind.push_back(v.node);
+int difference_at(const Graph& graph, const Way& way) {
+  const auto behind_products = [&](int node) {
+    while (graph.node(node).terms.size() == 1) node = graph.node(node).terms.front().node;
+    return node;
+  };
+  int node = behind_products(graph.outputs()[at(way.front())].node);
+  for (std::size_t step = 1; step < way.size(); ++step) {
+    node = behind_products(graph.node(node).terms.at(at(way[step])).node);
   }
-  return turned_around(graph, behind);
+  if (!is_difference(graph.node(node))) throw std::logic_error("a way leads to no difference");
+  return node;
 }
 
-Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated) {
+/// Every output in its sign.
+Graph signed_outputs(const Graph& graph, const std::vector<bool>& negated) {
   Graph result = turn_differences(graph, negated);
   for (std::size_t round = 0; round <= negated.size(); ++round) {
     const int wrong = wrong_output(result, negated);
@@ -71,6 +74,24 @@ Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated) {
     result = turned_around(result, {inner->node});
   }
   throw std::logic_error("an output cannot be brought to its sign");
+}
+
+}  // namespace
+
+Graph turn_differences(const Graph& graph, const std::vector<bool>& negated) {
+  std::vector<int> behind;
+  for (std::size_t k = 0; k < negated.size(); ++k) {
+    const Value v = graph.outputs()[k];
+    if ((v.turn == 2) != negated[k] && is_difference(graph.node(v.node))) behind.push_back(v.node);
+  }
+  return turned_around(graph, behind);
+}
+
+Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated,
+                     const std::vector<Way>& turned) {
+  Graph result = signed_outputs(graph, negated);
+  for (const Way& way : turned) result = turned_around(result, {difference_at(result, way)});
+  return result;
 }
 
 Graph order_terms(const Graph& graph) {

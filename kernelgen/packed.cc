@@ -242,6 +242,9 @@ class Packer {
     PackedNode node;
     node.kind = shape.kind;
     node.turn = shape.turn;
+    for (std::size_t h = 0; h < 2; ++h) {
+      node.written[h] = graph_.node(lanes[h] >= 0 ? lanes[h] : lanes[0]).written;
+    }
     const auto operand = [&](std::size_t term) {
       std::array<int, 2> nodes{-1, -1};
       for (std::size_t h = 0; h < 2; ++h) {

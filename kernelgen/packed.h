@@ -30,6 +30,7 @@ struct PackedNode {
   std::array<int, 2> half{0, 0};
   std::array<int, 2> element{-1, -1};  ///< -1: this half is idle
   std::array<WideComplex, 2> factor{};
+  std::array<int, 2> written{0, 0};  ///< as in the statements of the halves
 };
 
 /// How vectors of two elements touch memory.

@@ -110,4 +110,28 @@ std::vector<std::vector<Float>> trying_inputs(std::size_t count, double length) 
   return all;
 }
 
+/// Inputs of zeros of both signs, and of these with ones of both signs, on which sums of many kinds
+/// vanish: all of them if they are few, else drawn ones.
+template <class Float>
+std::vector<std::vector<Float>> vanishing_inputs(std::size_t count) {
+  constexpr std::array<Float, 4> kNumbers{Float{0}, -Float{0}, Float{1}, -Float{1}};
+  constexpr std::size_t kMost = 4096;
+  std::vector<std::vector<Float>> all;
+  std::mt19937_64 engine(count);
+  for (const std::size_t base : {2U, 4U}) {
+    const double possible = std::pow(static_cast<double>(base), static_cast<double>(count));
+    const bool drawn = possible > static_cast<double>(kMost);
+    const std::size_t inputs = drawn ? kMost : static_cast<std::size_t>(possible);
+    for (std::size_t i = 0; i < inputs; ++i) {
+      std::uint64_t digits = drawn ? engine() : i;
+      std::vector<Float> values;
+      for (std::size_t j = 0; j < count; ++j, digits /= base) {
+        values.push_back(kNumbers[digits % base]);
+      }
+      all.push_back(values);
+    }
+  }
+  return all;
+}
+
 }  // namespace haldgen::test

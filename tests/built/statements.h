@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "tests/built/library.h"
+
 namespace haldgen::test::statements {
 
 constexpr double kHalf = 0.5;
@@ -12,6 +14,14 @@ constexpr double kEighth = 0.7071067811865476;
 
 template <class Float>
 using Numbers = std::vector<Float>;
+
+/// Random inputs, and those whose results have exact zeros of both signs.
+template <class Float>
+std::vector<Numbers<Float>> transcribed_inputs(std::size_t count) {
+  auto inputs = vanishing_inputs<Float>(count);
+  for (unsigned seed = 0; seed < 50; ++seed) inputs.push_back(random_floats<Float>(count, seed));
+  return inputs;
+}
 
 /// A statement with constants, whose result is kept: 64-bit, rounded once.
 template <class Float>

@@ -14,6 +14,7 @@ using haldgen::test::Floats;
 using haldgen::test::identical;
 using haldgen::test::KernelFunction;
 using haldgen::test::random_floats;
+using haldgen::test::vanishing_inputs;
 
 struct LiveKernel {
   std::string name;

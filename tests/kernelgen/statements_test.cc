@@ -109,6 +109,19 @@ TEST(OrientOutputs, TurnsADifferenceFurtherBackForASum) {
   EXPECT_THROW(orient_outputs(g, {true, false}), std::logic_error);
 }
 
+TEST(OrientOutputs, TurnsDifferencesThatAreNamedByTheWay) {
+  Graph g(Field::real);
+  const Value difference = g.subtract(g.input(0), g.input(1));
+  const Value scaled = g.multiply(kSine, difference);
+  g.set_outputs({g.add(g.input(2), scaled), g.subtract(g.input(2), scaled)});
+  const Graph oriented = orient_outputs(g, {false, false}, {{0, 1}});
+  expect_same_value(oriented, g);
+  EXPECT_EQ(count(oriented), count(g));
+  EXPECT_EQ(behind(oriented, 0).terms[1].turn, 2);
+  EXPECT_EQ(behind(oriented, 1).terms[1].turn, 0);
+  EXPECT_THROW(orient_outputs(g, {false, false}, {{0, 0}}), std::logic_error);
+}
+
 TEST(OrientOutputs, RefusesWhatHasNoMinus) {
   Graph g(Field::real);
   g.set_outputs({g.add(g.input(0), g.input(1))});
