@@ -5,9 +5,6 @@
 #include <string>
 
 #include "dft_complex/recipes.h"
-#include "kernelgen/count.h"
-#include "kernelgen/packed.h"
-#include "kernelgen/program.h"
 #include "kernelgen/schedule.h"
 
 namespace haldgen::dft_complex {
@@ -22,26 +19,15 @@ struct Tuning {
 };
 
 /// The frozen choice for the kernels of a length and type.
-Tuning tuning_of(int length, ElementType type);
-
-/// The graph that is counted and valued; both directions have it.
-kernelgen::Graph kernel_graph(int length, ElementType type);
-
-/// How 32-bit elements are moved at a length from 6 on: whole pairs where most neighbours are
-/// wanted together.
-kernelgen::Access access_of(int length);
+Tuning tuning_of(int length, kernelgen::FloatType type);
 
 /// The programs of both directions, in their orders.
-struct Programs {
-  kernelgen::Program forward;
-  kernelgen::Program inverse;
-};
-Programs kernel_programs(int length, ElementType type, const Tuning& tuning);
+Programs kernel_programs(int length, kernelgen::FloatType type, const Tuning& tuning);
 
 /// "32fc" or "64fc".
-std::string suffix(ElementType type);
+std::string complex_suffix(kernelgen::FloatType type);
 
 /// The source of the kernels of one length and type, both directions.
-std::string kernel_source(int length, ElementType type, const Tuning& tuning);
+std::string kernel_source(int length, kernelgen::FloatType type, const Tuning& tuning);
 
 }  // namespace haldgen::dft_complex

@@ -8,16 +8,17 @@
 namespace haldgen::dft_complex {
 namespace {
 
+using kernelgen::FloatType;
 using kernelgen::Order;
 
 struct Row {
   int length;
-  ElementType type;
+  FloatType type;
   Tuning tuning;
 };
 
-constexpr auto c32 = ElementType::c32;
-constexpr auto c64 = ElementType::c64;
+constexpr auto c32 = FloatType::f32;
+constexpr auto c64 = FloatType::f64;
 constexpr auto bisection = Order::bisection;
 constexpr auto pressure = Order::pressure;
 constexpr auto critical = Order::critical;
@@ -28,7 +29,7 @@ constexpr Row kRows[] = {
 
 }  // namespace
 
-Tuning tuning_of(int length, ElementType type) {
+Tuning tuning_of(int length, FloatType type) {
   const auto row = std::find_if(std::begin(kRows), std::end(kRows),
                                 [&](const Row& r) { return r.length == length && r.type == type; });
   return row == std::end(kRows) ? Tuning{} : row->tuning;

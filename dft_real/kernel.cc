@@ -3,49 +3,13 @@
 #include "dft_real/packing.h"
 #include "kernelgen/count.h"
 #include "kernelgen/emit.h"
-#include "kernelgen/fold.h"
-#include "kernelgen/lower.h"
-#include "kernelgen/orient.h"
-#include "kernelgen/precision.h"
-#include "kernelgen/transpose.h"
-#include "real_blocks/expand.h"
 
 namespace haldgen::dft_real {
 namespace {
 
 using kernelgen::FloatType;
 using kernelgen::Graph;
-using kernelgen::Into;
 using kernelgen::Program;
-using kernelgen::Value;
-
-Graph forward_graph(int length) {
-  const Design& design = design_of(length, Direction::forward);
-  const Graph graph = kernelgen::fold_products(half_spectrum(design.recipe), Into::all);
-  std::vector<bool> negated(static_cast<std::size_t>(length), false);
-  // Value 2k of the half spectrum is the imaginary part of bin k.
-  for (const int bin : design.negated) negated[2 * static_cast<std::size_t>(bin)] = true;
-  return kernelgen::order_terms(kernelgen::orient_outputs(graph, negated));
-}
-
-// x[n] takes each bin but those at 0 and N/2 twice, as itself and as its conjugate: the transpose
-// of the forward graph, fed with doubled values.
-Graph inverse_graph(int length) {
-  const Design& design = design_of(length, Direction::inverse);
-  const Graph forward =
-      kernelgen::fold_products(half_spectrum(design.recipe), design.fold_before_transposing);
-  Graph backward(kernelgen::Field::real);
-  std::vector<Value> fed;
-  for (int i = 0; i < length; ++i) {
-    const bool single = i == 0 || (length % 2 == 0 && i == length - 1);
-    const Value value = backward.input(i);
-    fed.push_back(single ? value : backward.multiply(2.0, value));
-  }
-  backward.set_outputs(kernelgen::transpose_statements_into(backward, forward, fed, length));
-  const Graph folded = kernelgen::fold_doublings(kernelgen::fold_products(backward, Into::all));
-  const std::vector<bool> none(static_cast<std::size_t>(length), false);
-  return kernelgen::order_terms(kernelgen::orient_outputs(folded, none));
-}
 
 /// Whether a load and a store meet in any format when the kernel works in place.
 kernelgen::Overlap overlap_of(int length, Direction direction) {
@@ -112,15 +76,12 @@ std::string entry(int length, Direction direction, FloatType type, Packing packi
 }  // namespace
 
 Graph kernel_graph(int length, Direction direction) {
-  return direction == Direction::forward ? forward_graph(length) : inverse_graph(length);
+  return graph_of(design_of(length, direction));
 }
 
 Program kernel_program(int length, Direction direction, FloatType type,
                        kernelgen::Ordering ordering) {
-  Graph graph = kernel_graph(length, direction);
-  kernelgen::widen_products(graph);
-  kernelgen::widen_sums(graph, {design_of(length, direction).wide_additions});
-  return kernelgen::scheduled(kernelgen::lower_scalar(graph, type), ordering,
+  return kernelgen::scheduled(program_of(design_of(length, direction), type), ordering,
                               overlap_of(length, direction));
 }
 

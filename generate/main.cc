@@ -71,8 +71,7 @@ struct Work {
 /// The kernels of one family, as the commands see them.
 struct Family {
   std::string_view name;
-  int first_length;
-  int last_length;
+  std::vector<int> (*lengths)();
   std::string_view type_of(FloatType type) const {
     return type == FloatType::f32 ? type32 : type64;
   }
@@ -84,28 +83,23 @@ struct Family {
   std::string (*source)(int, FloatType, const Tuning*);
 };
 
-dft_complex::ElementType complex_type(FloatType type) {
-  return type == FloatType::f32 ? dft_complex::ElementType::c32 : dft_complex::ElementType::c64;
-}
-
 constexpr Family kComplex{
     "complex",
-    dft_complex::kFirstLength,
-    dft_complex::kLastLength,
+    dft_complex::lengths,
     "32fc",
     "64fc",
-    [](int n, FloatType type) { return to_string(dft_complex::recipe_of(n, complex_type(type))); },
-    [](int n, FloatType type) { return dft_complex::kernel_graph(n, complex_type(type)); },
+    [](int n, FloatType type) { return to_string(dft_complex::design_of(n, type).recipe); },
+    [](int n, FloatType type) { return graph_of(dft_complex::design_of(n, type)); },
     [](int n, FloatType type) {
-      const auto c = kernelgen::count(dft_complex::kernel_graph(n, complex_type(type)));
+      const auto c = kernelgen::count(graph_of(dft_complex::design_of(n, type)));
       return Work{c.additions, c.multiplications, c.depth, 0};
     },
     [](int n, FloatType type, const Tuning* tuning) {
-      dft_complex::Tuning choice = dft_complex::tuning_of(n, complex_type(type));
+      dft_complex::Tuning choice = dft_complex::tuning_of(n, type);
       if (tuning != nullptr) {
         choice = {tuning->seed, tuning->ordering, tuning->ordering};
       }
-      return dft_complex::kernel_source(n, complex_type(type), choice);
+      return dft_complex::kernel_source(n, type, choice);
     },
 };
 
@@ -122,8 +116,7 @@ template <dft_real::Direction Direction>
 constexpr Family real_family(std::string_view name) {
   return {
       name,
-      dft_real::kFirstLength,
-      dft_real::kLastLength,
+      dft_real::lengths,
       "32f",
       "64f",
       [](int n, FloatType) { return to_string(dft_real::design_of(n, Direction).recipe); },
@@ -141,13 +134,12 @@ constexpr Family real_family(std::string_view name) {
 
 constexpr Family kHartley{
     "hartley",
-    hartley::kFirstLength,
-    hartley::kLastLength,
+    hartley::lengths,
     "32f",
     "64f",
     [](int n, FloatType) {
-      const hartley::Design& design = hartley::design_of(n);
-      const bool paired = design.structure == hartley::Structure::paired;
+      const haldgen::real_blocks::Design& design = hartley::design_of(n);
+      const bool paired = design.structure == haldgen::real_blocks::Structure::paired;
       return to_string(design.recipe) + (paired ? "" : ", transposed");
     },
     [](int n, FloatType) { return hartley::kernel_graph(n); },
@@ -191,7 +183,7 @@ void print_counts(const Family& family, int length, FloatType type) {
 void print_all_counts() {
   print_counts_head();
   for (const Family& family : kFamilies) {
-    for (int length = family.first_length; length <= family.last_length; ++length) {
+    for (const int length : family.lengths()) {
       for (const FloatType type : {FloatType::f32, FloatType::f64}) {
         print_counts(family, length, type);
       }

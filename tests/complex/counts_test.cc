@@ -6,6 +6,7 @@
 #include <set>
 #include <sstream>
 
+#include "kernelgen/count.h"
 #include "kernelgen/forms.h"
 #include "kernelgen/lower.h"
 #include "tests/complex/kernels.h"
@@ -42,7 +43,8 @@ TEST(Counts, EveryRowIsMet) {
   const auto rows = promised();
   ASSERT_EQ(rows.size(), 126U);
   for (const auto& kernel : test::all_kernels()) {
-    EXPECT_EQ(text(count(kernel_graph(kernel.length, kernel.type))), text(rows.at(kernel.text())))
+    EXPECT_EQ(text(count(graph_of(design_of(kernel.length, kernel.type)))),
+              text(rows.at(kernel.text())))
         << kernel.text();
   }
 }
@@ -50,7 +52,7 @@ TEST(Counts, EveryRowIsMet) {
 TEST(Counts, FillersForPairsOfElementsAreNoWork) {
   const auto rows = promised();
   for (const auto& kernel : test::all_kernels()) {
-    const auto graph = expand(recipe_of(kernel.length, kernel.type), true);
+    const auto graph = expand(design_of(kernel.length, kernel.type).recipe, true);
     EXPECT_EQ(text(count(graph)), text(rows.at(kernel.text()))) << kernel.text();
   }
 }
@@ -61,8 +63,9 @@ TEST(Access, OfEachLength) {
                             47, 48, 49, 50, 54, 56, 59, 60, 62, 64};
   const std::set<int> alone{9, 18, 25, 27, 45, 46, 47, 49, 54, 59, 60, 62};
   for (int n = 6; n <= 64; ++n) {
-    const auto packed = pack(expand(recipe_of(n, ElementType::c32), true), 2, access_of(n));
-    const auto program = lower_packed(packed, choose_forms(packed, 1), kernelgen::FloatType::f32);
+    const Design& design = design_of(n, FloatType::f32);
+    const auto packed = pack(expand(design.recipe, true), 2, design.access);
+    const auto program = lower_packed(packed, choose_forms(packed, 1), FloatType::f32);
     bool whole = false, single = false;
     for (const auto& in : program.code) {
       if (!is_load(in.op) && !is_store(in.op)) continue;

@@ -6,19 +6,23 @@
 
 #include "dft_complex/kernel.h"
 
+namespace haldgen::dft_complex {
+using kernelgen::FloatType;
+}
+
 namespace haldgen::dft_complex::test {
 
 struct KernelName {
   int length;
-  ElementType type;
+  FloatType type;
 
-  std::string text() const { return std::to_string(length) + "_" + suffix(type); }
+  std::string text() const { return std::to_string(length) + "_" + complex_suffix(type); }
 };
 
 inline std::vector<KernelName> all_kernels() {
   std::vector<KernelName> all;
-  for (int length = kFirstLength; length <= kLastLength; ++length) {
-    for (const ElementType type : {ElementType::c32, ElementType::c64}) {
+  for (const int length : lengths()) {
+    for (const FloatType type : {FloatType::f32, FloatType::f64}) {
       all.push_back({length, type});
     }
   }

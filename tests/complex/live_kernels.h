@@ -7,6 +7,10 @@
 #include "dft_complex/recipes.h"
 #include "tests/built/library.h"
 
+namespace haldgen::dft_complex {
+using kernelgen::FloatType;
+}
+
 namespace haldgen::dft_complex::test {
 
 using haldgen::test::built_kernel;
@@ -18,7 +22,7 @@ using haldgen::test::random_floats;
 struct LiveKernel {
   std::string name;
   int length;
-  ElementType type;
+  FloatType type;
   bool inverse;
   KernelFunction function;
 };
@@ -31,7 +35,7 @@ inline const std::vector<LiveKernel>& live_kernels() {
       if (!inverse && k.family->word != "DFTFwd_CToC") continue;
       const bool c32 = k.element == frame::Element::c32;
       complex.push_back(
-          {k.name, k.length, c32 ? ElementType::c32 : ElementType::c64, inverse, k.function});
+          {k.name, k.length, c32 ? FloatType::f32 : FloatType::f64, inverse, k.function});
     }
     return complex;
   }();

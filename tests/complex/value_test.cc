@@ -57,22 +57,22 @@ std::vector<WideComplex> random_elements(int n) {
 TEST(Value, EveryGraphIsTheTransform) {
   for (const auto& kernel : test::all_kernels()) {
     const auto x = random_elements(kernel.length);
-    const auto y = evaluate(kernel_graph(kernel.length, kernel.type), x);
+    const auto y = evaluate(graph_of(design_of(kernel.length, kernel.type)), x);
     EXPECT_LT(relative_error(y, transform(x, false)), 1e-29) << kernel.text();
   }
 }
 
 TEST(Value, EveryGraphWithFillersIsTheTransform) {
   for (const auto& kernel : test::all_kernels()) {
-    if (kernel.type != ElementType::c32) continue;
+    if (kernel.type != FloatType::f32) continue;
     const auto x = random_elements(kernel.length);
-    const auto y = evaluate(expand(recipe_of(kernel.length, kernel.type), true), x);
+    const auto y = evaluate(expand(design_of(kernel.length, kernel.type).recipe, true), x);
     EXPECT_LT(relative_error(y, transform(x, false)), 1e-29) << kernel.text();
   }
 }
 
 template <class Float>
-void expect_program(int length, ElementType type, bool inverse) {
+void expect_program(int length, FloatType type, bool inverse) {
   const auto x = random_elements(length);
   std::vector<Float> source;
   for (const WideComplex& v : x) {
@@ -88,15 +88,16 @@ void expect_program(int length, ElementType type, bool inverse) {
   }
   const double epsilon = std::numeric_limits<Float>::epsilon();
   EXPECT_LT(relative_error(y, transform(x, inverse)), epsilon * (1 + std::log2(length)))
-      << length << suffix(type) << (inverse ? " inverse" : "");
+      << length << complex_suffix(type) << (inverse ? " inverse" : "");
 }
 
 // The longer ones differ from these in nothing but time.
 TEST(Value, ShortPrograms) {
-  for (int n = kFirstLength; n <= 20; ++n) {
+  for (const int n : lengths()) {
+    if (n > 20) continue;
     for (const bool inverse : {false, true}) {
-      expect_program<float>(n, ElementType::c32, inverse);
-      expect_program<double>(n, ElementType::c64, inverse);
+      expect_program<float>(n, FloatType::f32, inverse);
+      expect_program<double>(n, FloatType::f64, inverse);
     }
   }
 }

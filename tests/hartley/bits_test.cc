@@ -57,14 +57,14 @@ void expect_bits_of_program(int length, FloatType type) {
 }
 
 TEST(Bits, KernelsEqualTheirPrograms) {
-  for (int length = kFirstLength; length <= kLastLength; ++length) {
+  for (const int length : lengths()) {
     expect_bits_of_program<float>(length, FloatType::f32);
     expect_bits_of_program<double>(length, FloatType::f64);
   }
 }
 
 TEST(Bits, DoNotDependOnTheOrderOfInstructions) {
-  for (int length = kFirstLength; length <= kLastLength; ++length) {
+  for (const int length : lengths()) {
     const auto source = test::random_floats<float>(static_cast<std::size_t>(length), 5);
     std::vector<float> expected(source.size());
     kernelgen::interpret(kernel_program(length, FloatType::f32, {}), source, 1.0F, expected);

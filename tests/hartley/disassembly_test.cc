@@ -14,7 +14,7 @@ namespace {
 using kernelgen::FloatType;
 
 TEST(Disassembly, KernelsAreTheirProgramsInScalarInstructions) {
-  for (int length = kFirstLength; length <= kLastLength; ++length) {
+  for (const int length : lengths()) {
     for (const FloatType type : {FloatType::f32, FloatType::f64}) {
       const std::string symbol =
           "haldgImpl_Hartley_" + std::to_string(length) + "_" + kernelgen::suffix(type);

@@ -15,7 +15,7 @@ using kernelgen::Wide;
 using kernelgen::WideComplex;
 
 TEST(Value, EveryGraphIsTheTransform) {
-  for (int n = kFirstLength; n <= kLastLength; ++n) {
+  for (const int n : lengths()) {
     std::mt19937 engine(static_cast<unsigned>(n));
     std::vector<WideComplex> x;
     for (int i = 0; i < n; ++i) {

@@ -18,7 +18,7 @@ test::ScalarOperations promised(int length, Direction direction, FloatType type)
 }
 
 TEST(Disassembly, RealKernelsAreTheirProgramsInScalarInstructions) {
-  for (int length = kFirstLength; length <= kLastLength; ++length) {
+  for (const int length : lengths()) {
     for (const FloatType type : {FloatType::f32, FloatType::f64}) {
       const std::string end = "_" + std::to_string(length) + "_" + kernelgen::suffix(type);
       for (const auto& [word, direction] : {std::pair{"DFTFwd_RToCCS", Direction::forward},

@@ -64,7 +64,7 @@ std::vector<Wide> inverse(const std::vector<Wide>& values) {
 
 TEST(Value, EveryGraphIsTheTransform) {
   for (const Direction direction : {Direction::forward, Direction::inverse}) {
-    for (int n = kFirstLength; n <= kLastLength; ++n) {
+    for (const int n : lengths()) {
       const std::vector<Wide> source = random_numbers(n);
       const auto expected = direction == Direction::forward ? forward(source) : inverse(source);
       std::vector<WideComplex> inputs;
