@@ -1,7 +1,7 @@
 #include "kernelgen/orient.h"
 
 #include <algorithm>
-#include <stdexcept>
+#include <string>
 
 #include "kernelgen/rewrite.h"
 
@@ -43,6 +43,12 @@ int wrong_output(const Graph& graph, const std::vector<bool>& negated) {
 
 }  // namespace
 
+UnreachableSign::UnreachableSign(int which, bool minus)
+    : std::logic_error("output " + std::to_string(which) + " cannot carry a " +
+                       (minus ? "minus" : "plus") +
+                       ": no difference behind it can be turned around"),
+      output(which) {}
+
 Graph turn_differences(const Graph& graph, const std::vector<bool>& negated) {
   std::vector<int> behind;
   for (std::size_t k = 0; k < negated.size(); ++k) {
@@ -70,7 +76,8 @@ Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated) {
     if (inner == s.terms.end()) break;
     result = turned_around(result, {inner->node});
   }
-  throw std::logic_error("an output cannot be brought to its sign");
+  const int wrong = wrong_output(result, negated);
+  throw UnreachableSign(wrong, negated[at(wrong)]);
 }
 
 Graph order_terms(const Graph& graph) {

@@ -1,19 +1,26 @@
 // Signs of results and the order of terms: the last choices before a real graph becomes a program.
 #pragma once
 
+#include <stdexcept>
 #include <vector>
 
 #include "kernelgen/graph.h"
 
 namespace haldgen::kernelgen {
 
+/// Thrown where no difference behind an output can be turned around for its sign.
+struct UnreachableSign : std::logic_error {
+  UnreachableSign(int output, bool minus);
+  int output;
+};
+
 /// Turns differences behind outputs around, a - b to -(b - a), so that the outputs with a true
 /// entry in `negated` carry a minus and the others none. An output that is no difference stays.
 Graph turn_differences(const Graph& graph, const std::vector<bool>& negated);
 
 /// The same for every output: where the statement behind one has no minus to turn, differences
-/// further back are turned. A negated output is formed as 0 minus its scaled value. Throws if an
-/// output cannot be brought to its sign.
+/// further back are turned. A negated output is formed as 0 minus its scaled value. Throws
+/// UnreachableSign.
 Graph orient_outputs(const Graph& graph, const std::vector<bool>& negated);
 
 /// Terms of each sum in the order of their depth, so that a chain of additions waits as little as

@@ -102,8 +102,15 @@ Graph oriented(const Graph& graph, const Design& design) {
   if (!has_bins && design.negated) {
     throw std::logic_error("only a forward real DFT has imaginary parts to negate");
   }
-  return kernelgen::orient_outputs(
-      graph, imaginary_parts(length, design.negated.value_or(std::vector<int>{})));
+  const Marks negated = imaginary_parts(length, design.negated.value_or(std::vector<int>{}));
+  try {
+    return kernelgen::orient_outputs(graph, negated);
+  } catch (const kernelgen::UnreachableSign& error) {
+    if (!has_bins) throw;
+    const std::string bin = std::to_string((error.output + 1) / 2);
+    throw std::logic_error("real DFT of length " + std::to_string(length) + ", bin " + bin + ": " +
+                           error.what() + "; change `negated` there or leave it out");
+  }
 }
 
 }  // namespace

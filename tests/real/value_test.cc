@@ -5,7 +5,9 @@
 #include <random>
 
 #include "dft_real/kernel.h"
+#include "kernelgen/count.h"
 #include "kernelgen/evaluate.h"
+#include "real_blocks/pieces.h"
 
 namespace haldgen::dft_real {
 namespace {
@@ -62,24 +64,63 @@ std::vector<Wide> inverse(const std::vector<Wide>& values) {
   return x;
 }
 
-TEST(Value, EveryGraphIsTheTransform) {
-  for (const Direction direction : {Direction::forward, Direction::inverse}) {
-    for (const int n : lengths()) {
-      const std::vector<Wide> source = random_numbers(n);
-      const auto expected = direction == Direction::forward ? forward(source) : inverse(source);
-      std::vector<WideComplex> inputs;
-      for (const Wide v : source) inputs.push_back({v, 0.0});
-      const auto actual = evaluate(kernel_graph(n, direction), inputs);
-      ASSERT_EQ(actual.size(), expected.size());
-      double error = 0, norm = 0;
-      for (std::size_t i = 0; i < expected.size(); ++i) {
-        error += std::pow((actual[i].re - expected[i]).hi, 2);
-        norm += std::pow(expected[i].hi, 2);
-      }
-      EXPECT_LT(std::sqrt(error / norm), 1e-29)
-          << n << (direction == Direction::forward ? " forward" : " inverse");
-    }
+double relative_error(const kernelgen::Graph& graph, const std::vector<Wide>& source,
+                      const std::vector<Wide>& expected) {
+  std::vector<WideComplex> inputs;
+  for (const Wide v : source) inputs.push_back({v, 0.0});
+  const auto actual = evaluate(graph, inputs);
+  double error = 0, norm = 0;
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    error += std::pow((actual.at(i).re - expected[i]).hi, 2);
+    norm += std::pow(expected[i].hi, 2);
   }
+  return actual.size() == expected.size() ? std::sqrt(error / norm) : 1;
+}
+
+TEST(Value, EveryGraphIsTheTransform) {
+  for (const int n : lengths()) {
+    const std::vector<Wide> source = random_numbers(n);
+    EXPECT_LT(relative_error(kernel_graph(n, Direction::forward), source, forward(source)), 1e-29)
+        << n;
+    EXPECT_LT(relative_error(kernel_graph(n, Direction::inverse), source, inverse(source)), 1e-29)
+        << n;
+  }
+}
+
+// Rows that leave the signs of their outputs to the recipe, of lengths that no table has too.
+TEST(Value, RowsWithoutSignsAreTheTransform) {
+  using namespace real_blocks::pieces;  // NOLINT(google-build-using-namespace)
+  std::vector<Design> designs;
+  for (const int n : lengths()) designs.push_back(design_of(n, Direction::forward));
+  designs.push_back({real_blocks::coprime(nine, real_blocks::power_of_two(8)),
+                     real_blocks::Structure::spectrum, kernelgen::Into::all});
+  for (Design& design : designs) {
+    const kernelgen::Counts listed = count(graph_of(design));
+    design.negated.reset();
+    const kernelgen::Graph graph = graph_of(design);
+    const std::vector<Wide> source = random_numbers(design.recipe.length);
+    EXPECT_LT(relative_error(graph, source, forward(source)), 1e-29) << source.size();
+    EXPECT_EQ(count(graph).additions, listed.additions) << source.size();
+    EXPECT_EQ(count(graph).multiplications, listed.multiplications) << source.size();
+  }
+}
+
+TEST(Value, ASignThatCannotBeNamesBinAndWayOut) {
+  Design design = design_of(5, Direction::forward);
+  const auto error_of = [&](std::vector<int> negated) -> std::string {
+    design.negated = std::move(negated);
+    try {
+      graph_of(design);
+    } catch (const std::logic_error& error) {
+      return error.what();
+    }
+    return "";
+  };
+  EXPECT_EQ(error_of({2}), "");
+  EXPECT_EQ(error_of({1}),
+            "real DFT of length 5, bin 2: output 4 cannot carry a plus: no difference behind it "
+            "can be turned around; change `negated` there or leave it out");
+  EXPECT_EQ(error_of({3}), "bin 3 has no imaginary part to negate");
 }
 
 }  // namespace
