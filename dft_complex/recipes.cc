@@ -127,8 +127,8 @@ DesignTable<Design> designs_of_32_bits() {
       {45, {ct(n15, b3), pairs}},
       {46, {ct(r23, b2), pairs_and_lone}},
       {47,
-       {with_zero_lanes(bluestein(47, with_split_eighths(ct(b4, n24)), 56,
-                                  with_split_eighths(ct(ct(b4, b2), n12)), 57),
+       {with_zero_lanes(bluestein(47, with_eighths_sum_first(ct(b4, n24)), 56,
+                                  with_eighths_sum_first(ct(ct(b4, b2), n12)), 57),
                         2),
         pairs}},
       {48, {ct(b4, n12), pairs}},
@@ -144,7 +144,7 @@ DesignTable<Design> designs_of_32_bits() {
       {58, {pfa(b2, r29)}},
       {59,
        {with_zero_lanes(bluestein(59, ct(shared_sixteen_joined(), b8), 64,
-                                  with_split_eighths(ct(b8, b16), {{8, 2}, {8, 6}}), 59),
+                                  with_eighths_sum_first(ct(b8, b16), {{8, 2}, {8, 6}}), 59),
                         2),
         pairs}},
       {60, {n60, pairs}},
@@ -168,22 +168,23 @@ DesignTable<Design> designs_of_64_bits() {
   const Recipe r7 = folded_there(joined_rader(7, n6));
   const Recipe r11 = joined_rader(11, pfa(b2, b5));
   const Recipe r13 = folded_back(joined_rader(13, n12, four_odd(b3)));
-  const Recipe r13_twist = joined_rader(13, n12, halves(pfa(b3, b2), odd_twist(b3)));
-  const Recipe r17 = joined_rader(17, b16, with_bins(with_split_eighths(ct(b8, b2)), symmetric(8)));
+  const Recipe r13_twist = joined_rader(13, n12, halves(pfa(b3, b2), twisted(b3)));
+  const Recipe r17 =
+      joined_rader(17, b16, with_bins(with_eighths_sum_first(ct(b8, b2)), symmetric(8)));
   const Recipe r19 = folded_there(joined_rader(19, pfa(b2, ct9_symmetric), pfa(ct9_symmetric, b2)));
   const Recipe r23 = joined_rader(23, pfa(b11, b2), pfa(r11, b2));
   const Recipe r29 = joined_rader(29, n28, four_odd(b7));
-  const Recipe r29_twist = joined_rader(29, n28, halves(pfa(b2, b7), odd_twist(b7)));
+  const Recipe r29_twist = joined_rader(29, n28, halves(pfa(b2, b7), twisted(b7)));
   const Recipe r31 = folded_there(joined_rader(31, n30));
   const Recipe n36_symmetric = pfa(b4, ct9_symmetric);
   const Recipe r37 = folded_there(
-      joined_rader(37, n36_symmetric, halves(pfa(b2, ct9_symmetric), odd_twist(ct9_symmetric))));
+      joined_rader(37, n36_symmetric, halves(pfa(b2, ct9_symmetric), twisted(ct9_symmetric))));
   const Recipe n40_mixed = halves(four_odd(b5w), odd_of(pfa(b8, b5)));
   const Recipe n21 = pfa(b7, b3);
   const Recipe r43 = folded_there(joined_rader(43, coprime({b2}, {n21, pfa(b3, b7)}),
                                                coprime({b2}, {n21, symmetric_ct(b7, b3)})));
   const Recipe n46 = pfa(r23, b2);
-  const Recipe r53 = joined_rader(53, pfa(r13, b4), halves(pfa(b2, r13), odd_twist(r13_twist)));
+  const Recipe r53 = joined_rader(53, pfa(r13, b4), halves(pfa(b2, r13), twisted(r13_twist)));
   const Recipe r59 = joined_rader(59, pfa(b2, r29), pfa(b2, r29_twist));
   const Recipe r61 = folded_back(joined_rader(61, pfa(b3, b4, b5), four_odd(n15)));
 
@@ -218,7 +219,7 @@ DesignTable<Design> designs_of_64_bits() {
       {29, {r29}},
       {30, {n30}},
       {31, {r31}},
-      {32, {with_split_eighths(ct(b8, b4))}},
+      {32, {with_eighths_sum_first(ct(b8, b4))}},
       {33, {pfa(b11, b3)}},
       {34, {pfa(b2, r17)}},
       // One of the five columns has the Rader form, the others are direct.
@@ -252,7 +253,7 @@ DesignTable<Design> designs_of_64_bits() {
       {61, {r61}},
       {62, {pfa(b2, r31)}},
       {63, {pfa(b7, ct9_even)}},
-      {64, {with_split_eighths(ct(b16, b4))}},
+      {64, {with_eighths_sum_first(ct(b16, b4))}},
   };
 }
 

@@ -7,13 +7,15 @@
 #pragma once
 
 #include "kernelgen/graph.h"
+#include "kernelgen/numbers.h"
 
 namespace haldgen::kernelgen {
 
 /// How a multiplication by an eighth root of unity is formed.
 enum class EighthRoot {
-  sum_first,     ///< sum and difference of the parts, then two multiplications
-  full_product,  ///< four multiplications, like any other twiddle
+  sum_first,       ///< sum and difference of the parts, then two multiplications
+  products_first,  ///< two multiplications, then sum and difference
+  full_product,    ///< four multiplications, like any other twiddle
 };
 
 struct Whole {
@@ -88,12 +90,15 @@ inline Parts full_product(WideComplex w, Parts a, bool /*keep_trivial*/) {
 /// exp(-2 pi i k / n) * a.
 template <class Element>
 Element twiddle(Element a, int n, int k, EighthRoot eighth, bool keep_trivial = false) {
-  k = ((k % n) + n) % n;
+  k = modulo(k, n);
   if (4 * k % n == 0 && !keep_trivial) return turned(a, -(4 * k / n));
-  if (8 * k % n == 0 && (8 * k / n) % 2 == 1 && eighth == EighthRoot::sum_first) {
+  if (8 * k % n == 0 && (8 * k / n) % 2 == 1 && eighth != EighthRoot::full_product) {
     // (1 - i) / sqrt 2, turned as the exponent asks.
     const Element quarter = turned(a, -((8 * k / n) / 2));
-    return sqrt(Wide(0.5)) * (quarter + turned(quarter, 3));
+    const Wide c = sqrt(Wide(0.5));
+    if (eighth == EighthRoot::sum_first) return c * (quarter + turned(quarter, 3));
+    const Element products = c * quarter;
+    return products + turned(products, 3);
   }
   return full_product(root(n, k), a, keep_trivial);
 }

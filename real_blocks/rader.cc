@@ -1,29 +1,15 @@
 // A prime length P as a convolution of length L = P - 1 over the powers of a primitive root, on
 // real data: the outputs g^p and g^(p + L/2) are conjugates, so the even bins of the product of
 // spectra give the real parts of half the outputs and the odd bins the imaginary parts.
-#include <stdexcept>
-
 #include "kernelgen/fold.h"
+#include "kernelgen/numbers.h"
 #include "kernelgen/transpose.h"
 #include "real_blocks/statements.h"
 
 namespace haldgen::real_blocks {
 namespace {
 
-int power(int base, int exponent, int modulus) {
-  int result = 1;
-  for (int i = 0; i < exponent; ++i) result = result * base % modulus;
-  return result;
-}
-
-int smallest_primitive_root(int prime) {
-  for (int g = 2; g < prime; ++g) {
-    int order = 1;
-    for (int v = g; v != 1; v = v * g % prime) ++order;
-    if (order == prime - 1) return g;
-  }
-  throw std::logic_error("not a prime");
-}
+using kernelgen::power;
 
 struct Convolution {
   int prime;
@@ -33,9 +19,7 @@ struct Convolution {
   int length() const { return prime - 1; }
   int half() const { return length() / 2; }
   /// The output that is made in place p: root^-(p + shift).
-  int output(int p) const {
-    return power(root, (length() - (p + shift) % length()) % length(), prime);
-  }
+  int output(int p) const { return power(root, kernelgen::modulo(-(p + shift), length()), prime); }
   /// Bin j of the spectrum of cosines (even j) or of -sines (odd j) at the outputs, which as a
   /// whole is real or imaginary symmetric: its two parts.
   kernelgen::WideComplex spectrum(int j) const {
@@ -65,7 +49,7 @@ Graph side_graph(const Recipe& recipe, bool odd) {
 
 Bins rader_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int prime = recipe.length;
-  const Convolution c{prime, smallest_primitive_root(prime), recipe.shift};
+  const Convolution c{prime, kernelgen::primitive_root(prime), recipe.chosen<Rader>().shift};
   const int m = c.half();
   const Wide length(c.length());
 

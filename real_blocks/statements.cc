@@ -4,6 +4,8 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "kernelgen/numbers.h"
+
 namespace haldgen::real_blocks {
 
 double literal(Wide magnitude) {
@@ -30,9 +32,9 @@ Value product(Graph& graph, Wide constant, Value v) {
 
 Bin rotated(Bin a, int k, int n, EighthRoot eighth) {
   Graph& g = *a.graph;
-  k = ((k % n) + n) % n;
+  k = kernelgen::modulo(k, n);
   if (4 * k % n == 0) return turned(a, -(4 * k / n));
-  if (8 * k % n == 0) {
+  if (8 * k % n == 0 && eighth != EighthRoot::full_product) {
     // (1 - i) / sqrt 2, turned as the exponent asks.
     const Bin quarter = turned(a, -((8 * k / n) / 2));
     const Wide c = sqrt(Wide(0.5));
@@ -73,13 +75,6 @@ void place_odd(Bins& bins, int n, int j, Bin bin) {
   Bin& target = bins[at(j / 2)];
   if (target.graph != nullptr) throw std::logic_error("an odd bin twice");
   target = bin;
-}
-
-int congruent(int i, int a, int j, int b) {
-  for (int k = i; k < a * b; k += a) {
-    if (k % b == j) return k;
-  }
-  throw std::logic_error("factors are not coprime");
 }
 
 }  // namespace haldgen::real_blocks

@@ -26,7 +26,7 @@ Value product(Graph& graph, Wide constant, Value v);
 
 inline Bin conj(Bin a) { return {a.graph, a.re, -a.im}; }
 
-/// exp(-2 pi i k / n) * a: four products in two statements; two for an eighth root.
+/// exp(-2 pi i k / n) * a: four products in two statements; two, unless full, for an eighth root.
 Bin rotated(Bin a, int k, int n, EighthRoot eighth);
 
 /// Puts bin k of a real transform of length n into bins 0..n/2: bins above are conjugates.
@@ -34,9 +34,6 @@ void place(Bins& bins, int n, int k, Bin bin);
 
 /// The same for bin j of the odd ones 1, 3, .. of length 2n.
 void place_odd(Bins& bins, int n, int j, Bin bin);
-
-/// The k below a * b with k = i modulo a and k = j modulo b.
-int congruent(int i, int a, int j, int b);
 
 Bins rader_bins(Graph& graph, const Recipe& recipe, const Reals& x);
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "kernelgen/count.h"
+#include "kernelgen/element.h"
 #include "kernelgen/evaluate.h"
 
 namespace haldgen::kernelgen {
@@ -204,6 +205,23 @@ TEST_F(ComplexGraph, PairsOfColumns) {
   }
   ASSERT_EQ(g.columns()[0].fans.size(), 2U);
   EXPECT_EQ(g.columns()[0].fans[0].size(), 3U);
+}
+
+TEST_F(ComplexGraph, EighthRootsInThreeWays) {
+  const auto expect = [](EighthRoot eighth, Counts counts) {
+    for (const int k : {1, 3, 5, 7}) {
+      Graph graph(Field::complex);
+      const Whole product = twiddle(Whole{&graph, graph.input(0)}, 8, k, eighth);
+      graph.set_outputs({product.value});
+      const WideComplex v = evaluate(graph, std::vector<WideComplex>{{1.0, 2.0}})[0];
+      const WideComplex expected = root(8, k) * WideComplex{1.0, 2.0};
+      EXPECT_TRUE(is_negligible(v.re - expected.re) && is_negligible(v.im - expected.im)) << k;
+      EXPECT_EQ(count(graph), counts) << k;
+    }
+  };
+  expect(EighthRoot::sum_first, {2, 2, 2});
+  expect(EighthRoot::products_first, {2, 2, 2});
+  expect(EighthRoot::full_product, {2, 4, 2});
 }
 
 TEST_F(ComplexGraph, ColumnsRecordTheirCalls) {

@@ -92,8 +92,11 @@ TEST(Value, RowsWithoutSignsAreTheTransform) {
   using namespace real_blocks::pieces;  // NOLINT(google-build-using-namespace)
   std::vector<Design> designs;
   for (const int n : lengths()) designs.push_back(design_of(n, Direction::forward));
-  designs.push_back({real_blocks::coprime(nine, real_blocks::power_of_two(8)),
-                     real_blocks::Structure::spectrum, kernelgen::Into::all});
+  for (const auto eighth :
+       {kernelgen::EighthRoot::sum_first, kernelgen::EighthRoot::full_product}) {
+    designs.push_back({real_blocks::coprime(nine, real_blocks::power_of_two(8, eighth)),
+                       real_blocks::Structure::spectrum, kernelgen::Into::all});
+  }
   for (Design& design : designs) {
     const kernelgen::Counts listed = count(graph_of(design));
     design.negated.reset();
