@@ -42,8 +42,8 @@ std::string kernel_type(int length, FloatType type, bool inverse, const Program&
 std::string entry(int length, FloatType type, bool inverse) {
   const std::string element = type == FloatType::f32 ? "Cplx32" : "Cplx64";
   return "extern \"C\" int32_t haldgImpl_DFT" + std::string(inverse ? "Inv" : "Fwd") + "_CToC_" +
-         std::to_string(length) + "_" + complex_suffix(type) + "(const " + element + "* src, " + element +
-         "* dst, int32_t flag) {\n  return run<" + (inverse ? "Inverse" : "Forward") +
+         std::to_string(length) + "_" + complex_suffix(type) + "(const " + element + "* src, " +
+         element + "* dst, int32_t flag) {\n  return run<" + (inverse ? "Inverse" : "Forward") +
          ">(src, dst, flag);\n}\n";
 }
 
