@@ -30,10 +30,15 @@ std::vector<int> lengths_of(const DesignTable<Design>& table) {
 /// The lengths of two tables of one family. Throws std::logic_error if they differ.
 template <class Design>
 std::vector<int> lengths_of(const DesignTable<Design>& one, const DesignTable<Design>& other) {
-  std::vector<int> lengths = lengths_of(one);
-  for (const int length : lengths) row_of(other, length);
-  for (const int length : lengths_of(other)) row_of(one, length);
-  return lengths;
+  const auto check = [](const DesignTable<Design>& rows, const DesignTable<Design>& beside) {
+    for (const int length : lengths_of(rows)) {
+      if (beside.count(length) != 0) continue;
+      throw std::logic_error("length " + std::to_string(length) + " has a row in one table only");
+    }
+  };
+  check(one, other);
+  check(other, one);
+  return lengths_of(one);
 }
 
 }  // namespace haldgen::kernelgen
