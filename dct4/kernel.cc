@@ -14,8 +14,8 @@ namespace {
 
 using kernelgen::FloatType;
 using kernelgen::Graph;
-using kernelgen::LaneInputs;
 using kernelgen::Program;
+using kernelgen::Target;
 
 /// Lengths whose rotations stand for those of any block: none of their angles is one that a
 /// recombination has inside, so each of their constants is an entry of the table.
@@ -174,18 +174,21 @@ Graph kernel_graph(const Kernel& kernel) {
 
 Program kernel_program(const Kernel& kernel, kernelgen::Ordering ordering) {
   Graph graph = oriented(kernel);
-  LaneInputs inputs;
-  inputs.lanes = kernel.part == Part::fixed ? 1 : lanes(kernel.type);
-  inputs.transposed = kernel.part == Part::recombine;
+  Target target{.type = kernel.type, .scaled = kernelgen::Scaled::nothing};
+  if (kernel.part != Part::fixed) {
+    target.lanes = lanes(kernel.type);
+    target.memory = kernelgen::Memory::slots;
+  }
+  target.transposed = kernel.part == Part::recombine;
   int entries = 0;
   for (const kernelgen::WideComplex& w : stand_in_rotations(kernel)) {
-    inputs.table[graph.intern(w.re)] = entries++;
-    inputs.table[graph.intern(w.im)] = entries++;
+    target.table[graph.intern(w.re)] = entries++;
+    target.table[graph.intern(w.im)] = entries++;
   }
-  if (static_cast<int>(inputs.table.size()) != entries) {
+  if (static_cast<int>(target.table.size()) != entries) {
     throw std::logic_error("two entries of a table are taken for one");
   }
-  return scheduled(lower_lanes(graph, kernel.type, inputs), ordering);
+  return scheduled(lower_real(graph, target), ordering);
 }
 
 kernelgen::Counts transform_counts(int length) {

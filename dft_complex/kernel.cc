@@ -6,6 +6,7 @@
 
 #include "kernelgen/emit.h"
 #include "kernelgen/lower.h"
+#include "kernelgen/parts.h"
 #include "kernelgen/precision.h"
 
 namespace haldgen::dft_complex {
@@ -49,7 +50,7 @@ Program scalar_program(int length, ElementType type, bool mirrored) {
   Graph parts =
       kernelgen::gather_statements(kernelgen::split_parts(expand(recipe_of(length, type), false)));
   if (has_wide_products(length, type)) kernelgen::widen_products(parts);
-  Program program = kernelgen::lower_scalar(parts, float_type(type));
+  Program program = kernelgen::lower_real(parts, {float_type(type)});
   if (mirrored) {
     for (auto& in : program.code) {
       if (kernelgen::is_load(in.op) || kernelgen::is_store(in.op)) in.address[0] ^= 1;

@@ -120,7 +120,7 @@ Program kernel_program(int length, Direction direction, FloatType type,
   Graph graph = kernel_graph(length, direction);
   kernelgen::widen_products(graph);
   kernelgen::widen_sums(graph, {design_of(length, direction).wide_additions});
-  return kernelgen::scheduled(kernelgen::lower_scalar(graph, type), ordering,
+  return kernelgen::scheduled(kernelgen::lower_real(graph, {type}), ordering,
                               overlap_of(length, direction));
 }
 

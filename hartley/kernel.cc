@@ -78,8 +78,8 @@ Program kernel_program(int length, FloatType type, kernelgen::Ordering ordering)
   Graph graph = kernel_graph(length);
   kernelgen::widen_products(graph);
   kernelgen::widen_sums(graph, design_of(length).wide_sums);
-  return kernelgen::scheduled(kernelgen::lower_scalar(graph, type, kernelgen::Scaled::kept),
-                              ordering);
+  return kernelgen::scheduled(
+      kernelgen::lower_real(graph, {.type = type, .scaled = kernelgen::Scaled::kept}), ordering);
 }
 
 std::string kernel_source(int length, FloatType type, kernelgen::Ordering ordering) {

@@ -1,5 +1,6 @@
 #include "kernelgen/emit.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "kernelgen/wide.h"
@@ -22,7 +23,7 @@ class Printer {
       : program_(program), subscripts_(subscripts) {}
 
   std::string run() {
-    if (!scalar() && program_.memory == Memory::arrays) define_scales();
+    if (!scalar() && has_scales()) define_scales();
     if (scalar()) define_two();
     for (std::size_t i = 0; i < program_.code.size(); ++i) print(static_cast<int>(i));
     return std::move(text_);
@@ -30,6 +31,10 @@ class Printer {
 
  private:
   bool scalar() const { return program_.lanes == 1; }
+  bool has_scales() const {
+    return std::any_of(program_.code.begin(), program_.code.end(),
+                       [](const Instruction& in) { return in.op == Op::scale; });
+  }
   bool f32() const { return program_.type == FloatType::f32; }
 
   void line(const std::string& content) { text_ += "    " + content + "\n"; }

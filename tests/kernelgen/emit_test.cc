@@ -119,7 +119,7 @@ TEST(Dot, ShowsInputsConstantsTurnsAndOutputs) {
 TEST(Emit, ScalarProgramsReachMemoryThroughSubscripts) {
   Graph g(Field::real);
   g.set_outputs({g.multiply(2.0, g.input(1))});
-  const Program program = lower_scalar(g, FloatType::f64);
+  const Program program = lower_real(g, {FloatType::f64});
   // The compiler must not see the 2: it would make an addition.
   EXPECT_EQ(emit_body(program, {"Format::at", ""}),
             "    const double two = scalar::opaque(2.0);\n"

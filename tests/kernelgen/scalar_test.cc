@@ -6,6 +6,7 @@
 #include "kernelgen/count.h"
 #include "kernelgen/evaluate.h"
 #include "kernelgen/lower.h"
+#include "kernelgen/parts.h"
 #include "kernelgen/precision.h"
 #include "tests/kernelgen/random_graph.h"
 
@@ -26,7 +27,7 @@ void expect_bits_of_graph(const Graph& graph, std::uint32_t seed, Scaled scaled 
   const Float scale = static_cast<Float>(0.3);
   const FloatType type = std::is_same_v<Float, float> ? FloatType::f32 : FloatType::f64;
   std::vector<Float> actual(graph.outputs().size());
-  interpret(lower_scalar(graph, type, scaled), source, scale, actual);
+  interpret(lower_real(graph, {.type = type, .scaled = scaled}), source, scale, actual);
   ASSERT_TRUE(test::same_bits(actual, test::direct<Float>(graph, source, scale, scaled)))
       << "seed " << seed;
 }
@@ -74,7 +75,7 @@ TEST(ScalarLowering, WideArithmeticIsSeenInTheBits) {
 TEST(ScalarLowering, SixtyFourBitElementsAreNeverWidened) {
   Graph graph = test::random_real_graph(1);
   widen_products(graph);
-  for (const Instruction& in : lower_scalar(graph, FloatType::f64).code) {
+  for (const Instruction& in : lower_real(graph, {FloatType::f64}).code) {
     EXPECT_FALSE(in.wide || in.op == Op::widen || in.op == Op::narrow);
   }
 }
@@ -83,10 +84,19 @@ TEST(ScalarLowering, ANegatedOutputIsZeroMinusTheScaledValue) {
   Graph g(Field::real);
   g.set_outputs({-g.input(0)});
   std::vector<double> out(1);
-  interpret(lower_scalar(g, FloatType::f64), {0.0}, 0.5, out);
+  interpret(lower_real(g, {FloatType::f64}), {0.0}, 0.5, out);
   EXPECT_FALSE(std::signbit(out[0]));
-  interpret(lower_scalar(g, FloatType::f64), {3.0}, 0.5, out);
+  interpret(lower_real(g, {FloatType::f64}), {3.0}, 0.5, out);
   EXPECT_EQ(out[0], -1.5);
+}
+
+// A graph never makes one: it moves a minus that all terms have to the uses of the sum.
+TEST(ScalarLowering, RefusesASumOfMinusesOnly) {
+  Graph g(Field::real);
+  const Value sum = g.add(g.input(0), g.input(1));
+  g.set_outputs({sum});
+  for (Term& t : g.node(sum.node).terms) t.turn = 2;
+  EXPECT_THROW(lower_real(g, {FloatType::f64}), std::logic_error);
 }
 
 TEST(WidenProducts, MarksStatementsWithConstantsOnly) {

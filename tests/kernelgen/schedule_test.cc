@@ -26,7 +26,7 @@ Program vector_program(std::uint32_t seed, int halves) {
 }
 
 Program scalar_program(std::uint32_t seed) {
-  return lower_scalar(test::random_real_graph(seed), FloatType::f64);
+  return lower_real(test::random_real_graph(seed), {FloatType::f64});
 }
 
 /// Programs of all kinds, each in each order; some caps are too small to be kept to.
@@ -207,7 +207,7 @@ Program sum_of(int inputs) {
     level = next;
   }
   g.set_outputs({level[0]});
-  return lower_scalar(g, FloatType::f64);
+  return lower_real(g, {FloatType::f64});
 }
 
 TEST(Schedule, BisectionKeepsATreeInFewRegisters) {

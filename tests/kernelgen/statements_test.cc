@@ -182,9 +182,9 @@ TEST(WidenSums, OrAsManyConversionsAsAsked) {
 
 TEST(WidenSums, AreNeverNarrowed) {
   Sums s;
-  const auto before = tally(lower_scalar(s.graph, FloatType::f32));
+  const auto before = tally(lower_real(s.graph, {FloatType::f32}));
   widen_sums(s.graph, {1});
-  const auto after = tally(lower_scalar(s.graph, FloatType::f32));
+  const auto after = tally(lower_real(s.graph, {FloatType::f32}));
   EXPECT_EQ(after.in64.additions, before.in64.additions + 1);
   EXPECT_EQ(after.in32.additions, before.in32.additions - 1);
   EXPECT_EQ(after.narrowings, before.narrowings);
@@ -196,7 +196,7 @@ TEST(WidenProducts, DoublingsAreExactInTheirOwnPrecision) {
   const Value doubled = g.multiply(2.0, g.input(0));
   g.set_outputs({g.add(doubled, g.input(1)), g.statement({times(g, kSine, doubled)})});
   widen_products(g);
-  const Tally t = tally(lower_scalar(g, FloatType::f32));
+  const Tally t = tally(lower_real(g, {FloatType::f32}));
   EXPECT_EQ(t.in32.products, 1);
   EXPECT_EQ(t.in64.products, 1);
 }
@@ -207,7 +207,7 @@ TEST(Tally, CountsByPrecisionAndTheLongestChain) {
   g.set_outputs({-g.statement({times(g, kSine, difference), plain(g.input(2))}),
                  g.add(difference, g.input(2))});
   widen_products(g);
-  const Tally t = tally(lower_scalar(g, FloatType::f32));
+  const Tally t = tally(lower_real(g, {FloatType::f32}));
   EXPECT_EQ(t.in32.additions, 2);
   EXPECT_EQ(t.in64.additions, 1);
   EXPECT_EQ(t.in64.negations, 1);
@@ -217,7 +217,7 @@ TEST(Tally, CountsByPrecisionAndTheLongestChain) {
   EXPECT_EQ(t.widenings, 2);
   EXPECT_EQ(t.narrowings, 1);
   EXPECT_EQ(t.depth, 5);  // difference, product, sum, scale, negation
-  const Tally narrowed = tally(lower_scalar(g, FloatType::f32, Scaled::kept));
+  const Tally narrowed = tally(lower_real(g, {.type = FloatType::f32, .scaled = Scaled::kept}));
   EXPECT_EQ(narrowed.in64.scales + narrowed.in64.negations, 0);
   EXPECT_EQ(narrowed.in32.scales, 2);
 }
