@@ -42,7 +42,7 @@ Graph inverse_graph(int length) {
     fed.push_back(single ? value : backward.multiply(2.0, value));
   }
   backward.set_outputs(kernelgen::transpose_statements_into(backward, forward, fed, length));
-  const Graph folded = kernelgen::fold_doublings(kernelgen::fold_products(backward, Into::all));
+  const Graph folded = kernelgen::fold_products(backward, Into::all);
   const std::vector<bool> none(static_cast<std::size_t>(length), false);
   return kernelgen::order_terms(kernelgen::orient_outputs(folded, none));
 }

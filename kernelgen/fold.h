@@ -15,10 +15,4 @@ enum class Into {
 /// product is the product of the literals.
 Graph fold_products(const Graph& graph, Into into);
 
-/// c * (2*x), where nothing else uses the doubled value, becomes (2*c)*x.
-Graph fold_doublings(const Graph& graph);
-
-/// Whether a statement is an exact doubling.
-bool is_doubling(const Graph& graph, const Statement& statement);
-
 }  // namespace haldgen::kernelgen

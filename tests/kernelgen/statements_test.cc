@@ -74,18 +74,6 @@ TEST(FoldProducts, IntoSpectralProductsOnlyIfAsked) {
   EXPECT_EQ(count(fold_products(g, Into::none)), count(g));
 }
 
-TEST(FoldDoublings, ADoubledValueThatOnlyOneProductUses) {
-  Graph g(Field::real);
-  const Value alone = g.multiply(2.0, g.input(0));
-  const Value shared = g.multiply(2.0, g.input(1));
-  g.set_outputs({g.statement({times(g, kSine, alone)}), g.statement({times(g, kSine, shared)}),
-                 g.add(shared, g.input(2))});
-  const Graph folded = fold_doublings(g);
-  expect_same_value(folded, g);
-  EXPECT_EQ(folded.literal(behind(folded, 0).terms[0].constant), 2 * to_double(kSine));
-  EXPECT_EQ(count(folded).multiplications, 3);
-}
-
 TEST(OrientOutputs, TurnsDifferencesAround) {
   Graph g(Field::real);
   g.set_outputs({g.subtract(g.input(0), g.input(1)), g.subtract(g.input(2), g.input(3))});
