@@ -103,7 +103,7 @@ Recipe with_mate(Recipe recipe, int bin);
 std::vector<int> symmetric(int count);
 
 /// The graph of the forward transform: inputs and outputs 0..length-1 in natural order. With
-/// `paired`, columns whose partner has a twiddle are given fillers.
+/// `paired`, columns whose partner has a twiddle are given plain copies.
 kernelgen::Graph expand(const Recipe& recipe, bool paired);
 
 }  // namespace haldgen::dft_complex

@@ -119,7 +119,7 @@ std::vector<Row> forward_rows() {
 }
 
 Row transposed(int length, Recipe recipe, int wide_additions = 0,
-               kernelgen::Into fold = kernelgen::Into::spectral) {
+               kernelgen::Into fold = kernelgen::Into::foldable) {
   Row result = row(length, std::move(recipe), {}, wide_additions);
   result.design.fold_before_transposing = fold;
   return result;

@@ -22,7 +22,7 @@ struct Design {
   /// Additions, beside those of statements with constants, that 32-bit kernels make in 64 bits.
   int wide_additions = 0;
   /// Which constants of the forward graph meet before it is transposed.
-  kernelgen::Into fold_before_transposing = kernelgen::Into::spectral;
+  kernelgen::Into fold_before_transposing = kernelgen::Into::foldable;
 };
 
 const Design& design_of(int length, Direction direction);

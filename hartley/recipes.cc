@@ -22,16 +22,16 @@ struct Row {
   Design design;
 };
 
-Row paired(int length, Recipe recipe, Into fold = Into::spectral, WideSums wide_sums = {}) {
+Row paired(int length, Recipe recipe, Into fold = Into::foldable, WideSums wide_sums = {}) {
   return {length, {Structure::paired, totalled_by_power(std::move(recipe)), fold, wide_sums}};
 }
 
-Row transposed(int length, Recipe recipe, Into fold = Into::spectral, WideSums wide_sums = {}) {
+Row transposed(int length, Recipe recipe, Into fold = Into::foldable, WideSums wide_sums = {}) {
   return {length, {Structure::transposed, totalled_by_power(std::move(recipe)), fold, wide_sums}};
 }
 
 std::vector<Row> rows() {
-  constexpr auto spectral = Into::spectral;
+  constexpr auto spectral = Into::foldable;
   constexpr auto all = Into::all;
   constexpr auto none = Into::none;
   const Recipe eight = power_of_two(8);

@@ -24,7 +24,7 @@ struct Design {
   Structure structure;
   real_blocks::Recipe recipe;
   /// Which constants of the half spectrum's graph meet.
-  kernelgen::Into fold = kernelgen::Into::spectral;
+  kernelgen::Into fold = kernelgen::Into::foldable;
   kernelgen::WideSums wide_sums = {};
 };
 

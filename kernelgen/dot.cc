@@ -16,8 +16,8 @@ std::string to_dot(const Graph& graph) {
     const std::string name = "n" + std::to_string(index);
     std::string label = name;
     if (s.input >= 0) label = "x[" + std::to_string(s.input) + "]";
-    if (s.filler) label += " filler";
-    if (s.carried_zero) label = "0";
+    if (is_plain_copy(s)) label += " copy";
+    if (s.input < 0 && s.terms.empty()) label = "0";
     text += "  " + name + " [label=\"" + label + "\"];\n";
     for (const Term& t : s.terms) {
       std::string factor = kTurn[t.turn];

@@ -69,7 +69,8 @@ inline Parts zero_like(Parts a) { return {a.graph, {}, {}}; }
 inline Parts carried_zero(Parts a) {
   return {a.graph, a.graph->carried_zero(), a.graph->carried_zero()};
 }
-/// w * a on formal parts. `apart` keeps the two products of an eighth root from meeting.
+/// w * a on formal parts. Where the parts of w are of one magnitude, `apart` makes two products of
+/// each part of a all the same.
 inline Parts product(WideComplex w, Parts a, bool apart) {
   Graph& g = *a.graph;
   if (is_negligible(w.im)) return w.re * a;

@@ -27,7 +27,7 @@ Graph fold_products(const Graph& graph, Into into) {
     if (!is_product(s)) return kZeroNode;
     const int inner = s.terms[0].node;
     const Statement& t = graph.node(inner);
-    const bool wanted = into == Into::all || (into == Into::spectral && t.spectral);
+    const bool wanted = into == Into::all || (into == Into::foldable && t.foldable);
     return wanted && is_sum_of_products(t) && uses.single(inner) ? inner : kZeroNode;
   };
   std::vector<char> absorbed(graph.nodes().size(), 0);

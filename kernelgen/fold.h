@@ -7,7 +7,7 @@ namespace haldgen::kernelgen {
 
 enum class Into {
   all,       ///< any statement of products
-  spectral,  ///< only products with the spectrum of a convolution
+  foldable,  ///< those that are marked so
   none,
 };
 

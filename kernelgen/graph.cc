@@ -32,17 +32,18 @@ Value Graph::record(Value v) {
   return v;
 }
 
-Value Graph::intern_statement(Statement statement) {
+Value Graph::intern_statement(std::vector<Term> terms, bool apart) {
   // Equal up to a turn, and for a plain sum of two up to the order of its terms, is equal: the key
   // is the statement with its first term unturned, nodes of a pair ascending.
-  std::vector<Term> terms = statement.terms;
+  Statement statement;
+  statement.terms = terms;
   const bool plain_pair = terms.size() == 2 && terms[0].constant == kNoConstant &&
                           terms[1].constant == kNoConstant && terms[1].node != kZeroNode;
   if (plain_pair && terms[1].node < terms[0].node) std::swap(terms[0], terms[1]);
   const int turn = terms.front().turn;
   for (Term& t : terms) t.turn = (t.turn - turn) & 3;
-  const auto [it, fresh] = index_.try_emplace({std::move(terms), statement.filler, statement.apart},
-                                              Value{static_cast<int>(nodes_.size()), turn});
+  const auto [it, fresh] =
+      index_.try_emplace({std::move(terms), apart}, Value{static_cast<int>(nodes_.size()), turn});
   if (fresh) {
     statement.rank = static_cast<int>(nodes_.size());
     nodes_.push_back(std::move(statement));
@@ -62,9 +63,7 @@ Value Graph::input(int index) {
 }
 
 Value Graph::carried_zero() {
-  Statement zero;
-  zero.carried_zero = true;
-  nodes_.push_back(zero);
+  nodes_.emplace_back();
   return {static_cast<int>(nodes_.size()) - 1, 0};
 }
 
@@ -84,9 +83,7 @@ Value Graph::statement(std::vector<Term> terms) {
   }
   for (Term& t : terms) t.turn = (t.turn - outer) & 3;
 
-  Statement result;
-  result.terms = std::move(terms);
-  return record(turned(intern_statement(std::move(result)), outer));
+  return record(turned(intern_statement(std::move(terms)), outer));
 }
 
 Value Graph::add(Value a, Value b) {
@@ -99,9 +96,8 @@ Value Graph::add(Value a, Value b) {
 
 Value Graph::add_zero(Value a) {
   if (is_zero(a)) return record({});
-  Statement padded;
-  padded.terms = {{0, kNoConstant, a.node}, {0, kNoConstant, kZeroNode}};
-  return record(turned(intern_statement(std::move(padded)), a.turn));
+  const Value sum = intern_statement({{0, kNoConstant, a.node}, {0, kNoConstant, kZeroNode}});
+  return record(turned(sum, a.turn));
 }
 
 Value Graph::multiply(Wide constant, Value a, bool apart) {
@@ -116,10 +112,8 @@ Value Graph::multiply(Wide constant, Value a, bool apart) {
     }
   }
   if (is_negligible(constant - 1.0)) return record(a);
-  Statement product;
-  product.terms = {{0, intern(constant), a.node}};
-  product.apart = apart;
-  return record(turned(intern_statement(std::move(product)), a.turn));
+  const Value product = intern_statement({{0, intern(constant), a.node}}, apart);
+  return record(turned(product, a.turn));
 }
 
 Value Graph::twiddle(WideComplex w, Value a, bool keep_trivial) {
@@ -130,19 +124,15 @@ Value Graph::twiddle(WideComplex w, Value a, bool keep_trivial) {
     const Wide part = real ? w.re : w.im;
     const Value along = real ? a : turned(a, 1);
     if (!keep_trivial) return multiply(part, along);
-    Statement filler;
-    filler.filler = true;
-    filler.terms = {{part.hi < 0 ? (along.turn + 2) & 3 : along.turn, kNoConstant, along.node}};
-    return record(intern_statement(std::move(filler)));
+    const Value signed_along = part.hi < 0 ? -along : along;
+    return record(intern_statement({{signed_along.turn, kNoConstant, along.node}}));
   }
   // The sign stays inside: however a twiddle is signed, its value is unturned, so that twiddles in
   // the lanes of one vector meet the same additions.
   const auto product = [this](Wide part, Value operand) {
     return Term{(operand.turn + (part.hi < 0 ? 2 : 0)) & 3, intern(abs(part)), operand.node};
   };
-  Statement rotation;
-  rotation.terms = {product(w.re, a), product(w.im, turned(a, 1))};
-  return record(intern_statement(std::move(rotation)));
+  return record(intern_statement({product(w.re, a), product(w.im, turned(a, 1))}));
 }
 
 void Graph::enter_column(int index, int count) {

@@ -20,8 +20,8 @@ struct Shape {
 
 Shape shape_of(const Statement& s) {
   if (s.input >= 0) return {PackedKind::load};
-  if (s.carried_zero) return {PackedKind::zero};
-  if (s.filler) return {PackedKind::rotate};
+  if (s.terms.empty()) return {PackedKind::zero};
+  if (is_plain_copy(s)) return {PackedKind::rotate};
   if (s.terms.size() == 1) return {PackedKind::scale};
   const Term& first = s.terms[0];
   const Term& second = s.terms[1];

@@ -38,7 +38,7 @@ void Rewrite::rebuild(int node, std::vector<Term> terms, int turns) {
   values_[static_cast<std::size_t>(node)] = turned(result, turns);
   if (graph_.nodes().size() == before) return;
   Statement& fresh = graph_.node(result.node);
-  fresh.spectral = s.spectral;
+  fresh.foldable = s.foldable;
   fresh.precision = s.precision;
   fresh.rank = s.rank;
 }

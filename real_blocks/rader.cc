@@ -92,8 +92,9 @@ Bins rader_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     const Value out_re = g.statement({re_re, re_im});
     const Term im_im = term(g, re, bin.im), im_re = term(g, im, bin.re);
     const Value out_im = g.statement({im_im, im_re});
-    g.node(out_re.node).spectral = true;
-    g.node(out_im.node).spectral = true;
+    // Products with the spectrum: of the constants behind them, some kernels fold only these.
+    g.node(out_re.node).foldable = true;
+    g.node(out_im.node).foldable = true;
     Reals& side = j % 2 == 0 ? even : odd;
     side.push_back(out_re);
     side.push_back(out_im);

@@ -22,10 +22,10 @@ TEST(Count, AFullTwiddleIsFourProductsAndTwoSums) {
   EXPECT_EQ(count(g), (Counts{2, 4, 2}));
 }
 
-TEST(Count, FillersAreNoWork) {
+TEST(Count, PlainCopiesAreNoWork) {
   Graph g(Field::complex);
-  const Value filler = g.twiddle(root(4, 1), g.input(0), true);
-  g.set_outputs({g.add(filler, g.input(1))});
+  const Value copy = g.twiddle(root(4, 1), g.input(0), true);
+  g.set_outputs({g.add(copy, g.input(1))});
   EXPECT_EQ(count(g), (Counts{2, 0, 1}));
 }
 

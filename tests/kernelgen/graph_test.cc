@@ -159,14 +159,14 @@ TEST_F(ComplexGraph, ConstantsMeetByValue) {
   EXPECT_EQ(g.intern(kSine), g.intern(kSine));
 }
 
-TEST_F(ComplexGraph, TwiddlesAreFreeOnTheAxesAndFillersOnDemand) {
+TEST_F(ComplexGraph, TwiddlesAreFreeOnTheAxesAndCopiesOnDemand) {
   for (int k = 0; k < 4; ++k) {
     EXPECT_EQ(g.twiddle(root(4, k), x), turned(x, -k)) << k;
-    const Value filler = g.twiddle(root(4, k), x, true);
-    EXPECT_TRUE(g.node(filler.node).filler) << k;
-    EXPECT_NE(filler.node, x.node) << k;
+    const Value copy = g.twiddle(root(4, k), x, true);
+    EXPECT_TRUE(is_plain_copy(g.node(copy.node))) << k;
+    EXPECT_NE(copy.node, x.node) << k;
   }
-  EXPECT_FALSE(g.node(g.twiddle(root(5, 1), x, true).node).filler);
+  EXPECT_FALSE(is_plain_copy(g.node(g.twiddle(root(5, 1), x, true).node)));
 }
 
 TEST_F(ComplexGraph, ATwiddleIsTheProduct) {

@@ -63,14 +63,14 @@ TEST(FoldProducts, SumsWithOtherUsesOrPlainTermsStay) {
   EXPECT_EQ(count(fold_products(g, Into::all)), count(g));
 }
 
-TEST(FoldProducts, IntoSpectralProductsOnlyIfAsked) {
+TEST(FoldProducts, IntoFoldableStatementsOnlyIfAsked) {
   Graph g(Field::real);
   const Value sum = g.statement({times(g, kSine, g.input(0)), times(g, kCosine, g.input(1))});
   g.set_outputs({g.statement({times(g, kCosine, sum)})});
-  EXPECT_EQ(count(fold_products(g, Into::spectral)), count(g));
+  EXPECT_EQ(count(fold_products(g, Into::foldable)), count(g));
   EXPECT_EQ(count(fold_products(g, Into::none)), count(g));
-  g.node(sum.node).spectral = true;
-  EXPECT_EQ(count(fold_products(g, Into::spectral)).multiplications, 2);
+  g.node(sum.node).foldable = true;
+  EXPECT_EQ(count(fold_products(g, Into::foldable)).multiplications, 2);
   EXPECT_EQ(count(fold_products(g, Into::none)), count(g));
 }
 
