@@ -105,14 +105,14 @@ std::string head_comment(const Kernel& kernel) {
 }
 
 std::string fixed_function(const Kernel& kernel, const Program& program) {
-  const std::string type = kernel.type == FloatType::f32 ? "float" : "double";
+  const std::string type = kernelgen::type_name(kernel.type);
   return "void " + name(kernel) + "(const " + type + "* src, " + type + "* dst) {\n" +
          emit_body(program) + "}\n";
 }
 
 /// The body as a template over the accessor of its slots, and the pass that runs it.
 std::string pass_function(const Kernel& kernel, const Program& program) {
-  const std::string type = kernel.type == FloatType::f32 ? "float" : "double";
+  const std::string type = kernelgen::type_name(kernel.type);
   const std::string vector = kernel.type == FloatType::f32 ? "__m128" : "__m128d";
   const std::string pass = kernel.part == Part::fold        ? "Fold"
                            : kernel.part == Part::recombine ? "Recombine"

@@ -5,20 +5,20 @@
 
 #include "dft_complex/blocks.h"
 #include "dft_complex/recipe.h"
+#include "kernelgen/integers.h"
 #include "kernelgen/transpose.h"
 
 namespace haldgen::dft_complex {
 namespace {
 
+using kernelgen::at;
 using kernelgen::Field;
 using kernelgen::Graph;
+using kernelgen::modulo;
 using kernelgen::Parts;
 using kernelgen::Value;
 using kernelgen::Whole;
 using kernelgen::WideComplex;
-
-std::size_t at(int k) { return static_cast<std::size_t>(k); }
-int modulo(int k, int n) { return ((k % n) + n) % n; }
 
 /// Sets folding of constants for a region and restores it.
 class Folding {
@@ -35,26 +35,14 @@ class Folding {
   bool before_;
 };
 
-int power(int base, int exponent, int modulus) {
-  int result = 1;
-  for (int i = 0; i < exponent; ++i) result = result * base % modulus;
-  return result;
-}
-
-int primitive_root(int p) {
-  for (int g = 2;; ++g) {
-    int order = 1;
-    for (int v = g; v != 1; v = v * g % p) ++order;
-    if (order == p - 1) return g;
-  }
-}
-
 /// Rader's index permutation of p - 1 places.
 struct RaderOrder {
   explicit RaderOrder(int p) : length(p - 1) {
-    const int g = primitive_root(p);
-    for (int k = 0; k < length; ++k) read.push_back(power(g, k, p));
-    for (int l = 0; l < length; ++l) write.push_back(power(g, modulo(-l, length), p));
+    const int g = kernelgen::primitive_root(p);
+    for (int k = 0; k < length; ++k) read.push_back(kernelgen::power(g, k, p));
+    for (int l = 0; l < length; ++l) {
+      write.push_back(kernelgen::power(g, modulo(-l, length), p));
+    };
   }
   int length;
   std::vector<int> read;   ///< place k holds x[g^k]
@@ -266,7 +254,9 @@ class Expander {
     const int bin = bins[at(k)];
     const bool unfolded = r.shifts.keep_first_apart && modulo(place, r.second.front().length) == 0;
     const Folding region(graph_, graph_.folding() && !unfolded);
-    return twiddle(v, n, -direction_.exponent * place * bin, eighth_style(r, place, bin), ride);
+    const int exponent = modulo(-direction_.exponent * place * bin, n);
+    if (ride && 4 * exponent % n == 0) return full_product(kernelgen::root(n, exponent), v, true);
+    return twiddle(v, n, exponent, eighth_style(r, place, bin));
   }
 
   Elements<E> rader_steps(const Recipe& r, const Elements<E>& x) {
@@ -281,7 +271,7 @@ class Expander {
     y[0] = x[0] + spectrum[0];
     Elements<E> p;
     for (int m = 0; m < length; ++m) {
-      E v = full_product(c[at(m)], spectrum[at(m)], false);
+      E v = full_product(c[at(m)], spectrum[at(m)]);
       if (r.zero_lanes == 6 && (m == 0 || m == half)) v = add_zero(v);
       p.push_back(v);
     }
@@ -478,7 +468,7 @@ class Expander {
       wrapped[at(modulo(-n, m))] = wrapped[at(n)];
     }
     Elements<E> u{x[0]};
-    for (int n = 1; n < p; ++n) u.push_back(full_product(chirp[at(n)], x[at(n)], false));
+    for (int n = 1; n < p; ++n) u.push_back(full_product(chirp[at(n)], x[at(n)]));
     for (int n = p; n < r.carried; ++n) u.push_back(carried_zero(x[0]));
     u.resize(at(m), zero_like(x[0]));
     const Elements<E> spectrum = run(r.first.front(), u);
@@ -488,13 +478,13 @@ class Expander {
       for (int n = 0; n < m; ++n) {
         sum = sum + wrapped[at(n)] * kernelgen::root(m, n * k % m);
       }
-      E v = full_product((Wide(1.0) / Wide(m)) * sum, spectrum[at(k)], false);
+      E v = full_product((Wide(1.0) / Wide(m)) * sum, spectrum[at(k)]);
       if (k == 0 && r.zero_lanes != 0) v = add_zero(v);
       convolved.push_back(v);
     }
     const Elements<E> v = inverse(r.second.front(), convolved);
     Elements<E> y{v[0]};
-    for (int k = 1; k < p; ++k) y.push_back(full_product(chirp[at(k)], v[at(k)], false));
+    for (int k = 1; k < p; ++k) y.push_back(full_product(chirp[at(k)], v[at(k)]));
     for (int k = p; k < r.computed; ++k) {
       for (const Value lane : lanes(v[at(k)])) graph_.keep(lane);
     }

@@ -7,13 +7,15 @@
 #pragma once
 
 #include "kernelgen/graph.h"
+#include "kernelgen/integers.h"
 
 namespace haldgen::kernelgen {
 
 /// How a multiplication by an eighth root of unity is formed.
 enum class EighthRoot {
-  sum_first,     ///< sum and difference of the parts, then two multiplications
-  full_product,  ///< four multiplications, like any other twiddle
+  sum_first,       ///< sum and difference of the parts, then two multiplications
+  products_first,  ///< two multiplications, then sum and difference
+  full_product,    ///< four multiplications, like any other root
 };
 
 struct Whole {
@@ -36,7 +38,7 @@ inline Whole add_zero(Whole a) { return {a.graph, a.graph->add_zero(a.value)}; }
 inline Whole zero_like(Whole a) { return {a.graph, {}}; }
 inline Whole carried_zero(Whole a) { return {a.graph, a.graph->carried_zero()}; }
 /// The general product: four multiplications and two additions.
-inline Whole full_product(WideComplex w, Whole a, bool keep_trivial) {
+inline Whole full_product(WideComplex w, Whole a, bool keep_trivial = false) {
   return {a.graph, a.graph->twiddle(w, a.value, keep_trivial)};
 }
 
@@ -47,6 +49,7 @@ inline Parts operator+(Parts a, Parts b) {
 }
 inline Parts operator-(Parts a) { return {a.graph, -a.re, -a.im}; }
 inline Parts operator-(Parts a, Parts b) { return a + (-b); }
+inline Parts conj(Parts a) { return {a.graph, a.re, -a.im}; }
 inline Parts turned(Parts a, int turns) {
   switch (turns & 3) {
     case 1:
@@ -82,21 +85,29 @@ inline Parts product(WideComplex w, Parts a, bool apart) {
   const Value im_re = g.multiply(w.im, a.re, apart);
   return {a.graph, re, g.add(re_im, im_re)};
 }
-inline Parts full_product(WideComplex w, Parts a, bool /*keep_trivial*/) {
+inline Parts full_product(WideComplex w, Parts a, bool /*keep_trivial*/ = false) {
   return product(w, a, true);
 }
 
-/// exp(-2 pi i k / n) * a.
-template <class Element>
-Element twiddle(Element a, int n, int k, EighthRoot eighth, bool keep_trivial = false) {
-  k = ((k % n) + n) % n;
-  if (4 * k % n == 0 && !keep_trivial) return turned(a, -(4 * k / n));
-  if (8 * k % n == 0 && (8 * k / n) % 2 == 1 && eighth == EighthRoot::sum_first) {
+/// exp(-2 pi i k / n) * a. Powers of i are free, eighth roots are formed as `eighth` says, and
+/// `product` writes a general w * a.
+template <class Element, class Product>
+Element twiddle(Element a, int n, int k, EighthRoot eighth, const Product& product) {
+  k = modulo(k, n);
+  if (4 * k % n == 0) return turned(a, -(4 * k / n));
+  if (8 * k % n == 0 && eighth != EighthRoot::full_product) {
     // (1 - i) / sqrt 2, turned as the exponent asks.
     const Element quarter = turned(a, -((8 * k / n) / 2));
-    return sqrt(Wide(0.5)) * (quarter + turned(quarter, 3));
+    const Wide c = sqrt(Wide(0.5));
+    if (eighth == EighthRoot::sum_first) return c * (quarter + turned(quarter, 3));
+    const Element products = c * quarter;
+    return products + turned(products, 3);
   }
-  return full_product(root(n, k), a, keep_trivial);
+  return product(root(n, k), a);
+}
+template <class Element>
+Element twiddle(Element a, int n, int k, EighthRoot eighth) {
+  return twiddle(a, n, k, eighth, [](WideComplex w, Element b) { return full_product(w, b); });
 }
 
 }  // namespace haldgen::kernelgen

@@ -85,9 +85,12 @@ class Printer {
 
   void define(int index, const std::string& expression) {
     const Instruction& in = program_.code[static_cast<std::size_t>(index)];
-    const char* type = "V";
-    if (scalar()) type = f32() && !(in.wide && in.op != Op::narrow) ? "float" : "double";
-    line(std::string("const ") + type + " " + name(index) + " = " + expression + ";");
+    std::string type = "V";
+    if (scalar()) {
+      const bool in32 = f32() && !(in.wide && in.op != Op::narrow);
+      type = type_name(in32 ? FloatType::f32 : FloatType::f64);
+    }
+    line("const " + type + " " + name(index) + " = " + expression + ";");
   }
 
   std::string constants(const Instruction& in) const {
@@ -204,8 +207,8 @@ std::string describe(const Tally& t, FloatType type) {
 std::string scale_members(int length, Divides divides, FloatType type) {
   const Wide n(length);
   const auto member = [&](const char* name, Wide factor) {
-    const double rounded = type == FloatType::f32 ? double{to_float(factor)} : to_double(factor);
-    return std::string("  static constexpr Float ") + name + " = " + literal(rounded, type) + ";\n";
+    return std::string("  static constexpr Float ") + name + " = " +
+           literal(rounded(factor, type), type) + ";\n";
   };
   const Wide by_length = Wide(1.0) / n;
   return member("kFwdByN", divides == Divides::inverse ? Wide(1.0) : by_length) +

@@ -7,13 +7,14 @@
 #include <span>
 #include <utility>
 
+#include "kernelgen/integers.h"
+
 namespace haldgen::kernelgen {
 namespace {
 
 constexpr int kForms = 8;
 constexpr int kLowerings = 5;
 
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 int index_of(Form f) { return f.exchanged * 4 + f.negated; }
 Form form_of(int index) { return {index >> 2, index & 3}; }
 

@@ -51,6 +51,8 @@ struct Term {
   friend auto operator<=>(const Term&, const Term&) = default;
 };
 
+inline bool is_minus(const Term& t) { return t.turn == 2; }
+
 enum class Field { real, complex };
 
 /// Where a statement is computed: in the element's own type, or in 64 bits and then narrowed once.

@@ -1,12 +1,11 @@
 #include <algorithm>
 #include <map>
 
+#include "kernelgen/integers.h"
 #include "kernelgen/lower.h"
 
 namespace haldgen::kernelgen {
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 class PackedLowering {
  public:
@@ -68,11 +67,6 @@ class PackedLowering {
     instruction.a = a;
     instruction.b = b;
     return emit(instruction);
-  }
-
-  /// The number that a constant becomes in the element type.
-  double rounded(Wide value) const {
-    return program_.type == FloatType::f32 ? double{to_float(value)} : to_double(value);
   }
 
   int sign_change(int from, int negated) {
@@ -204,7 +198,8 @@ class PackedLowering {
     instruction.a = operand;
     for (int h = 0; h < graph_.halves; ++h) {
       for (int lane = 0; lane < 2; ++lane) {
-        instruction.constant[at(2 * h + lane)] = rounded(constant_of(lane, n.factor[at(h)]));
+        instruction.constant[at(2 * h + lane)] =
+            rounded(constant_of(lane, n.factor[at(h)]), program_.type);
       }
     }
     return emit(instruction);

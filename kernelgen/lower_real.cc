@@ -2,15 +2,12 @@
 #include <optional>
 #include <stdexcept>
 
+#include "kernelgen/integers.h"
 #include "kernelgen/lower.h"
 #include "kernelgen/rewrite.h"
 
 namespace haldgen::kernelgen {
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
-
-bool is_minus(const Term& t) { return t.turn == 2; }
 
 class RealLowering {
  public:
@@ -117,13 +114,13 @@ class RealLowering {
       return emit(Op::product, factor, entry->second);
     }
     const bool in64 = wide || program_.type == FloatType::f64;
-    const double rounded =
-        in64 ? graph_.literal(t.constant) : double{to_float(graph_.constant(t.constant))};
+    const double factor_literal =
+        in64 ? graph_.literal(t.constant) : rounded(graph_.constant(t.constant), FloatType::f32);
     Instruction multiply;
     multiply.op = Op::multiply;
     multiply.a = factor;
     multiply.wide = wide;
-    multiply.constant.fill(negative ? -rounded : rounded);
+    multiply.constant.fill(negative ? -factor_literal : factor_literal);
     return emit(multiply);
   }
 

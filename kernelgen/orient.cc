@@ -3,14 +3,11 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "kernelgen/integers.h"
 #include "kernelgen/rewrite.h"
 
 namespace haldgen::kernelgen {
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
-
-bool is_minus(const Term& t) { return t.turn == 2; }
 
 bool is_difference(const Statement& s) {
   return std::any_of(s.terms.begin(), s.terms.end(), is_minus) &&

@@ -5,10 +5,10 @@
 #include <map>
 #include <stdexcept>
 
+#include "kernelgen/integers.h"
+
 namespace haldgen::kernelgen {
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 /// What a statement does, apart from its operands and constants.
 struct Shape {

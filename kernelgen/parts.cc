@@ -1,14 +1,10 @@
 #include "kernelgen/parts.h"
 
 #include "kernelgen/element.h"
+#include "kernelgen/integers.h"
 #include "kernelgen/rewrite.h"
 
 namespace haldgen::kernelgen {
-namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
-
-}  // namespace
 
 Graph split_parts(const Graph& graph) {
   Graph result(Field::real);

@@ -112,6 +112,10 @@ void interpret_as(const Program& program, const std::vector<Float>& source, Floa
 
 }  // namespace
 
+double rounded(Wide value, FloatType type) {
+  return type == FloatType::f32 ? double{to_float(value)} : to_double(value);
+}
+
 bool is_load(Op op) {
   return op == Op::load || op == Op::load_pair || op == Op::load_single || op == Op::zero;
 }

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "kernelgen/wide.h"
+
 namespace haldgen::kernelgen {
 
 enum class Op {
@@ -46,6 +48,9 @@ struct Instruction {
 };
 
 enum class FloatType { f32, f64 };
+
+/// The number of the type that a constant becomes.
+double rounded(Wide value, FloatType type);
 
 /// What the addresses of a program mean. Arrays: floats from the bases of `src` and `dst`, which
 /// may be one array. Slots: an accessor `io` knows where each whole vector lies, vector k being

@@ -5,10 +5,10 @@
 #include <set>
 #include <stdexcept>
 
+#include "kernelgen/integers.h"
+
 namespace haldgen::kernelgen {
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 /// Who needs what. In place a store overwrites an input, so every load of an array's place comes
 /// before the store to it: an edge that orders but holds no register.

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "kernelgen/element.h"
+
 namespace haldgen::real_blocks {
 
 enum class Method {
@@ -30,11 +32,7 @@ enum class Method {
   classes,      ///< classes modulo p, twiddled, complex blocks of length p across them
 };
 
-/// How a multiplication by an eighth root of unity is formed.
-enum class EighthRoot {
-  sum_first,       ///< sum and difference of the parts, then two multiplications
-  products_first,  ///< two multiplications, then sum and difference
-};
+using kernelgen::EighthRoot;
 
 /// The order in which a direct block adds its sums x[k] + x[n-k] to x[0] for bin 0. The cosine and
 /// sine sums take the pairs by powers always; up to 7 points both orders are one.

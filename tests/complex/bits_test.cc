@@ -7,18 +7,18 @@
 
 #include "dft_complex/kernel.h"
 #include "haldgen.h"
+#include "kernelgen/integers.h"
 #include "tests/complex/live_kernels.h"
 #include "tests/kernelgen/direct.h"
 
 namespace haldgen::dft_complex {
 namespace {
 
+using kernelgen::at;
 using kernelgen::Order;
 using kernelgen::Program;
 using test::Floats;
 using test::LiveKernel;
-
-std::size_t at(int k) { return static_cast<std::size_t>(k); }
 
 template <class Float>
 std::vector<std::vector<Float>> inputs(int length) {

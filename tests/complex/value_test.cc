@@ -5,15 +5,15 @@
 #include <random>
 
 #include "kernelgen/evaluate.h"
+#include "kernelgen/integers.h"
 #include "tests/complex/kernels.h"
 
 namespace haldgen::dft_complex {
 namespace {
 
+using kernelgen::at;
 using kernelgen::Wide;
 using kernelgen::WideComplex;
-
-std::size_t at(int k) { return static_cast<std::size_t>(k); }
 
 std::vector<WideComplex> transform(const std::vector<WideComplex>& x, bool inverse) {
   const int n = static_cast<int>(x.size());

@@ -7,10 +7,12 @@
 
 #include "dct4/walk.h"
 #include "kernelgen/evaluate.h"
+#include "kernelgen/integers.h"
 
 namespace haldgen::dct4 {
 namespace {
 
+using kernelgen::at;
 using kernelgen::Wide;
 using kernelgen::WideComplex;
 
@@ -31,8 +33,6 @@ WideComplex half_turn(std::int64_t numerator, std::int64_t denominator) {
 void expect_equal(Wide actual, Wide expected, const std::string& what) {
   EXPECT_LT(abs(actual - expected).hi, 1e-27) << what;
 }
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 TEST(Factorisation, FoldsAreTransformsWithOddFrequencies) {
   for (int m = 2; m <= 128; m *= 2) {

@@ -8,12 +8,11 @@
 #include <vector>
 
 #include "kernelgen/graph.h"
+#include "kernelgen/integers.h"
 #include "kernelgen/lower.h"
 #include "kernelgen/rewrite.h"
 
 namespace haldgen::kernelgen::test {
-
-inline std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 template <class Float>
 struct Element {

@@ -13,7 +13,6 @@
 namespace haldgen::kernelgen {
 namespace {
 
-using test::at;
 using test::Dice;
 
 constexpr int kInputs = 8;

@@ -16,7 +16,6 @@
 namespace haldgen::kernelgen {
 namespace {
 
-using test::at;
 using test::Dice;
 
 constexpr std::uint32_t kSeeds = 120;

@@ -13,7 +13,6 @@
 namespace haldgen::kernelgen {
 namespace {
 
-using test::at;
 using test::Dice;
 
 constexpr std::uint32_t kSeeds = 200;

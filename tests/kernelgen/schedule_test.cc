@@ -16,7 +16,6 @@
 namespace haldgen::kernelgen {
 namespace {
 
-using test::at;
 using test::Dice;
 
 constexpr Order kOrders[] = {Order::program, Order::bisection, Order::pressure, Order::critical};

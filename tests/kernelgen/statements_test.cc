@@ -16,7 +16,6 @@
 namespace haldgen::kernelgen {
 namespace {
 
-using test::at;
 using test::Dice;
 
 const Wide kSine = sin_turn(1, 5);

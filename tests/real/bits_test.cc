@@ -8,18 +8,18 @@
 #include "dft_real/kernel.h"
 #include "dft_real/packing.h"
 #include "haldgen.h"
+#include "kernelgen/integers.h"
 #include "tests/built/library.h"
 
 namespace haldgen::dft_real {
 namespace {
 
+using kernelgen::at;
 using kernelgen::FloatType;
 using kernelgen::Order;
 using kernelgen::Program;
 using test::BuiltKernel;
 using test::Floats;
-
-std::size_t at(int k) { return static_cast<std::size_t>(k); }
 
 struct RealKernel {
   BuiltKernel built;

@@ -4,15 +4,15 @@
 #include <set>
 
 #include "dft_real/kernel.h"
+#include "kernelgen/integers.h"
 #include "tests/kernelgen/steps.h"
 
 namespace haldgen::dft_real {
 namespace {
 
+using kernelgen::at;
 using test::Steps;
 using test::Wides;
-
-std::size_t at(int k) { return static_cast<std::size_t>(k); }
 
 /// Element `stride` j + `first`, modulo the length.
 Wides strided(const Wides& x, int stride, int first, int count) {

@@ -6,14 +6,14 @@
 
 #include "dft_real/kernel.h"
 #include "kernelgen/evaluate.h"
+#include "kernelgen/integers.h"
 
 namespace haldgen::dft_real {
 namespace {
 
+using kernelgen::at;
 using kernelgen::Wide;
 using kernelgen::WideComplex;
-
-std::size_t at(int k) { return static_cast<std::size_t>(k); }
 
 /// Numbers in -1..1 of 24 bits.
 std::vector<Wide> random_numbers(int count) {
