@@ -14,6 +14,7 @@ using kernelgen::at;
 using kernelgen::Field;
 using kernelgen::Graph;
 using kernelgen::Parts;
+using kernelgen::Turn;
 using kernelgen::Value;
 using kernelgen::Wide;
 using kernelgen::WideComplex;
@@ -24,7 +25,7 @@ WideComplex half_turn(std::int64_t numerator, std::int64_t denominator) {
 }
 
 /// exp(i pi / 4) a, with the sum and the difference of the parts formed first.
-Parts eighth_turn(Parts a) { return sqrt(Wide(0.5)) * (a + turned(a, 1)); }
+Parts eighth_turn(Parts a) { return sqrt(Wide(0.5)) * (a + turned(a, Turn::quarter)); }
 
 /// S(step u + offset), u = -m/2..m/2-1 for m the step-th part of the length.
 Sequence every(const Sequence& s, int step, int offset) {
@@ -43,7 +44,7 @@ std::vector<Parts> four_way(const std::vector<Parts>& x) {
   const Parts even_sum = x[0] + x[2];
   const Parts even_difference = x[0] - x[2];
   const Parts odd_sum = x[1] + x[3];
-  const Parts odd_difference = turned(x[1] - x[3], 1);
+  const Parts odd_difference = turned(x[1] - x[3], Turn::quarter);
   const Parts y0 = even_sum + odd_sum;
   const Parts y1 = even_difference + odd_difference;
   const Parts y2 = even_sum - odd_sum;
@@ -109,13 +110,13 @@ std::vector<Parts> dft(const std::vector<Parts>& x) {
     const auto twiddled = [n](Parts v, int turns) {
       if (turns == 0) return v;
       if (8 * turns == n) return eighth_turn(v);
-      if (8 * turns == 3 * n) return turned(eighth_turn(v), 1);
+      if (8 * turns == 3 * n) return turned(eighth_turn(v), Turn::quarter);
       return full_product(kernelgen::root(n, -turns), v);
     };
     const Parts u = twiddled(first[at(k)], k);
     const Parts v = twiddled(third[at(k)], 3 * k);
     const Parts sum = u + v;
-    const Parts difference = turned(u - v, 1);
+    const Parts difference = turned(u - v, Turn::quarter);
     y[at(k)] = even[at(k)] + sum;
     y[at(k + n / 4)] = even[at(k + n / 4)] + difference;
     y[at(k + n / 2)] = even[at(k)] - sum;

@@ -1,6 +1,7 @@
 // From a recipe to its graph.
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <stdexcept>
 
 #include "dft_complex/blocks.h"
@@ -16,6 +17,7 @@ using kernelgen::Field;
 using kernelgen::Graph;
 using kernelgen::modulo;
 using kernelgen::Parts;
+using kernelgen::Turn;
 using kernelgen::Value;
 using kernelgen::Whole;
 using kernelgen::WideComplex;
@@ -75,7 +77,7 @@ Parts from_lanes(Graph& graph, const Parts& /*like*/, const std::vector<Value>& 
 }
 /// i times a value given by its lanes.
 std::vector<Value> quarter_turned(const std::vector<Value>& lane) {
-  if (lane.size() == 1) return {turned(lane[0], 1)};
+  if (lane.size() == 1) return {turned(lane[0], Turn::quarter)};
   return {-lane[1], lane[0]};
 }
 
@@ -238,9 +240,10 @@ class Expander {
   E rotated(const Recipe& r, const E& v, const std::vector<int>& places, int s,
             const std::vector<int>& bins, int k, bool fill) {
     const int n = r.length;
-    const auto quarter_turns = [&](int i, int j) {
+    const auto power_of_i = [&](int i, int j) -> std::optional<Turn> {
       const int exponent = modulo(4 * places[at(i)] * bins[at(j)], 4 * n);
-      return exponent % n == 0 ? exponent / n : -1;  // -1: not a power of i
+      if (exponent % n != 0) return std::nullopt;
+      return kernelgen::quarters(exponent / n);
     };
     bool ride = false;
     if (fill) {
@@ -248,7 +251,7 @@ class Expander {
       (r.late_twiddles ? k_beside : s_beside) ^= 1;
       const bool there =
           s_beside < static_cast<int>(places.size()) && k_beside < static_cast<int>(bins.size());
-      ride = there && quarter_turns(s, k) != quarter_turns(s_beside, k_beside);
+      ride = there && power_of_i(s, k) != power_of_i(s_beside, k_beside);
     }
     const int place = places[at(s)];
     const int bin = bins[at(k)];
@@ -321,7 +324,7 @@ class Expander {
       for (std::size_t lane = 0; lane < lane_count; ++lane) {
         for (int m = 0; m <= half; ++m) {
           const bool end = m == 0 || m == half;
-          WideComplex factor = m % 2 == 0 ? c[at(m)] : turned(c[at(m)], 3);
+          WideComplex factor = m % 2 == 0 ? c[at(m)] : turned(c[at(m)], Turn::three_quarters);
           if (!end) factor = Wide(2.0) * factor;
           Parts bin = bins[lane][at(m)];
           if (end) bin.im = {};
@@ -398,14 +401,14 @@ class Expander {
     for (int k = 0; k < 2 * m; ++k) y[at(2 * k)] = even[at(k)];
     Elements<E> in_b, in_d;
     for (int l = 0; l < m; ++l) {
-      in_b.push_back(turned(differences[at(2 * l)], 2 * (l % 2)));
-      in_d.push_back(turned(differences[at(2 * l + 1)], 2 * (l % 2)));
+      in_b.push_back(turned(differences[at(2 * l)], kernelgen::quarters(2 * l)));
+      in_d.push_back(turned(differences[at(2 * l + 1)], kernelgen::quarters(2 * l)));
     }
     const Elements<E> b = run(block, in_b);
     const Elements<E> d = run(block, in_d);
     for (const int k : symmetric(m)) {
       const E rotated = twiddle(d[at(modulo(k, m))], 2 * m, k, EighthRoot::sum_first);
-      const E w = turned(rotated, 3);
+      const E w = turned(rotated, Turn::three_quarters);
       const int bin = modulo(m + 2 * k, 4 * m);
       y[at(bin)] = b[at(modulo(k, m))] + w;
       y[at((bin + 2 * m) % (4 * m))] = b[at(modulo(k, m))] - w;
@@ -438,12 +441,12 @@ class Expander {
     const int length = 4 * m;
     Elements<E> plus, minus;
     for (int n = 0; n < m; ++n) {
-      const E v = d[at(n)] + turned(d[at(n + m)], 3);
+      const E v = d[at(n)] + turned(d[at(n + m)], Turn::three_quarters);
       plus.push_back(twiddle(v, length, n, EighthRoot::sum_first));
     }
     const Elements<E> p = run(block, plus);
     for (int n = 0; n < m; ++n) {
-      const E v = d[at(n)] - turned(d[at(n + m)], 3);
+      const E v = d[at(n)] - turned(d[at(n + m)], Turn::three_quarters);
       minus.push_back(twiddle(v, length, -n, EighthRoot::sum_first));
     }
     const Elements<E> q = run(block, minus);

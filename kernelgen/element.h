@@ -32,7 +32,7 @@ struct Parts {
 inline Whole operator+(Whole a, Whole b) { return {a.graph, a.graph->add(a.value, b.value)}; }
 inline Whole operator-(Whole a) { return {a.graph, -a.value}; }
 inline Whole operator-(Whole a, Whole b) { return a + (-b); }
-inline Whole turned(Whole a, int turns) { return {a.graph, turned(a.value, turns)}; }
+inline Whole turned(Whole a, Turn turn) { return {a.graph, turned(a.value, turn)}; }
 inline Whole operator*(Wide c, Whole a) { return {a.graph, a.graph->multiply(c, a.value)}; }
 inline Whole add_zero(Whole a) { return {a.graph, a.graph->add_zero(a.value)}; }
 inline Whole zero_like(Whole a) { return {a.graph, {}}; }
@@ -50,17 +50,18 @@ inline Parts operator+(Parts a, Parts b) {
 inline Parts operator-(Parts a) { return {a.graph, -a.re, -a.im}; }
 inline Parts operator-(Parts a, Parts b) { return a + (-b); }
 inline Parts conj(Parts a) { return {a.graph, a.re, -a.im}; }
-inline Parts turned(Parts a, int turns) {
-  switch (turns & 3) {
-    case 1:
+inline Parts turned(Parts a, Turn turn) {
+  switch (turn) {
+    case Turn::quarter:
       return {a.graph, -a.im, a.re};
-    case 2:
+    case Turn::half:
       return -a;
-    case 3:
+    case Turn::three_quarters:
       return {a.graph, a.im, -a.re};
-    default:
-      return a;
+    case Turn::none:
+      break;
   }
+  return a;
 }
 inline Parts operator*(Wide c, Parts a) {
   return {a.graph, a.graph->multiply(c, a.re), a.graph->multiply(c, a.im)};
@@ -77,7 +78,7 @@ inline Parts carried_zero(Parts a) {
 inline Parts product(WideComplex w, Parts a, bool apart) {
   Graph& g = *a.graph;
   if (is_negligible(w.im)) return w.re * a;
-  if (is_negligible(w.re)) return w.im * turned(a, 1);
+  if (is_negligible(w.re)) return w.im * turned(a, Turn::quarter);
   const Value re_re = g.multiply(w.re, a.re);
   const Value im_im = g.multiply(w.im, a.im, apart);
   const Value re = g.subtract(re_re, im_im);
@@ -94,14 +95,15 @@ inline Parts full_product(WideComplex w, Parts a, bool /*keep_trivial*/ = false)
 template <class Element, class Product>
 Element twiddle(Element a, int n, int k, EighthRoot eighth, const Product& product) {
   k = modulo(k, n);
-  if (4 * k % n == 0) return turned(a, -(4 * k / n));
+  if (4 * k % n == 0) return turned(a, -quarters(4 * k / n));
   if (8 * k % n == 0 && eighth != EighthRoot::full_product) {
     // (1 - i) / sqrt 2, turned as the exponent asks.
-    const Element quarter = turned(a, -((8 * k / n) / 2));
+    const Element quarter = turned(a, -quarters((8 * k / n) / 2));
     const Wide c = sqrt(Wide(0.5));
-    if (eighth == EighthRoot::sum_first) return c * (quarter + turned(quarter, 3));
+    if (eighth == EighthRoot::sum_first)
+      return c * (quarter + turned(quarter, Turn::three_quarters));
     const Element products = c * quarter;
-    return products + turned(products, 3);
+    return products + turned(products, Turn::three_quarters);
   }
   return product(root(n, k), a);
 }

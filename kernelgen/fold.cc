@@ -37,7 +37,7 @@ Graph fold_products(const Graph& graph, Into into) {
   for (const int node : live) {
     if (absorbed[static_cast<std::size_t>(node)]) continue;
     Constant factor{1.0, 1.0};
-    int turn = 0;
+    Turn turn = Turn::none;
     int source = node;
     for (int inner = taken(source); inner != kZeroNode; inner = taken(source)) {
       const Term& product = graph.node(source).terms[0];
@@ -53,7 +53,7 @@ Graph fold_products(const Graph& graph, Into into) {
     std::vector<Term> terms;
     for (const Term& t : graph.node(source).terms) {
       Term folded = rewrite.carried(t, factor);
-      folded.turn = (folded.turn + turn) & 3;
+      folded.turn += turn;
       terms.push_back(folded);
     }
     rewrite.rebuild(node, std::move(terms));

@@ -1,9 +1,9 @@
 // The statement graph: what every kernel is before it is code.
 //
 // A node is an input or a statement, an ordered sum of terms. A term is an operand, optionally
-// multiplied by a real constant, and turned by a power of i. In a real graph the only turns are 0
-// and 2 (plus and minus). In a complex graph a node stands for a whole complex value, so one
-// statement is two real ones, and the turns 1 and 3 are exchanges of the parts with a change of
+// multiplied by a real constant, and turned by a power of i. In a real graph the only turns are
+// none and half (plus and minus). In a complex graph a node stands for a whole complex value, so
+// one statement is two real ones, and the other turns are exchanges of the parts with a change of
 // sign. Turns cost nothing: they travel with references (`Value`) until an instruction absorbs
 // them.
 //
@@ -12,6 +12,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <span>
 #include <utility>
 #include <vector>
@@ -23,7 +24,7 @@ namespace haldgen::kernelgen {
 /// A reference to a node, times a power of i. Node 0 is the number zero.
 struct Value {
   int node = 0;
-  int turn = 0;
+  Turn turn = Turn::none;
 
   friend bool operator==(Value, Value) = default;
 };
@@ -31,8 +32,8 @@ struct Value {
 constexpr int kZeroNode = 0;
 
 inline bool is_zero(Value v) { return v.node == kZeroNode; }
-inline Value turned(Value v, int turns) { return {v.node, (v.turn + turns) & 3}; }
-inline Value operator-(Value v) { return turned(v, 2); }
+inline Value turned(Value v, Turn turn) { return {v.node, v.turn + turn}; }
+inline Value operator-(Value v) { return turned(v, Turn::half); }
 
 /// Index into the constants of a graph; 0 means "no constant".
 using ConstantId = int;
@@ -44,14 +45,14 @@ struct Constant {
 };
 
 struct Term {
-  int turn = 0;
+  Turn turn = Turn::none;
   ConstantId constant = kNoConstant;
   int node = 0;
 
   friend auto operator<=>(const Term&, const Term&) = default;
 };
 
-inline bool is_minus(const Term& t) { return t.turn == 2; }
+inline bool is_minus(const Term& t) { return t.turn == Turn::half; }
 
 enum class Field { real, complex };
 
@@ -63,7 +64,7 @@ enum class Precision { element, wide };
 /// multiplies, and counts for no operation.
 struct Statement {
   std::vector<Term> terms;
-  int input = -1;  ///< index of the input, or -1 for a computed statement
+  std::optional<int> input = {};  ///< its index
   /// Whoever made the statement lets its constants take up another, see `fold_products`.
   bool foldable = false;
   Precision precision = Precision::element;

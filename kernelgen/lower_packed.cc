@@ -208,17 +208,21 @@ class PackedLowering {
   // Neighbours that an aligned array of pairs holds in one aligned vector.
   bool whole_vector(const PackedNode& n) const {
     if (graph_.halves == 1) return true;
-    return graph_.access != Access::singles && n.element[0] >= 0 && n.element[0] % 2 == 0 &&
-           n.element[1] == n.element[0] + 1;
+    return graph_.access != Access::singles && n.element[0] && *n.element[0] % 2 == 0 &&
+           n.element[1] == *n.element[0] + 1;
+  }
+
+  static std::array<int, 2> addresses(const PackedNode& n) {
+    return {2 * n.element[0].value_or(0), 2 * n.element[1].value_or(0)};
   }
 
   int load(const PackedNode& n) {
     Instruction instruction;
-    instruction.address = {2 * n.element[0], 2 * n.element[1]};
+    instruction.address = addresses(n);
     if (whole_vector(n)) {
       instruction.op = Op::load;
     } else {
-      instruction.op = n.element[1] < 0 ? Op::load_single : Op::load_pair;
+      instruction.op = n.element[1] ? Op::load_pair : Op::load_single;
     }
     return emit(instruction);
   }
@@ -238,16 +242,16 @@ class PackedLowering {
     Instruction instruction;
     instruction.a =
         scale(held(n.a, demand_of(n, choice(node)).a), static_cast<int>(choice(node).lowering));
-    instruction.address = {2 * n.element[0], 2 * n.element[1]};
+    instruction.address = addresses(n);
     if (whole_vector(n)) {
       instruction.op = Op::store;
-    } else if (n.element[0] >= 0 && n.element[1] >= 0) {
+    } else if (n.element[0] && n.element[1]) {
       instruction.op = Op::store_pair;
-    } else if (n.element[0] >= 0) {
+    } else if (n.element[0]) {
       instruction.op = Op::store_single;
     } else {
       instruction.op = Op::store_upper;
-      instruction.address[0] = 2 * n.element[1];
+      instruction.address[0] = instruction.address[1];
     }
     emit(instruction);
   }

@@ -18,7 +18,9 @@ class RealLowering {
     program_.type = target.type;
     program_.lanes = target.lanes;
     program_.memory = target.memory;
-    for (const Statement& s : graph.nodes()) input_count_ = std::max(input_count_, s.input + 1);
+    for (const Statement& s : graph.nodes()) {
+      input_count_ = std::max(input_count_, s.input.value_or(-1) + 1);
+    }
   }
 
   Program run() {
@@ -151,8 +153,8 @@ class RealLowering {
   void make(int node) {
     const Statement& s = graph_.node(node);
     Held& held = held_[at(node)];
-    if (s.input >= 0) {
-      held.narrow = target_.transposed ? loaded_[at(s.input)] : load(s.input);
+    if (s.input) {
+      held.narrow = target_.transposed ? loaded_[at(*s.input)] : load(*s.input);
       return;
     }
     const bool wide = s.precision == Precision::wide && program_.type == FloatType::f32;
@@ -175,7 +177,7 @@ class RealLowering {
                       uses_.by_statements[at(v.node)] == 0;
     int result = wide ? *held_[at(v.node)].raw : operand(v.node, false);
     if (target_.scaled != Scaled::nothing) result = scaled(result, wide);
-    if (v.turn == 2) result = emit(Op::negate, result, -1, wide);
+    if (v.turn == Turn::half) result = emit(Op::negate, result, -1, wide);
     if (wide) result = emit(Op::narrow, result, -1, true);
     Instruction store;
     store.op = Op::store;

@@ -24,8 +24,8 @@ Graph turned_around(const Graph& graph, const std::vector<int>& differences) {
     }
     std::vector<Term> terms;
     for (const Term& t : graph.node(node).terms) terms.push_back(rewrite.carried(t));
-    for (Term& t : terms) t.turn = (t.turn + 2) & 3;
-    rewrite.rebuild(node, std::move(terms), 2);
+    for (Term& t : terms) t.turn += Turn::half;
+    rewrite.rebuild(node, std::move(terms), Turn::half);
   }
   return rewrite.finish();
 }
@@ -33,7 +33,7 @@ Graph turned_around(const Graph& graph, const std::vector<int>& differences) {
 /// The first output with the wrong sign, or -1.
 int wrong_output(const Graph& graph, const std::vector<bool>& negated) {
   for (std::size_t k = 0; k < graph.outputs().size(); ++k) {
-    if ((graph.outputs()[k].turn == 2) != negated[k]) return static_cast<int>(k);
+    if ((graph.outputs()[k].turn == Turn::half) != negated[k]) return static_cast<int>(k);
   }
   return -1;
 }
@@ -44,7 +44,8 @@ Graph turn_differences(const Graph& graph, const std::vector<bool>& negated) {
   std::vector<int> behind;
   for (std::size_t k = 0; k < negated.size(); ++k) {
     const Value v = graph.outputs()[k];
-    if ((v.turn == 2) != negated[k] && is_difference(graph.node(v.node))) behind.push_back(v.node);
+    if ((v.turn == Turn::half) != negated[k] && is_difference(graph.node(v.node)))
+      behind.push_back(v.node);
   }
   return turned_around(graph, behind);
 }

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "kernelgen/graph.h"
@@ -26,9 +27,9 @@ struct PackedNode {
   PackedKind kind = PackedKind::zero;
   int a = -1;
   int b = -1;
-  int turn = 0;
+  Turn turn = Turn::none;
   std::array<int, 2> half{0, 0};
-  std::array<int, 2> element{-1, -1};  ///< -1: this half is idle
+  std::array<std::optional<int>, 2> element{};  ///< none: this half is idle
   std::array<WideComplex, 2> factor{};
 };
 

@@ -11,8 +11,8 @@ Graph split_parts(const Graph& graph) {
   std::vector<Parts> parts(graph.nodes().size());
   for (const int node : live_nodes(graph)) {
     const Statement& s = graph.node(node);
-    if (s.input >= 0) {
-      parts[at(node)] = {&result, result.input(2 * s.input), result.input(2 * s.input + 1)};
+    if (s.input) {
+      parts[at(node)] = {&result, result.input(2 * *s.input), result.input(2 * *s.input + 1)};
       continue;
     }
     std::vector<Term> re, im;
@@ -51,7 +51,7 @@ Graph gather_statements(const Graph& graph) {
       const bool is_leading_sum = i == 0 && has_constant({inner});
       if (alone && s.terms.size() > 1 && (is_product || is_leading_sum)) {
         for (Term part : inner) {
-          part.turn = (part.turn + t.turn) & 3;
+          part.turn += t.turn;
           terms.push_back(part);
         }
         absorbed[at(t.node)] = 1;

@@ -110,7 +110,7 @@ Bins power_of_two_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     const Bins odd = real_bins(g, power_of_two(4), strided(x, 1, 2));
     bins[0] = {&g, g.add(even[0].re, odd[0].re), {}};
     bins[4] = {&g, g.subtract(even[0].re, odd[0].re), {}};
-    bins[2] = even[2] + turned(odd[2], 3);
+    bins[2] = even[2] + turned(odd[2], Turn::three_quarters);
     const Bin turned_odd = rotated(odd[1], 1, 8, recipe.eighth);
     place(bins, n, 1, even[1] + turned_odd);
     place(bins, n, 5, even[1] - turned_odd);
@@ -259,8 +259,8 @@ Bins complex_decimated(Graph& g, const Recipe& recipe, const Bins& x) {
 struct PartBins {
   Bins re;
   Bins im;
-  Bin upper(int k) const { return re[at(k)] + turned(im[at(k)], 1); }
-  Bin lower(int k) const { return conj(re[at(k)]) + turned(conj(im[at(k)]), 1); }
+  Bin upper(int k) const { return re[at(k)] + turned(im[at(k)], Turn::quarter); }
+  Bin lower(int k) const { return conj(re[at(k)]) + turned(conj(im[at(k)]), Turn::quarter); }
 };
 
 Reals parts_of(const Bins& x, Value Bin::*part) {

@@ -19,9 +19,9 @@ double literal(Wide magnitude) {
 }
 
 Term term(Graph& graph, Wide constant, Value v) {
-  const bool minus = constant.hi < 0;
+  if (constant.hi < 0) v = -v;
   const Wide magnitude = abs(constant);
-  return {(v.turn + (minus ? 2 : 0)) & 3, graph.intern({magnitude, literal(magnitude)}), v.node};
+  return {v.turn, graph.intern({magnitude, literal(magnitude)}), v.node};
 }
 
 Value product(Graph& graph, Wide constant, Value v) {

@@ -13,6 +13,7 @@ using kernelgen::at;
 using kernelgen::congruent;
 using kernelgen::Graph;
 using kernelgen::Term;
+using kernelgen::Turn;
 using kernelgen::Value;
 using kernelgen::Wide;
 using kernelgen::WideComplex;

@@ -89,14 +89,14 @@ using Pair = std::pair<int, int>;
 
 /// The pairs of inputs of which both the sum and the difference are formed.
 std::set<Pair> folded_inputs(const Graph& graph) {
-  std::map<Pair, std::set<int>> signs;
+  std::map<Pair, std::set<kernelgen::Turn>> signs;
   for (const int node : live_nodes(graph)) {
     const Statement& s = graph.node(node);
     if (s.terms.size() < 2 || kernelgen::has_constant(s)) continue;
-    const int a = graph.node(s.terms[0].node).input;
-    const int b = graph.node(s.terms[1].node).input;
-    if (a < 0 || b < 0) continue;
-    signs[std::minmax(a, b)].insert((s.terms[0].turn + s.terms[1].turn) & 3);
+    const auto a = graph.node(s.terms[0].node).input;
+    const auto b = graph.node(s.terms[1].node).input;
+    if (!a || !b) continue;
+    signs[std::minmax(*a, *b)].insert(s.terms[0].turn + s.terms[1].turn);
   }
   std::set<Pair> pairs;
   for (const auto& [pair, both] : signs) {

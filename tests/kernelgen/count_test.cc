@@ -12,7 +12,7 @@ TEST(Count, ComplexStatementsAreTwoRealOnes) {
   Graph g(Field::complex);
   const Value x = g.input(0);
   const Value y = g.input(1);
-  g.set_outputs({g.add(x, turned(y, 1)), g.multiply(kSine, x)});
+  g.set_outputs({g.add(x, turned(y, Turn::quarter)), g.multiply(kSine, x)});
   EXPECT_EQ(count(g), (Counts{2, 2, 1}));
 }
 
@@ -58,8 +58,8 @@ TEST(Count, DepthOfALongSumFollowsItsOrder) {
     const Value a = g.input(0);
     const Value b = g.input(1);
     const Value deep = g.multiply(kSine, g.multiply(kSine, g.multiply(kSine, g.input(2))));
-    std::vector<Term> terms{{0, kNoConstant, a.node}, {0, kNoConstant, b.node}};
-    terms.insert(deep_first ? terms.begin() : terms.end(), {0, kNoConstant, deep.node});
+    std::vector<Term> terms{{Turn::none, kNoConstant, a.node}, {Turn::none, kNoConstant, b.node}};
+    terms.insert(deep_first ? terms.begin() : terms.end(), {Turn::none, kNoConstant, deep.node});
     g.set_outputs({g.statement(terms)});
     return count(g).depth;
   };
@@ -71,7 +71,8 @@ TEST(Count, DepthOfAProductInsideASum) {
   Graph g(Field::real);
   const Value x = g.input(0);
   const Value y = g.input(1);
-  g.set_outputs({g.statement({{0, kNoConstant, x.node}, {0, g.intern(kSine), y.node}})});
+  g.set_outputs(
+      {g.statement({{Turn::none, kNoConstant, x.node}, {Turn::none, g.intern(kSine), y.node}})});
   EXPECT_EQ(count(g), (Counts{1, 1, 2}));
 }
 

@@ -109,7 +109,7 @@ TEST(Emit, WholeVectorAccessIsKnown) {
 TEST(Dot, ShowsInputsConstantsTurnsAndOutputs) {
   Graph g(Field::complex);
   const Value product = g.multiply(0.25, g.input(3));
-  g.set_outputs({turned(g.add(product, g.input(1)), 1)});
+  g.set_outputs({turned(g.add(product, g.input(1)), Turn::quarter)});
   const std::string text = to_dot(g);
   for (const char* part : {"digraph", "x[3]", "x[1]", "+ 0.25", "X[0]", "+i"}) {
     EXPECT_NE(text.find(part), std::string::npos) << part << "\n" << text;

@@ -37,16 +37,18 @@ TEST_F(ComplexGraph, SumsMeetUpToOrderAndTurn) {
   const Value sum = g.add(x, y);
   const std::size_t nodes = g.nodes().size();
   EXPECT_EQ(g.add(y, x), sum);
-  for (int turn = 0; turn < 4; ++turn) {
+  for (const Turn turn : {Turn::none, Turn::quarter, Turn::half, Turn::three_quarters}) {
     EXPECT_EQ(g.add(turned(x, turn), turned(y, turn)), turned(sum, turn));
     EXPECT_EQ(g.add(turned(y, turn), turned(x, turn)), turned(sum, turn));
   }
   const Value difference = g.subtract(x, y);
   EXPECT_EQ(g.subtract(y, x), -difference);
-  EXPECT_EQ(g.add(turned(y, 3), turned(x, 1)), turned(difference, 1));
+  EXPECT_EQ(g.add(turned(y, Turn::three_quarters), turned(x, Turn::quarter)),
+            turned(difference, Turn::quarter));
   EXPECT_EQ(g.nodes().size(), nodes + 1);
-  EXPECT_NE(g.add(x, turned(y, 1)).node, difference.node);
-  EXPECT_NE(g.add(x, turned(y, 1)).node, g.add(x, turned(y, 3)).node);
+  EXPECT_NE(g.add(x, turned(y, Turn::quarter)).node, difference.node);
+  EXPECT_NE(g.add(x, turned(y, Turn::quarter)).node,
+            g.add(x, turned(y, Turn::three_quarters)).node);
 }
 
 TEST_F(RealGraph, SumsMeetUpToOrderAndSign) {
@@ -60,19 +62,21 @@ TEST_F(RealGraph, SumsMeetUpToOrderAndSign) {
 
 TEST_F(RealGraph, SumsKeepTheSignsTheyWereWrittenWith) {
   const Value v = g.subtract(-x, -y);
-  EXPECT_EQ(v.turn, 0);
-  EXPECT_EQ(g.node(v.node).terms[0].turn, 2);
-  EXPECT_EQ(g.node(v.node).terms[1].turn, 0);
+  EXPECT_EQ(v.turn, Turn::none);
+  EXPECT_EQ(g.node(v.node).terms[0].turn, Turn::half);
+  EXPECT_EQ(g.node(v.node).terms[1].turn, Turn::none);
   const Value both = g.subtract(-x, z);
-  EXPECT_EQ(both.turn, 2);
-  EXPECT_EQ(g.node(both.node).terms[0].turn, 0);
+  EXPECT_EQ(both.turn, Turn::half);
+  EXPECT_EQ(g.node(both.node).terms[0].turn, Turn::none);
 }
 
 TEST_F(RealGraph, LongSumsKeepTheirOrder) {
-  const Value first =
-      g.statement({{0, kNoConstant, x.node}, {0, kNoConstant, y.node}, {0, kNoConstant, z.node}});
-  const Value second =
-      g.statement({{0, kNoConstant, y.node}, {0, kNoConstant, x.node}, {0, kNoConstant, z.node}});
+  const Value first = g.statement({{Turn::none, kNoConstant, x.node},
+                                   {Turn::none, kNoConstant, y.node},
+                                   {Turn::none, kNoConstant, z.node}});
+  const Value second = g.statement({{Turn::none, kNoConstant, y.node},
+                                    {Turn::none, kNoConstant, x.node},
+                                    {Turn::none, kNoConstant, z.node}});
   EXPECT_NE(first.node, second.node);
   EXPECT_NE(g.add(g.add(x, y), z).node, g.add(x, g.add(y, z)).node);
   const auto terms = g.node(first.node).terms;
@@ -84,15 +88,15 @@ TEST_F(RealGraph, LongSumsKeepTheirOrder) {
 TEST_F(RealGraph, ASumOfProductsIsNotReordered) {
   const ConstantId c = g.intern(kSine);
   const ConstantId d = g.intern(kThird);
-  const Value first = g.statement({{0, c, x.node}, {0, d, y.node}});
-  EXPECT_EQ(g.statement({{2, c, x.node}, {2, d, y.node}}), -first);
-  EXPECT_NE(g.statement({{0, d, y.node}, {0, c, x.node}}).node, first.node);
+  const Value first = g.statement({{Turn::none, c, x.node}, {Turn::none, d, y.node}});
+  EXPECT_EQ(g.statement({{Turn::half, c, x.node}, {Turn::half, d, y.node}}), -first);
+  EXPECT_NE(g.statement({{Turn::none, d, y.node}, {Turn::none, c, x.node}}).node, first.node);
 }
 
 TEST_F(ComplexGraph, ZerosPropagate) {
   const Value zero;
   EXPECT_EQ(g.add(x, zero), x);
-  EXPECT_EQ(g.add(zero, turned(x, 1)), turned(x, 1));
+  EXPECT_EQ(g.add(zero, turned(x, Turn::quarter)), turned(x, Turn::quarter));
   EXPECT_EQ(g.subtract(zero, x), -x);
   EXPECT_TRUE(is_zero(g.add(zero, zero)));
   EXPECT_TRUE(is_zero(g.multiply(kSine, zero)));
@@ -100,7 +104,7 @@ TEST_F(ComplexGraph, ZerosPropagate) {
   EXPECT_TRUE(is_zero(g.twiddle(root(7, 1), zero)));
   EXPECT_TRUE(is_zero(g.add_zero(zero)));
   EXPECT_TRUE(is_zero(g.subtract(x, x)));
-  EXPECT_TRUE(is_zero(g.add(turned(x, 1), turned(x, 3))));
+  EXPECT_TRUE(is_zero(g.add(turned(x, Turn::quarter), turned(x, Turn::three_quarters))));
 }
 
 TEST_F(ComplexGraph, ACarriedZeroIsData) {
@@ -115,11 +119,13 @@ TEST_F(ComplexGraph, ACarriedZeroIsData) {
 }
 
 TEST_F(ComplexGraph, ProductsTakeSignsAndUnits) {
-  EXPECT_EQ(g.multiply(1.0, turned(x, 3)), turned(x, 3));
+  EXPECT_EQ(g.multiply(1.0, turned(x, Turn::three_quarters)), turned(x, Turn::three_quarters));
   EXPECT_EQ(g.multiply(-1.0, x), -x);
   EXPECT_EQ(g.multiply(-kSine, x), -g.multiply(kSine, x));
-  EXPECT_EQ(g.multiply(kSine, turned(x, 1)), turned(g.multiply(kSine, x), 1));
-  EXPECT_EQ(g.add(turned(x, 1), turned(x, 1)), turned(g.multiply(2.0, x), 1));
+  EXPECT_EQ(g.multiply(kSine, turned(x, Turn::quarter)),
+            turned(g.multiply(kSine, x), Turn::quarter));
+  EXPECT_EQ(g.add(turned(x, Turn::quarter), turned(x, Turn::quarter)),
+            turned(g.multiply(2.0, x), Turn::quarter));
 }
 
 TEST_F(ComplexGraph, ApartProductsDoNotMeetPlainOnes) {
@@ -130,7 +136,7 @@ TEST_F(ComplexGraph, ApartProductsDoNotMeetPlainOnes) {
 }
 
 TEST_F(ComplexGraph, FoldingIsSwitchable) {
-  const Value inner = g.multiply(kThird, turned(x, 1));
+  const Value inner = g.multiply(kThird, turned(x, Turn::quarter));
   const Value outer = g.multiply(kSine, -inner);
   EXPECT_EQ(g.node(outer.node).terms[0].node, inner.node);
 
@@ -139,8 +145,8 @@ TEST_F(ComplexGraph, FoldingIsSwitchable) {
   const Term term = g.node(folded.node).terms[0];
   EXPECT_EQ(term.node, x.node);
   EXPECT_EQ(term.constant, g.intern(kSine * kThird));
-  EXPECT_EQ((term.turn + folded.turn) & 3, 3);  // -i
-  EXPECT_EQ(g.multiply(3.0, inner), turned(x, 1));
+  EXPECT_EQ(term.turn + folded.turn, Turn::three_quarters);  // -i
+  EXPECT_EQ(g.multiply(3.0, inner), turned(x, Turn::quarter));
   EXPECT_EQ(g.multiply(2.0, g.add(x, y)), g.multiply(2.0, g.add(x, y)));
 
   g.set_folding(false);
@@ -161,7 +167,7 @@ TEST_F(ComplexGraph, ConstantsMeetByValue) {
 
 TEST_F(ComplexGraph, TwiddlesAreFreeOnTheAxesAndCopiesOnDemand) {
   for (int k = 0; k < 4; ++k) {
-    EXPECT_EQ(g.twiddle(root(4, k), x), turned(x, -k)) << k;
+    EXPECT_EQ(g.twiddle(root(4, k), x), turned(x, quarters(-k))) << k;
     const Value copy = g.twiddle(root(4, k), x, true);
     EXPECT_TRUE(is_plain_copy(g.node(copy.node))) << k;
     EXPECT_NE(copy.node, x.node) << k;
@@ -170,14 +176,14 @@ TEST_F(ComplexGraph, TwiddlesAreFreeOnTheAxesAndCopiesOnDemand) {
 }
 
 TEST_F(ComplexGraph, ATwiddleIsTheProduct) {
-  const Value v = g.twiddle(root(11, 4), turned(x, 1));
+  const Value v = g.twiddle(root(11, 4), turned(x, Turn::quarter));
   g.set_outputs({v});
   const WideComplex in{0.5, -0.25};
-  const WideComplex expected = root(11, 4) * turned(in, 1);
+  const WideComplex expected = root(11, 4) * turned(in, Turn::quarter);
   const WideComplex actual = evaluate(g, std::vector<WideComplex>{in, {}, {}})[0];
   EXPECT_LT(abs(actual.re - expected.re).hi, 1e-31);
   EXPECT_LT(abs(actual.im - expected.im).hi, 1e-31);
-  EXPECT_EQ(v.turn, 0);
+  EXPECT_EQ(v.turn, Turn::none);
 }
 
 TEST_F(ComplexGraph, PairsOfColumns) {
@@ -226,8 +232,9 @@ TEST_F(ComplexGraph, LiveNodesAreThoseOfOutputsAndKeptValues) {
 }
 
 TEST_F(ComplexGraph, ValueOfAGraph) {
-  const Value sum = g.statement({{0, kNoConstant, x.node}, {1, g.intern(0.5), y.node}});
-  g.set_outputs({turned(sum, 3), {}, x});
+  const Value sum =
+      g.statement({{Turn::none, kNoConstant, x.node}, {Turn::quarter, g.intern(0.5), y.node}});
+  g.set_outputs({turned(sum, Turn::three_quarters), {}, x});
   const auto v = evaluate(g, std::vector<WideComplex>{{1.0, 2.0}, {4.0, -6.0}, {}});
   // x + i y / 2 = (1 + 2i) + (3 + 2i), times -i
   EXPECT_TRUE(v[0].re == Wide(4.0) && v[0].im == Wide(-4.0));

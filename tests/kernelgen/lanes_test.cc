@@ -35,7 +35,7 @@ Graph random_lane_graph(std::uint32_t seed, bool with_table) {
   }
   const auto any = [&] {
     const Value v = values[at(dice.below(static_cast<int>(values.size())))];
-    return turned(v, 2 * dice.below(2));
+    return turned(v, quarters(2 * dice.below(2)));
   };
   for (int i = 0; i < 40; ++i) {
     const Value a = any();

@@ -247,7 +247,8 @@ TEST(Forms, AFourPointBlockNeedsOneExchange) {
   const Value b = g.subtract(g.input(0), g.input(2));
   const Value c = g.add(g.input(1), g.input(3));
   const Value d = g.subtract(g.input(1), g.input(3));
-  g.set_outputs({g.add(a, c), g.add(b, turned(d, 3)), g.subtract(a, c), g.add(b, turned(d, 1))});
+  g.set_outputs({g.add(a, c), g.add(b, turned(d, Turn::three_quarters)), g.subtract(a, c),
+                 g.add(b, turned(d, Turn::quarter))});
   const PackedGraph packed = pack(g, 1);
   const FormCost cost = cost_of(packed, choose_forms(packed, 50));
   EXPECT_EQ(cost.exchanges, 1);
@@ -295,8 +296,8 @@ TEST(Packing, EachOutputIsStoredOnce) {
       std::vector<int> stored(graph.outputs().size(), 0);
       for (const PackedNode& n : pack(graph, halves, access).nodes) {
         if (n.kind != PackedKind::store) continue;
-        for (const int element : n.element) {
-          if (element >= 0) ++stored[at(element)];
+        for (const auto element : n.element) {
+          if (element) ++stored[at(*element)];
         }
       }
       ASSERT_EQ(stored, std::vector<int>(stored.size(), 1)) << "seed " << seed;
@@ -310,10 +311,10 @@ TEST(Packing, PairsAreReadAsWholeVectorsInsideTheArray) {
     const int count = static_cast<int>(graph.outputs().size());
     for (const PackedNode& n : pack(graph, 2, Access::pairs).nodes) {
       if (n.kind != PackedKind::load) continue;
-      if (n.element[1] >= 0) {
-        ASSERT_EQ(n.element[0] % 2, 0) << "seed " << seed;
-        ASSERT_EQ(n.element[1], n.element[0] + 1) << "seed " << seed;
-        ASSERT_LT(n.element[1], count) << "seed " << seed;
+      if (n.element[1]) {
+        ASSERT_EQ(*n.element[0] % 2, 0) << "seed " << seed;
+        ASSERT_EQ(n.element[1], *n.element[0] + 1) << "seed " << seed;
+        ASSERT_LT(*n.element[1], count) << "seed " << seed;
       }
     }
   }
@@ -329,9 +330,9 @@ TEST(Packing, SinglesAreNeverReadOrWrittenAsWholeVectors) {
 
 TEST(Packing, RefusesAStatementWithoutVectorForm) {
   Graph g(Field::complex);
-  g.set_outputs({g.statement({{0, kNoConstant, g.input(0).node},
-                              {0, kNoConstant, g.input(1).node},
-                              {0, kNoConstant, g.input(2).node}})});
+  g.set_outputs({g.statement({{Turn::none, kNoConstant, g.input(0).node},
+                              {Turn::none, kNoConstant, g.input(1).node},
+                              {Turn::none, kNoConstant, g.input(2).node}})});
   EXPECT_THROW(pack(g, 1), std::logic_error);
 }
 

@@ -94,7 +94,7 @@ TEST(ScalarLowering, RefusesASumOfMinusesOnly) {
   Graph g(Field::real);
   const Value sum = g.add(g.input(0), g.input(1));
   g.set_outputs({sum});
-  for (Term& t : g.node(sum.node).terms) t.turn = 2;
+  for (Term& t : g.node(sum.node).terms) t.turn = Turn::half;
   EXPECT_THROW(lower_real(g, {FloatType::f64}), std::logic_error);
 }
 
@@ -102,8 +102,8 @@ TEST(WidenProducts, MarksStatementsWithConstantsOnly) {
   Graph g(Field::real);
   const Value sum = g.add(g.input(0), g.input(1));
   const Value product = g.multiply(kSine, sum);
-  const Value mixed =
-      g.statement({{0, kNoConstant, g.input(0).node}, {0, g.intern(kCosine), sum.node}});
+  const Value mixed = g.statement(
+      {{Turn::none, kNoConstant, g.input(0).node}, {Turn::none, g.intern(kCosine), sum.node}});
   g.set_outputs({sum, product, mixed});
   widen_products(g);
   EXPECT_EQ(g.node(sum.node).precision, Precision::element);
@@ -126,7 +126,7 @@ TEST(GatherStatements, ALineOfArithmeticWithConstantsIsOneStatement) {
   EXPECT_EQ(gathered.node(s.terms[2].node).input, 2);
   EXPECT_EQ(s.terms[0].constant, kNoConstant);
   EXPECT_TRUE(gathered.constant(s.terms[1].constant) == kCosine);
-  EXPECT_EQ(s.terms[2].turn, 2);
+  EXPECT_EQ(s.terms[2].turn, Turn::half);
 }
 
 TEST(GatherStatements, WhatIsUsedTwiceStaysAStatement) {
@@ -178,15 +178,15 @@ TEST(SplitParts, KeepsBitsAndCounts) {
     for (int i = 0; i < 4; ++i) values.push_back(graph.input(i));
     for (int i = 0; i < 12; ++i) {
       const Value a =
-          turned(values[at(dice.below(static_cast<int>(values.size())))], dice.below(4));
+          turned(values[at(dice.below(static_cast<int>(values.size())))], quarters(dice.below(4)));
       const Value b =
-          turned(values[at(dice.below(static_cast<int>(values.size())))], dice.below(4));
+          turned(values[at(dice.below(static_cast<int>(values.size())))], quarters(dice.below(4)));
       values.push_back(a.node == b.node ? graph.multiply(dice.constant(), a) : graph.add(a, b));
       if (dice.chance(20)) values.push_back(graph.twiddle(root(23, 1 + dice.below(22)), a));
     }
     std::vector<Value> outputs;
     for (int i = 0; i < 4; ++i) {
-      outputs.push_back(turned(values[values.size() - 1 - at(i)], dice.below(4)));
+      outputs.push_back(turned(values[values.size() - 1 - at(i)], quarters(dice.below(4))));
     }
     graph.set_outputs(outputs);
     const Graph parts = split_parts(graph);

@@ -78,8 +78,8 @@ TEST(OrientOutputs, TurnsDifferencesAround) {
   g.set_outputs({g.subtract(g.input(0), g.input(1)), g.subtract(g.input(2), g.input(3))});
   const Graph oriented = orient_outputs(g, {false, true});
   expect_same_value(oriented, g);
-  EXPECT_EQ(oriented.outputs()[0].turn, 0);
-  EXPECT_EQ(oriented.outputs()[1].turn, 2);
+  EXPECT_EQ(oriented.outputs()[0].turn, Turn::none);
+  EXPECT_EQ(oriented.outputs()[1].turn, Turn::half);
   EXPECT_EQ(count(oriented), count(g));
 }
 
@@ -89,8 +89,8 @@ TEST(OrientOutputs, TurnsADifferenceFurtherBackForASum) {
   g.set_outputs({g.add(difference, g.input(2)), difference});
   const Graph oriented = orient_outputs(g, {true, true});
   expect_same_value(oriented, g);
-  EXPECT_EQ(oriented.outputs()[0].turn, 2);
-  EXPECT_EQ(oriented.outputs()[1].turn, 2);
+  EXPECT_EQ(oriented.outputs()[0].turn, Turn::half);
+  EXPECT_EQ(oriented.outputs()[1].turn, Turn::half);
   EXPECT_EQ(count(oriented), count(g));
   // The difference cannot be turned for the one and stay for the other.
   EXPECT_THROW(orient_outputs(g, {true, false}), std::logic_error);
@@ -101,7 +101,7 @@ TEST(OrientOutputs, RefusesWhatHasNoMinus) {
   g.set_outputs({g.add(g.input(0), g.input(1))});
   EXPECT_THROW(orient_outputs(g, {true}), std::logic_error);
   // The lenient form leaves it.
-  EXPECT_EQ(turn_differences(g, {true}).outputs()[0].turn, 0);
+  EXPECT_EQ(turn_differences(g, {true}).outputs()[0].turn, Turn::none);
 }
 
 TEST(OrderTerms, ShallowFirstThenAPositiveOne) {
@@ -114,7 +114,7 @@ TEST(OrderTerms, ShallowFirstThenAPositiveOne) {
   const Statement& s = behind(ordered, 0);
   ASSERT_EQ(s.terms.size(), 4U);
   std::vector<int> inputs;
-  for (const Term& t : s.terms) inputs.push_back(ordered.node(t.node).input);
+  for (const Term& t : s.terms) inputs.push_back(ordered.node(t.node).input.value_or(-1));
   EXPECT_EQ(inputs, (std::vector{4, 3, 5, -1}));
   EXPECT_EQ(count(ordered).depth, 3);
   EXPECT_EQ(count(g).depth, 5);

@@ -26,7 +26,7 @@ class Steps {
       inputs.push_back({x.back(), {}});
     }
     std::vector<kernelgen::Value> all;
-    for (const int node : live_nodes(graph)) all.push_back({node, 0});
+    for (const int node : live_nodes(graph)) all.push_back({node});
     graph.set_outputs(all);
     for (const auto& value : evaluate(graph, inputs)) values_.push_back(value.re);
   }

@@ -57,7 +57,8 @@ Graph any_graph(std::uint32_t seed, int inputs) {
   std::vector<Value> values;
   for (int i = 0; i < inputs; ++i) values.push_back(g.input(i));
   const auto any = [&] {
-    return turned(values[at(dice.below(static_cast<int>(values.size())))], 2 * dice.below(2));
+    return turned(values[at(dice.below(static_cast<int>(values.size())))],
+                  quarters(2 * dice.below(2)));
   };
   for (int s = 0; s < 12; ++s) {
     const Value a = any();
@@ -94,7 +95,8 @@ Graph unshared_graph(std::uint32_t seed, int inputs) {
   for (int s = 0; s < 9; ++s) {
     const Value a = values[at(dice.below(static_cast<int>(values.size())))];
     const Value b = unused[at(dice.below(static_cast<int>(unused.size())))];
-    const Value v = g.add(a, g.multiply(dyadic(constants++), turned(b, 2 * dice.below(2))));
+    const Value v =
+        g.add(a, g.multiply(dyadic(constants++), turned(b, quarters(2 * dice.below(2)))));
     std::erase(unused, a);
     std::erase(unused, b);
     values.push_back(v);

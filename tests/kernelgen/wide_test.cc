@@ -108,11 +108,11 @@ TEST(Wide, TurnsAreExact) {
   const WideComplex i{0.0, 1.0};
   WideComplex expected = v;
   for (int turns = 0; turns < 9; ++turns) {
-    const WideComplex actual = turned(v, turns);
+    const WideComplex actual = turned(v, quarters(turns));
     EXPECT_TRUE(actual.re == expected.re && actual.im == expected.im) << turns;
     expected = i * expected;
   }
-  EXPECT_TRUE(turned(v, -1).re == turned(v, 3).re);
+  EXPECT_TRUE(turned(v, -Turn::quarter).re == turned(v, Turn::three_quarters).re);
 }
 
 TEST(Wide, ToDoubleRoundsOnce) {
