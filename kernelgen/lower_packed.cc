@@ -61,7 +61,7 @@ class PackedLowering {
     program_.code.push_back(instruction);
     return static_cast<int>(program_.code.size()) - 1;
   }
-  int emit(Op op, int a, int b = -1) {
+  int emit(Op op, int a, int b = kNoOperand) {
     Instruction instruction;
     instruction.op = op;
     instruction.a = a;
@@ -134,7 +134,7 @@ class PackedLowering {
         return load(n);
       case PackedKind::zero:
       case PackedKind::store:
-        return emit(Op::zero, -1);
+        return emit(Op::zero, kNoOperand);
       case PackedKind::sum: {
         const int a = held(n.a, d.a);
         const int b = held(n.b, d.b);

@@ -44,7 +44,7 @@ class RealLowering {
     program_.code.push_back(instruction);
     return static_cast<int>(program_.code.size()) - 1;
   }
-  int emit(Op op, int a, int b = -1, bool wide = false) {
+  int emit(Op op, int a, int b = kNoOperand, bool wide = false) {
     Instruction instruction;
     instruction.op = op;
     instruction.a = a;
@@ -101,8 +101,8 @@ class RealLowering {
   int operand(int node, bool wide) {
     Held& held = held_[at(node)];
     if (wide && held.wide) return *held.wide;
-    if (!held.narrow) held.narrow = emit(Op::narrow, held.raw.value(), -1, true);
-    if (wide) held.wide = emit(Op::widen, *held.narrow, -1, true);
+    if (!held.narrow) held.narrow = emit(Op::narrow, held.raw.value(), kNoOperand, true);
+    if (wide) held.wide = emit(Op::widen, *held.narrow, kNoOperand, true);
     return wide ? *held.wide : *held.narrow;
   }
 
@@ -177,8 +177,8 @@ class RealLowering {
                       uses_.by_statements[at(v.node)] == 0;
     int result = wide ? *held_[at(v.node)].raw : operand(v.node, false);
     if (target_.scaled != Scaled::nothing) result = scaled(result, wide);
-    if (v.turn == Turn::half) result = emit(Op::negate, result, -1, wide);
-    if (wide) result = emit(Op::narrow, result, -1, true);
+    if (v.turn == Turn::half) result = emit(Op::negate, result, kNoOperand, wide);
+    if (wide) result = emit(Op::narrow, result, kNoOperand, true);
     Instruction store;
     store.op = Op::store;
     store.a = result;

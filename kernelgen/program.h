@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -36,10 +37,12 @@ enum class Op {
   store_upper,   ///< upper half to the element at `address[0]`
 };
 
+constexpr int kNoOperand = -1;
+
 struct Instruction {
   Op op = Op::zero;
-  int a = -1;
-  int b = -1;
+  int a = kNoOperand;  ///< the instructions whose results it takes
+  int b = kNoOperand;
   std::array<double, 4> constant{};  ///< lanes, already rounded to the type of the operation
   std::array<int, 2> address{};      ///< in floats from the base
   std::array<int, 2> half{};
@@ -63,6 +66,12 @@ struct Program {
   std::vector<Instruction> code;
   Memory memory = Memory::arrays;
 };
+
+/// Those operands that an instruction has.
+std::vector<int> operands(const Instruction& instruction);
+
+/// The instruction with operand i at place[i].
+Instruction relocated(Instruction instruction, std::span<const int> place);
 
 bool is_load(Op op);
 bool is_store(Op op);

@@ -19,12 +19,9 @@ struct Dependences {
     for (std::size_t i = 0; i < program.code.size(); ++i) {
       const Instruction& in = program.code[i];
       const int index = static_cast<int>(i);
-      for (const int operand : {in.a, in.b}) {
-        if (operand >= 0 && (operand != in.a || operand != in.b || operands[i].empty())) {
-          operands[i].push_back(operand);
-          users[at(operand)].push_back(index);
-        }
-      }
+      operands[i] = kernelgen::operands(in);
+      if (in.a == in.b && !operands[i].empty()) operands[i].pop_back();
+      for (const int operand : operands[i]) users[at(operand)].push_back(index);
       for (const int address : touched(program, in)) {
         if (program.memory == Memory::slots) continue;
         if (is_load(in.op)) loads[address].push_back(index);
@@ -303,10 +300,7 @@ Program permuted(const Program& program, const std::vector<int>& order) {
   std::vector<int> place(order.size());
   for (std::size_t i = 0; i < order.size(); ++i) {
     place[at(order[i])] = static_cast<int>(i);
-    Instruction in = program.code[at(order[i])];
-    if (in.a >= 0) in.a = place[at(in.a)];
-    if (in.b >= 0) in.b = place[at(in.b)];
-    result.code[i] = in;
+    result.code[i] = relocated(program.code[at(order[i])], place);
   }
   return result;
 }

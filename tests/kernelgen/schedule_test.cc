@@ -215,7 +215,7 @@ Program sum_of(int inputs) {
 std::size_t most_live(const Program& program) {
   std::map<int, std::size_t> last_use;
   for (std::size_t i = 0; i < program.code.size(); ++i) {
-    for (const int operand : {program.code[i].a, program.code[i].b}) last_use[operand] = i;
+    for (const int operand : operands(program.code[i])) last_use[operand] = i;
   }
   std::size_t most = 0;
   std::set<int> live;
