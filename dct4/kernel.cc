@@ -113,12 +113,12 @@ std::string fixed_function(const Kernel& kernel, const Program& program) {
 /// The body as a template over the accessor of its slots, and the pass that runs it.
 std::string pass_function(const Kernel& kernel, const Program& program) {
   const std::string type = kernel.type == FloatType::f32 ? "float" : "double";
-  const std::string vector = kernel.type == FloatType::f32 ? "__m128" : "__m128d";
   const std::string pass = kernel.part == Part::fold        ? "Fold"
                            : kernel.part == Part::recombine ? "Recombine"
                                                             : "InnerRecombine";
-  return "namespace {\n\nstruct Body {\n  using Float = " + type + ";\n  using V = " + vector +
-         ";\n  static constexpr int kSize = " + std::to_string(kernel.size) +
+  return "namespace {\n\nstruct Body {\n  using Float = " + type +
+         ";\n  using V = lanes::Vector<Float, " + std::to_string(program.lanes) +
+         ">;\n  static constexpr int kSize = " + std::to_string(kernel.size) +
          ";\n\n  template <class Io>\n  static inline void run(const Io& io) {\n" +
          emit_body(program) + "  }\n};\n\n}  // namespace\n\nvoid " + name(kernel) + "(const " +
          pass + "Run<" + type + ">& run) {\n  run_" + std::string(word(kernel.part)) +

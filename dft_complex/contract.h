@@ -10,8 +10,8 @@
 
 #include "frame/checked.h"
 #include "haldgen.h"
-#include "kernelgen/lanes.h"
-#include "kernelgen/scalar.h"
+#include "lanes/scalar.h"
+#include "lanes/vectors.h"
 
 namespace haldgen::dft_complex {
 
@@ -31,7 +31,7 @@ HALDGEN_INLINE int32_t checked(const typename Kernel::Element* src, typename Ker
 template <class Kernel>
 [[gnu::noinline]] int32_t unaligned(const typename Kernel::Element* src,
                                     typename Kernel::Element* dst, int32_t flag) {
-  return checked<Kernel, lanes::Unaligned>(src, dst, flag);
+  return checked<Kernel, lanes::ByHalves>(src, dst, flag);
 }
 
 /// Alignment choice, null test, flag test, transform. A null pointer counts as aligned.

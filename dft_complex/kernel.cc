@@ -95,7 +95,9 @@ std::string kernel_type(int length, ElementType type, bool inverse, const Progra
   std::string text = "struct " + name + " {\n";
   text += std::string("  using Float = ") + (f32 ? "float" : "double") + ";\n";
   text += std::string("  using Element = ") + (f32 ? "Cplx32" : "Cplx64") + ";\n";
-  if (program.lanes > 1) text += std::string("  using V = ") + (f32 ? "__m128" : "__m128d") + ";\n";
+  if (program.lanes > 1) {
+    text += "  using V = lanes::Vector<Float, " + std::to_string(program.lanes) + ">;\n";
+  }
   text += std::string("  static constexpr bool kPathsDiffer = ") +
           (kernelgen::has_whole_vector_access(program) ? "true" : "false") + ";\n";
   text += kernelgen::scale_members(

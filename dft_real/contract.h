@@ -6,7 +6,7 @@
 
 #include "dft_real/packing.h"
 #include "frame/checked.h"
-#include "kernelgen/scalar.h"
+#include "lanes/scalar.h"
 
 namespace haldgen::dft_real {
 

@@ -6,8 +6,8 @@
 
 #include <cstdint>
 
-#include "frame/inline.h"
 #include "haldgen.h"
+#include "lanes/inline.h"
 
 namespace haldgen::frame {
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "frame/checked.h"
-#include "kernelgen/scalar.h"
+#include "lanes/scalar.h"
 
 namespace haldgen::hartley {
 

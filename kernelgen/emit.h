@@ -10,7 +10,7 @@ namespace haldgen::kernelgen {
 
 /// Statements of a function body over `src`, `dst` (pointers to floats) and `scale`, one per
 /// instruction; programs over slots call `io` instead. Vector programs speak the vocabulary of
-/// lanes.h and touch memory through a type `Access`; scalar programs are plain expressions.
+/// lanes/vectors.h and touch memory through a type `Access`; scalar programs are plain expressions.
 ///
 /// Scalar programs may reach source or destination through a function of the address, such as
 /// `Format::at`: the name of that function, or nothing.

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <map>
 #include <random>
+#include <set>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -14,9 +16,9 @@
 namespace haldgen::wht::test {
 namespace {
 
-struct Access {
+struct Move {
   bool store;
-  Alignment alignment;
+  bool aligned;
   const void* address;
 };
 
@@ -25,9 +27,12 @@ struct Log {
   int subtractions = 0;
   int multiplications = 0;
   int transposed = 0;  ///< values that went through a transposition
-  std::vector<Access> accesses;
+  std::vector<Move> accesses;
 };
 Log log_of_run;
+
+template <class Access>
+inline constexpr bool kIsAligned = std::is_same_v<Access, lanes::Aligned>;
 
 /// Lanes that compute like the kernels' own and write down what they do.
 template <class Real>
@@ -72,16 +77,16 @@ struct Traced {
       for (std::size_t j = 0; j < i; ++j) std::swap(row[i]->lane[j], row[j]->lane[i]);
     }
   }
-  template <Alignment kAlignment>
+  template <class Access>
   static Value load(const Float* from) {
-    log_of_run.accesses.push_back({false, kAlignment, from});
+    log_of_run.accesses.push_back({false, kIsAligned<Access>, from});
     Value value;
     std::copy_n(from, kLanes, value.lane.begin());
     return value;
   }
-  template <Alignment kAlignment>
+  template <class Access>
   static void store(Float* to, const Value& value) {
-    log_of_run.accesses.push_back({true, kAlignment, to});
+    log_of_run.accesses.push_back({true, kIsAligned<Access>, to});
     std::copy_n(value.lane.begin(), kLanes, to);
   }
 };
@@ -111,14 +116,10 @@ struct Run {
   std::size_t lanes;
   Log log;
   std::vector<Place> places;
-  std::vector<Alignment> caller_alignments;  ///< those that occur on src and dst
-  std::vector<Alignment> buffer_alignments;
+  std::set<bool> caller_aligned;  ///< what occurs on src and dst
+  std::set<bool> buffer_aligned;
   bool right;  ///< the result is that of the plain network
 };
-
-void note(std::vector<Alignment>& seen, Alignment alignment) {
-  if (std::find(seen.begin(), seen.end(), alignment) == seen.end()) seen.push_back(alignment);
-}
 
 template <class Float>
 std::vector<Float> plain(std::vector<Float> x, Float scale) {
@@ -131,10 +132,10 @@ std::vector<Float> plain(std::vector<Float> x, Float scale) {
   return x;
 }
 
-template <class Float, int kOrder, Alignment kAlignment = Alignment::none>
+template <class Float, int kOrder, class Access = lanes::Anywhere>
 Run<Float> traced_run() {
   using K = TracedKernel<Float, kOrder>;
-  using Path = Phases<K, kAlignment>;
+  using Path = Phases<K, Access>;
   constexpr std::size_t n = std::size_t{1} << kOrder;
   std::mt19937 random(1);
   std::uniform_real_distribution<Float> uniform(-1, 1);
@@ -154,12 +155,12 @@ Run<Float> traced_run() {
   Run<Float> run{K::Lanes::kLanes, log_of_run, {}, {}, {}, dst == plain(src, Float(0.3))};
   const std::map<char, const std::vector<Float>*> arrays = {
       {'s', &src}, {'d', &dst}, {'b', &buffer}};
-  for (const Access& access : log_of_run.accesses) {
+  for (const Move& access : log_of_run.accesses) {
     const auto* const address = static_cast<const Float*>(access.address);
     for (const auto& [name, array] : arrays) {
       if (address < array->data() || address >= array->data() + array->size()) continue;
       run.places.push_back({access.store, name, static_cast<std::size_t>(address - array->data())});
-      note(name == 'b' ? run.buffer_alignments : run.caller_alignments, access.alignment);
+      (name == 'b' ? run.buffer_aligned : run.caller_aligned).insert(access.aligned);
     }
   }
   return run;
@@ -291,21 +292,21 @@ TEST(Network, LargeOrdersWalkThroughTheBufferAsDesigned) {
   check_large<double>(kDoubleDesigns, 2);
 }
 
-template <class Float, Alignment kAlignment>
+template <class Float, class Access>
 void check_alignments() {
   for_orders<8, 13>([&](auto order) {
-    const Run<Float> run = traced_run<Float, order, kAlignment>();
+    const Run<Float> run = traced_run<Float, order, Access>();
     EXPECT_TRUE(run.right) << order;
-    EXPECT_EQ(run.caller_alignments, std::vector{kAlignment}) << order;
-    EXPECT_EQ(run.buffer_alignments, std::vector{Alignment::vector}) << order;
+    EXPECT_EQ(run.caller_aligned, std::set{kIsAligned<Access>}) << order;
+    EXPECT_EQ(run.buffer_aligned, std::set{true}) << order;
   });
 }
 
 TEST(Network, OnlyTheCallersArraysAreAccessedByPath) {
-  check_alignments<float, Alignment::vector>();
-  check_alignments<float, Alignment::none>();
-  check_alignments<double, Alignment::vector>();
-  check_alignments<double, Alignment::none>();
+  check_alignments<float, lanes::Aligned>();
+  check_alignments<float, lanes::Anywhere>();
+  check_alignments<double, lanes::Aligned>();
+  check_alignments<double, lanes::Anywhere>();
 }
 
 }  // namespace

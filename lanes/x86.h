@@ -1,10 +1,12 @@
-// The vocabulary of generated vector code: what its instructions are called, over 128-bit vectors.
-// Additions and multiplications are the vector types' own operators; they are never contracted.
+// The instructions of vectors.h on x86 processors with SSSE3: the only header with intrinsics.
 #pragma once
 
 #include <tmmintrin.h>
 
 namespace haldgen::lanes {
+
+using Float4 = __m128;
+using Double2 = __m128d;
 
 inline __m128d broadcast(double value) { return _mm_set1_pd(value); }
 inline __m128 broadcast(float value) { return _mm_set1_ps(value); }
@@ -63,10 +65,6 @@ inline __m128 load_pair(const float* lower, const float* upper) {
 }
 inline void store_single(float* to, __m128 a) { _mm_storel_pi(reinterpret_cast<__m64*>(to), a); }
 inline void store_upper(float* to, __m128 a) { _mm_storeh_pi(reinterpret_cast<__m64*>(to), a); }
-inline void store_pair(float* lower, float* upper, __m128 a) {
-  store_single(lower, a);
-  store_upper(upper, a);
-}
 
 /// Whole vectors at addresses that are multiples of 16.
 struct Aligned {
@@ -84,8 +82,8 @@ struct Anywhere {
   static void store(float* to, __m128 a) { _mm_storeu_ps(to, a); }
 };
 
-/// Whole vectors anywhere: 64-bit elements by their halves, pairs of 32-bit elements at once.
-struct Unaligned {
+/// Whole vectors anywhere: those of doubles by their halves, those of floats at once.
+struct ByHalves {
   static __m128d load(const double* from) { return _mm_loadh_pd(_mm_load_sd(from), from + 1); }
   static void store(double* to, __m128d a) {
     _mm_storel_pd(to, a);
