@@ -1,6 +1,6 @@
 // That the comparison sees what it is there for: functions of the library are exchanged for ones
 // that give other bits now and then.
-#include "tests/bits/program.h"
+#include "bits/program.h"
 
 #include <gtest/gtest.h>
 #include <haldgen.h>
@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/bits/linked.h"
+#include "bits/linked.h"
 
 namespace haldgen::bits {
 namespace {

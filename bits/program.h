@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 
-#include "tests/bits/sums.h"
+#include "bits/sums.h"
 
 namespace haldgen::bits {
 

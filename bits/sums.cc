@@ -1,5 +1,5 @@
 // Calls of every transform on every input, flag and placement.
-#include "tests/bits/sums.h"
+#include "bits/sums.h"
 
 #include <haldgen.h>
 
@@ -16,7 +16,7 @@
 
 #include "frame/arrays.h"
 #include "frame/families.h"
-#include "tests/bits/inputs.h"
+#include "bits/inputs.h"
 
 namespace haldgen::bits {
 namespace {

@@ -1,5 +1,5 @@
 // The file of sums: one line for each, the name, a tab, 16 hexadecimal digits.
-#include "tests/bits/program.h"
+#include "bits/program.h"
 
 #include <fstream>
 #include <iomanip>

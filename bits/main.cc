@@ -2,8 +2,8 @@
 #include <iostream>
 #include <vector>
 
-#include "tests/bits/linked.h"
-#include "tests/bits/program.h"
+#include "bits/linked.h"
+#include "bits/program.h"
 
 #if __has_include(<dlfcn.h>)
 #include <dlfcn.h>

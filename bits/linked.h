@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "frame/linked_functions.h"
-#include "tests/bits/sums.h"
+#include "bits/sums.h"
 
 namespace haldgen::bits {
 
