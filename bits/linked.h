@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "frame/linked_functions.h"
 #include "bits/sums.h"
+#include "frame/linked_functions.h"
 
 namespace haldgen::bits {
 

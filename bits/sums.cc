@@ -14,9 +14,9 @@
 #include <utility>
 #include <vector>
 
+#include "bits/inputs.h"
 #include "frame/arrays.h"
 #include "frame/families.h"
-#include "bits/inputs.h"
 
 namespace haldgen::bits {
 namespace {

@@ -34,4 +34,12 @@ KernelFunction built_kernel(const std::string& name) {
   throw std::out_of_range(name + " is not built");
 }
 
+std::set<int> lengths_of(std::string_view word) {
+  std::set<int> lengths;
+  for (const BuiltKernel& kernel : built_kernels()) {
+    if (kernel.family->word == word) lengths.insert(kernel.length);
+  }
+  return lengths;
+}
+
 }  // namespace haldgen::test

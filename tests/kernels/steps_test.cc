@@ -1,16 +1,51 @@
-// The order of stages and sums where several would have the same counts.
+// The order of stages and sums where several would have the same counts: which intermediate values
+// a graph computes.
 #include <gtest/gtest.h>
 
+#include <random>
 #include <set>
+#include <vector>
 
 #include "dft_real/kernel.h"
-#include "tests/kernelgen/steps.h"
+#include "hartley/kernel.h"
+#include "kernelgen/evaluate.h"
 
-namespace haldgen::dft_real {
+namespace haldgen::test {
 namespace {
 
-using test::Steps;
-using test::Wides;
+using dft_real::Direction;
+using kernelgen::Wide;
+using Wides = std::vector<Wide>;
+
+/// The values of a real graph at random inputs, and which of them it computes on its way.
+class Steps {
+ public:
+  explicit Steps(kernelgen::Graph graph) {
+    std::mt19937 engine(1);
+    std::vector<kernelgen::WideComplex> inputs;
+    for (std::size_t i = 0; i < graph.outputs().size(); ++i) {
+      x.emplace_back(static_cast<double>(static_cast<std::int32_t>(engine())) * 0x1p-31);
+      inputs.push_back({x.back(), {}});
+    }
+    std::vector<kernelgen::Value> all;
+    for (const int node : live_nodes(graph)) all.push_back({node, 0});
+    graph.set_outputs(all);
+    for (const auto& value : evaluate(graph, inputs)) values_.push_back(value.re);
+  }
+
+  /// Whether a node is this value or its negative.
+  bool have(Wide wanted) const {
+    for (const Wide value : values_) {
+      if (is_negligible(value - wanted) || is_negligible(value + wanted)) return true;
+    }
+    return false;
+  }
+
+  Wides x;
+
+ private:
+  Wides values_;
+};
 
 std::size_t at(int k) { return static_cast<std::size_t>(k); }
 
@@ -64,7 +99,7 @@ TEST(Steps, BinZeroOfElevenAddsThePairsInTheirOrder) {
   for (const int length : {11, 22, 23, 33, 44, 46, 47, 55}) {
     const Steps steps(kernel_graph(length, Direction::forward));
     const Wides y = block_of_eleven(length, steps.x);
-    test::Wide total = y[0];
+    Wide total = y[0];
     for (std::size_t k = 1; k <= 5; ++k) {
       total += y[k] + y[11 - k];
       EXPECT_TRUE(steps.have(total)) << length << " after pair " << k;
@@ -78,13 +113,13 @@ TEST(Steps, EighthRootsOfRadixFourTakeTheSumFirst) {
     // Bin length/16 of class 2, a quarter of the way round: Re = y0 - y1 + y2 - .. of even places,
     // Im the same of odd ones.
     const Wides y = strided(steps.x, 4, 2, length / 4);
-    test::Wide re, im;
+    Wide re, im;
     for (std::size_t j = 0; j < y.size(); j += 2) {
       re += j % 4 == 0 ? y[j] : -y[j];
       im += j % 4 == 0 ? -y[j + 1] : y[j + 1];
     }
-    const test::Wide c = sqrt(test::Wide(0.5));
-    for (const test::Wide part : {re + im, re - im}) {
+    const Wide c = sqrt(Wide(0.5));
+    for (const Wide part : {re + im, re - im}) {
       EXPECT_TRUE(steps.have(part)) << length;
       EXPECT_TRUE(steps.have(c * part)) << length;
     }
@@ -117,5 +152,24 @@ TEST(Steps, InverseFiftyTwoBeginsWithFour) {
   EXPECT_TRUE(steps.have(2.0 * re(14) + 2.0 * re(12)));
 }
 
+// The cosets (1, 3, 9) and (2, 6, 5) carry transforms of three points of the sums s; the
+// differences d are twisted by twelfth roots before their transform of half the size.
+TEST(Steps, ThirteenTwistsFirst) {
+  const Steps steps(hartley::kernel_graph(13));
+  const auto s = [&](std::size_t j) { return steps.x[j] + steps.x[13 - j]; };
+  const auto d = [&](std::size_t j) { return steps.x[j] - steps.x[13 - j]; };
+  const Wide half(0.5);
+  const Wide c = kernelgen::sin_turn(1, 3);
+  EXPECT_TRUE(steps.have(s(1) - half * (s(3) + s(9))));
+  EXPECT_TRUE(steps.have(c * (s(3) - s(9))));
+  EXPECT_TRUE(steps.have(s(5) - half * (s(2) + s(6))));
+  EXPECT_TRUE(steps.have(c * (s(2) - s(6))));
+  // z = d[2^q] - i d[2^(q+3)], rotated by exp(-2 pi i q / 12), q = 1 and 2.
+  EXPECT_TRUE(steps.have(c * d(2) - half * d(3)));
+  EXPECT_TRUE(steps.have(half * d(2) + c * d(3)));
+  EXPECT_TRUE(steps.have(half * d(4) - c * d(6)));
+  EXPECT_TRUE(steps.have(c * d(4) + half * d(6)));
+}
+
 }  // namespace
-}  // namespace haldgen::dft_real
+}  // namespace haldgen::test
