@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "bits/calls.h"
 #include "bits/inputs.h"
 #include "frame/arrays.h"
 #include "frame/families.h"
@@ -29,26 +30,14 @@ using frame::Signature;
 constexpr std::array<std::int32_t, 4> flags = {haldScaleFwdByN, haldScaleInvByN, haldScaleBySqrtN,
                                                haldScaleNone};
 
-/// The DCT-IV has sums at the powers of two up to here, for these element types: tables of 64 bits
-/// have the last bits of the maths library.
-constexpr std::int32_t longest_dct4 = 65536;
-constexpr std::array dct4_elements = {Element::f32};
+/// The DCT-IV has sums at the powers of two up to here: those of 64 bits at the lengths without
+/// tables, which have the last bits of the maths library.
+constexpr std::int32_t longest_dct4(Element element) {
+  return element == Element::f32 ? 65536 : 32;
+}
 
 /// Bytes; arrays are placed a number of floats past a multiple of it, and work buffers at one.
 constexpr std::size_t alignment = 16;
-
-template <class ArrayElement>
-struct FloatOf {
-  using Type = ArrayElement;
-};
-template <>
-struct FloatOf<Cplx32> {
-  using Type = float;
-};
-template <>
-struct FloatOf<Cplx64> {
-  using Type = double;
-};
 
 /// Calls a visitor with the type of an array's elements.
 template <class Visitor>
@@ -261,37 +250,12 @@ Finding finding(const Library& library, const Arrays& arrays, const Ways<ArrayEl
   return Taker<ArrayElement>(arrays, ways).take();
 }
 
-template <class ArrayElement>
-using FlaggedCall = std::function<std::int32_t(const ArrayElement* src, ArrayElement* dst,
-                                               std::int32_t flag, std::uint8_t* buffer)>;
-
-/// A function that takes a flag, whether or not it takes a size and a work buffer.
-template <class T>
-FlaggedCall<T> flagged_call(Library& library, const Export& e, std::int32_t size) {
-  using Int = std::int32_t;
-  using Byte = std::uint8_t;
-  switch (e.family->signature) {
-    case Signature::transform:
-      return [f = library.function<Int(const T*, T*, Int)>(e.name)](
-                 const T* src, T* dst, Int flag, Byte*) { return f(src, dst, flag); };
-    case Signature::sized_transform:
-      return [f = library.function<Int(const T*, T*, Int, Int)>(e.name), size](
-                 const T* src, T* dst, Int flag, Byte*) { return f(src, dst, size, flag); };
-    case Signature::buffered_transform:
-      return library.function<Int(const T*, T*, Int, Byte*)>(e.name);
-    default:
-      return [f = library.function<Int(const T*, T*, Int, Int, Byte*)>(e.name), size](
-                 const T* src, T* dst, Int flag, Byte* buffer) {
-        return f(src, dst, size, flag, buffer);
-      };
-  }
-}
-
 /// The size is that of the name, or an argument of a general entry.
 template <class ArrayElement>
 Finding take_flagged(const Find& find, const Export& e, std::int32_t size) {
   Library library(find);
-  const FlaggedCall<ArrayElement> call = flagged_call<ArrayElement>(library, e, size);
+  const FlaggedCall<ArrayElement> call = flagged_call<ArrayElement>(
+      reinterpret_cast<Address>(library.function<void()>(e.name)), e.family->signature, size);
   std::vector<std::pair<std::string, std::uint8_t*>> buffers = {{"", nullptr}};
   std::uint32_t bytes = 0;
   const Signature signature = e.family->signature;
@@ -380,11 +344,8 @@ Findings take_sums(const Find& find) {
     if (is_general(*e.family)) take_general(find, e, findings);
   }
   for (const Export& e : frame::live_exports()) {
-    if (e.family->signature != Signature::planned_transform ||
-        std::ranges::find(dct4_elements, e.element) == dct4_elements.end()) {
-      continue;
-    }
-    for (std::int32_t length = 2; length <= longest_dct4; length *= 2) {
+    if (e.family->signature != Signature::planned_transform) continue;
+    for (std::int32_t length = 2; length <= longest_dct4(e.element); length *= 2) {
       findings[e.name + "/" + std::to_string(length)] =
           e.element == Element::f32 ? take_dct4<float>(find, e.element, length)
                                     : take_dct4<double>(find, e.element, length);

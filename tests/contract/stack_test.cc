@@ -1,6 +1,5 @@
 // Callers whose stack is 8 bytes off the 16 of the calling convention, as one of an interpreter or
 // of another compiler may be: every function of the table does for them what it does for others.
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <haldgen.h>
 
@@ -9,6 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "bits/linked.h"
 #include "frame/families.h"
 #include "tests/contract/memory.h"
 #include "tests/contract/transform.h"
@@ -95,8 +95,7 @@ class Caller {
 
   template <class... Arguments>
   std::uint64_t result_of(const std::string& name, Arguments... arguments) const {
-    static void* const library = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-    void* const function = dlsym(library, name.c_str());
+    const auto function = reinterpret_cast<void*>(bits::linked()(name));
     if (function == nullptr) throw std::runtime_error("the library has no " + name);
     const std::array<std::uint64_t, 5> words = {word(arguments)...};
     volatile std::uint64_t returned = 0;

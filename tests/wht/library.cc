@@ -1,50 +1,28 @@
-// The built library, opened at run time, and the allocator in its way.
+// The library's functions, and the allocator in their way.
 #include "tests/wht/library.h"
 
-#include <dlfcn.h>
 #include <haldcore.h>
 
 #include <memory>
-#include <stdexcept>
 
-#include "frame/families.h"
+#include "bits/calls.h"
+#include "bits/linked.h"
 #include "tests/contract/memory.h"
 
 namespace haldgen::wht::test {
 namespace {
 
-template <class Function>
-Function* resolve(const std::string& name) {
-  static void* const library = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) throw std::runtime_error(dlerror());
-  void* const symbol = dlsym(library, name.c_str());
-  if (symbol == nullptr) throw std::runtime_error(dlerror());
-  return reinterpret_cast<Function*>(symbol);
-}
-
 template <class Float>
-constexpr frame::Element kElement = sizeof(Float) == sizeof(float) ? frame::Element::f32
-                                                                   : frame::Element::f64;
-
-template <class Float>
-std::vector<Kernel<Float>> load() {
+std::vector<Kernel<Float>> load(frame::Element element) {
   std::vector<Kernel<Float>> kernels;
-  for (int order = 1; order <= kOrders; ++order) {
-    const std::string name =
-        "haldgWHT_" + std::to_string(order) + "_" + std::string(suffix(kElement<Float>));
-    kernels.push_back(
-        {name, order,
-         resolve<std::int32_t(const Float*, Float*, std::int32_t, std::uint8_t*)>(name)});
-  }
-  const std::string name = "haldgWHT_" + std::string(suffix(kElement<Float>));
-  auto* general =
-      resolve<std::int32_t(const Float*, Float*, std::int32_t, std::int32_t, std::uint8_t*)>(name);
-  for (int order = 1; order <= kOrders; ++order) {
-    kernels.push_back(
-        {name + " at " + std::to_string(order), order,
-         [general, order](const Float* src, Float* dst, std::int32_t flag, std::uint8_t* buffer) {
-           return general(src, dst, order, flag, buffer);
-         }});
+  for (const frame::Export& e : frame::live_exports()) {
+    if (e.family->word != "WHT" || e.element != element) continue;
+    const frame::Range orders = e.size != 0 ? frame::Range{e.size, e.size} : e.family->sizes;
+    for (int order = orders.first; order <= orders.last; ++order) {
+      kernels.push_back(
+          {e.name + " at " + std::to_string(order), order,
+           bits::flagged_call<Float>(bits::linked()(e.name), e.family->signature, order)});
+    }
   }
   return kernels;
 }
@@ -66,18 +44,16 @@ struct Watch {
   std::vector<std::int32_t> requests;
   std::vector<std::unique_ptr<Piece>> lent;
   bool strange = false;  ///< something came back that was not lent
+  bool exhausted = false;
 
   void* lend(std::int32_t size) {
     requests.push_back(size);
+    if (exhausted) return nullptr;
     return lent.emplace_back(std::make_unique<Piece>(static_cast<std::size_t>(size)))->start();
   }
   void take_back(void* memory) {
-    for (auto piece = lent.begin(); piece != lent.end(); ++piece) {
-      if ((*piece)->start() != memory) continue;
-      lent.erase(piece);
-      return;
-    }
-    strange = true;
+    const auto same = [memory](const auto& piece) { return piece->start() == memory; };
+    if (std::erase_if(lent, same) == 0) strange = true;
   }
 };
 
@@ -90,26 +66,18 @@ Watch& watch() {
 
 template <>
 const std::vector<Kernel<float>>& kernels() {
-  static const auto all = load<float>();
+  static const auto all = load<float>(frame::Element::f32);
   return all;
 }
 template <>
 const std::vector<Kernel<double>>& kernels() {
-  static const auto all = load<double>();
+  static const auto all = load<double>(frame::Element::f64);
   return all;
-}
-
-template <>
-Query<float> buffer_query<float>() {
-  return resolve<std::int32_t(std::int32_t, std::uint32_t*)>("haldgWHTGetBufferSize_32f");
-}
-template <>
-Query<double> buffer_query<double>() {
-  return resolve<std::int32_t(std::int32_t, std::uint32_t*)>("haldgWHTGetBufferSize_64f");
 }
 
 namespace allocator {
 void reset() { watch() = {}; }
+void exhaust() { watch().exhausted = true; }
 const std::vector<std::int32_t>& requests() { return watch().requests; }
 bool settled() { return watch().lent.empty() && !watch().strange; }
 }  // namespace allocator
