@@ -5,7 +5,6 @@
 
 #include "kernelgen/emit.h"
 #include "kernelgen/lower.h"
-#include "kernelgen/orient.h"
 #include "kernelgen/schedule.h"
 #include "tests/kernelgen/random_graph.h"
 
@@ -91,30 +90,7 @@ TEST(LaneLowering, GivesTheBitsOfTheGraphInEveryLane) {
   }
 }
 
-TEST(LaneLowering, NegatesOutputsOnly) {
-  Graph graph(Field::real);
-  const Value product = graph.multiply(sin_turn(1, 5), graph.input(1));
-  const Value difference = graph.subtract(product, graph.input(0));
-  graph.set_outputs({-difference, graph.add(-graph.input(2), -difference)});
-  const Program program = lower_lanes(graph, FloatType::f64, {2, {}, false});
-  EXPECT_EQ(std::count_if(program.code.begin(), program.code.end(),
-                          [](const Instruction& in) { return in.op == Op::negate; }),
-            2);
-  // Turned around, the difference serves both.
-  const Program oriented =
-      lower_lanes(orient_outputs(graph, {false, false}), FloatType::f64, {2, {}, false});
-  for (const Instruction& in : oriented.code) EXPECT_NE(in.op, Op::negate);
-}
-
-TEST(LaneLowering, RefusesOtherStatements) {
-  Graph graph(Field::real);
-  const ConstantId constant = graph.intern(sin_turn(1, 5));
-  const int a = graph.input(0).node, b = graph.input(1).node;
-  graph.set_outputs({graph.statement({{0, constant, a}, {0, kNoConstant, b}})});
-  EXPECT_THROW(lower_lanes(graph, FloatType::f64, {2, {}, false}), std::logic_error);
-}
-
-TEST(LaneLowering, RefusesSequencesThatFillNoVectors) {
+TEST(LaneLowering, RefusesWhatFillsNoVectors) {
   Graph graph(Field::real);
   graph.set_outputs({graph.add(graph.input(0), graph.input(2))});
   EXPECT_THROW(lower_lanes(graph, FloatType::f32, {4, {}, true}), std::logic_error);

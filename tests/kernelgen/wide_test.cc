@@ -49,23 +49,6 @@ TEST(Wide, TrigonometricDigits) {
   }
 }
 
-TEST(Wide, RootsAndQuotients) {
-  EXPECT_LT(distance(sqrt(Wide(0.5)), from_digits("707106781186547524400844362104849")), 3e-32);
-  EXPECT_LT(distance(sqrt(Wide(5.0)) / Wide(4.0), from_digits("559016994374947424102293417182819")),
-            3e-32);
-  EXPECT_LT(distance(Wide(1.0) / Wide(3.0), from_digits("333333333333333333333333333333333")),
-            3e-32);
-  EXPECT_TRUE(sqrt(Wide(4.0)) == Wide(2.0));
-  EXPECT_TRUE(Wide(21.0) / Wide(7.0) == Wide(3.0));
-}
-
-TEST(Wide, SumKeepsWhatADoubleLoses) {
-  const Wide sum = Wide(1.0) + Wide(0x1p-80);
-  EXPECT_EQ((sum - Wide(1.0)).hi, 0x1p-80);
-  const Wide square = (Wide(1.0) + Wide(0x1p-50)) * (Wide(1.0) + Wide(0x1p-50));
-  EXPECT_EQ((square - Wide(1.0) - Wide(0x1p-49)).hi, 0x1p-100);
-}
-
 TEST(Wide, CirclesAreSymmetricInEveryDigit) {
   for (int n = 2; n <= 64; ++n) {
     for (int k = -n; k <= n; ++k) {
@@ -85,34 +68,6 @@ TEST(Wide, CirclesAreSymmetricInEveryDigit) {
       ASSERT_LT(std::abs(square.hi), 1e-31) << k << "/" << n;
     }
   }
-}
-
-TEST(Wide, RootsOfUnityGoClockwise) {
-  const auto equals = [](WideComplex v, double re, double im) {
-    return v.re == Wide(re) && v.im == Wide(im);
-  };
-  EXPECT_TRUE(equals(root(4, 0), 1, 0));
-  EXPECT_TRUE(equals(root(4, 1), 0, -1));
-  EXPECT_TRUE(equals(root(4, 2), -1, 0));
-  EXPECT_TRUE(equals(root(4, 3), 0, 1));
-  EXPECT_TRUE(root(8, 1).re == -root(8, 1).im);
-  EXPECT_TRUE(root(8, 3).re == root(8, 3).im);
-  // The group law, far from the axes.
-  const WideComplex product = root(59, 17) * root(59, 30);
-  EXPECT_LT(distance(product.re, root(59, 47).re), 1e-31);
-  EXPECT_LT(distance(product.im, root(59, 47).im), 1e-31);
-}
-
-TEST(Wide, TurnsAreExact) {
-  const WideComplex v{0.25, -3.0};
-  const WideComplex i{0.0, 1.0};
-  WideComplex expected = v;
-  for (int turns = 0; turns < 9; ++turns) {
-    const WideComplex actual = turned(v, turns);
-    EXPECT_TRUE(actual.re == expected.re && actual.im == expected.im) << turns;
-    expected = i * expected;
-  }
-  EXPECT_TRUE(turned(v, -1).re == turned(v, 3).re);
 }
 
 TEST(Wide, ToDoubleRoundsOnce) {
