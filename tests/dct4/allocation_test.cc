@@ -168,20 +168,5 @@ TYPED_TEST(Setup, BuffersOfTheQueriedSizeSufficeAtAnyAlignment) {
   }
 }
 
-TYPED_TEST(Setup, AUsedBufferCanBeSetUpAnew) {
-  using F = Functions<TypeParam>;
-  std::int32_t size = 0;
-  ASSERT_EQ(F::get_size(4096, &size), haldStatusOk);
-  std::vector<std::uint8_t> buffer(static_cast<std::size_t>(size));
-  for (const std::int32_t length : {4096, 64, 8, 1024}) {
-    const std::vector<TypeParam> x = test::random_floats<TypeParam>(length, 2);
-    std::vector<TypeParam> y(x.size());
-    Dct4State* state = nullptr;
-    ASSERT_EQ(F::init(&state, length, buffer.data()), haldStatusOk);
-    ASSERT_EQ(F::transform(x.data(), y.data(), state), haldStatusOk);
-    EXPECT_TRUE(test::identical(y, test::State<TypeParam>(length)(x))) << length;
-  }
-}
-
 }  // namespace
 }  // namespace haldgen::dct4

@@ -98,20 +98,6 @@ TEST(Factorisation, InnerStepsJoinFolds) {
   }
 }
 
-TEST(Factorisation, FixedGraphsAreTheDefinition) {
-  for (int n = 2; n <= 32; n *= 2) {
-    const auto x = random_inputs(n, 4);
-    const auto y = evaluate(fixed_graph(n), x);
-    for (int k = 0; k < n; ++k) {
-      Wide sum;
-      for (int i = 0; i < n; ++i) {
-        sum += x[at(i)].re * half_turn(std::int64_t{2 * i + 1} * (2 * k + 1), 4 * n).re;
-      }
-      expect_equal(y[at(k)].re, sum, "length " + std::to_string(n) + ", k " + std::to_string(k));
-    }
-  }
-}
-
 TEST(Factorisation, TheWalkPairsWhatIsAddedFirst) {
   const std::vector<int> radix_8 = {0, 7, 1, 6, 2, 5, 3, 4};
   const std::vector<int> radix_32 = {0, 31, 16, 15, 4, 27, 20, 11, 8, 23, 24, 7, 12, 19, 28, 3,

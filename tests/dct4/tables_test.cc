@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <numbers>
 #include <span>
 
 #include "dct4/passes.h"
@@ -81,19 +80,6 @@ TYPED_TEST(Tables, InnerRotationsFillWholeVectors) {
       }
     }
   }
-}
-
-// At powers of two the angles are exact. Elsewhere the rounding of an angle to 32 bits shows.
-TEST(TableValues, Angles32fAreRoundedFirst) {
-  OwnState<float> state(8193);
-  const auto table = entries<float>(state.recombination()->table, 8192);
-  int different = 0;
-  for (int b = 0; b < 4; ++b) {
-    const float exact =
-        static_cast<float>(std::sin((2 * b + 1) * std::numbers::pi_v<long double> / (4 * 8193.0L)));
-    different += table[static_cast<std::size_t>(4 + b)] != exact ? 1 : 0;
-  }
-  EXPECT_GT(different, 0);
 }
 
 }  // namespace

@@ -55,14 +55,6 @@ TEST_F(RealGraph, SumsMeetUpToOrderAndSign) {
   EXPECT_NE(sum.node, difference.node);
 }
 
-TEST_F(RealGraph, ASumOfProductsIsNotReordered) {
-  const ConstantId c = g.intern(kSine);
-  const ConstantId d = g.intern(kThird);
-  const Value first = g.statement({{0, c, x.node}, {0, d, y.node}});
-  EXPECT_EQ(g.statement({{2, c, x.node}, {2, d, y.node}}), -first);
-  EXPECT_NE(g.statement({{0, d, y.node}, {0, c, x.node}}).node, first.node);
-}
-
 TEST_F(ComplexGraph, ZerosPropagate) {
   const Value zero;
   EXPECT_EQ(g.add(x, zero), x);
@@ -138,16 +130,6 @@ TEST_F(ComplexGraph, PairsOfColumns) {
   }
   ASSERT_EQ(g.columns()[0].fans.size(), 2U);
   EXPECT_EQ(g.columns()[0].fans[0].size(), 3U);
-}
-
-TEST_F(ComplexGraph, ValueOfAGraph) {
-  const Value sum = g.statement({{0, kNoConstant, x.node}, {1, g.intern(0.5), y.node}});
-  g.set_outputs({turned(sum, 3), {}, x});
-  const auto v = evaluate(g, std::vector<WideComplex>{{1.0, 2.0}, {4.0, -6.0}, {}});
-  // x + i y / 2 = (1 + 2i) + (3 + 2i), times -i
-  EXPECT_TRUE(v[0].re == Wide(4.0) && v[0].im == Wide(-4.0));
-  EXPECT_TRUE(v[1].re == Wide(0.0) && v[1].im == Wide(0.0));
-  EXPECT_TRUE(v[2].re == Wide(1.0) && v[2].im == Wide(2.0));
 }
 
 }  // namespace
