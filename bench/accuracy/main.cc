@@ -16,6 +16,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "frame/families.h"
@@ -112,17 +113,29 @@ class Random {
 
 using Elements = std::vector<WideComplex>;
 
-/// sum over n of x[n] * root^(+-k n) for k below `bins`.
-Elements dft(const Elements& x, bool inverse, std::size_t bins) {
-  const std::size_t size = x.size();
-  Elements roots;
-  for (std::size_t k = 0; k < size; ++k) {
+/// Those of this order, going clockwise or, for an inverse transform, the other way.
+const Elements& roots_of_unity(std::size_t size, bool inverse) {
+  static std::map<std::pair<std::size_t, bool>, Elements> known;
+  Elements& roots = known[{size, inverse}];
+  for (std::size_t k = roots.size(); k < size; ++k) {
     const auto power = static_cast<std::int64_t>(k);
     roots.push_back(kernelgen::root(static_cast<std::int64_t>(size), inverse ? -power : power));
   }
+  return roots;
+}
+
+/// sum over n of x[n] * root^(+-k n) for k below `bins`.
+Elements dft(const Elements& x, bool inverse, std::size_t bins) {
+  const std::size_t size = x.size();
+  const Elements& roots = roots_of_unity(size, inverse);
+  const bool real =
+      std::all_of(x.begin(), x.end(), [](WideComplex v) { return v.im == Wide(0.0); });
   Elements y(bins);
   for (std::size_t k = 0; k < bins; ++k) {
-    for (std::size_t n = 0; n < size; ++n) y[k] = y[k] + roots[n * k % size] * x[n];
+    for (std::size_t n = 0; n < size; ++n) {
+      const WideComplex& root = roots[n * k % size];
+      y[k] = y[k] + (real ? x[n].re * root : root * x[n]);
+    }
   }
   return y;
 }

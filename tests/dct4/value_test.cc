@@ -93,10 +93,7 @@ TYPED_TEST(Value, RandomInputIsWithinTheErrorBounds) {
     const unsigned calls = length <= 512 ? 20 : 2;
     for (unsigned seed = 0; seed < calls; ++seed) {
       const auto x = random_floats<TypeParam>(length, seed);
-      const Error one = error(definition, x, state(x),
-                              length <= 2048    ? 0
-                              : length <= 65536 ? 48
-                                                : 12);
+      const Error one = error(definition, x, state(x), length <= 2048 ? 0 : 150);
       EXPECT_LE(one.relative<TypeParam>(length), bound_of_one_call) << length;
       all.difference += one.difference;
       all.exact += one.exact;
