@@ -51,32 +51,6 @@ TEST(Real, FormatsHoldAndGiveTheSameBits) {
   });
 }
 
-TEST(Real, ZerosOfCcsAreWrittenAndNeverRead) {
-  const auto zero_places = [](int points) {
-    std::vector<std::size_t> places{1};
-    if (points % 2 == 0) places.push_back(static_cast<std::size_t>(points) + 1);
-    return places;
-  };
-  for_each_ccs("DFTFwd_RToCCS", [&]<class Float>(const Transform<Float>& forward) {
-    std::vector<Float> src = random_floats<Float>(forward.src_floats, 33);
-    src[0] = -std::numeric_limits<Float>::infinity();
-    for (const std::int32_t flag : flags) {
-      const std::vector<Float> dst = result(forward, src, flag);
-      for (const std::size_t place : zero_places(forward.points)) {
-        EXPECT_TRUE(dst[place] == 0 && !std::signbit(dst[place])) << forward.name;
-      }
-    }
-  });
-  for_each_ccs("DFTInv_CCSToR", [&]<class Float>(const Transform<Float>& inverse) {
-    std::vector<Float> src = random_floats<Float>(inverse.src_floats, 34);
-    const std::vector<Float> expected = result(inverse, src);
-    for (const std::size_t place : zero_places(inverse.points)) {
-      src[place] = std::numeric_limits<Float>::quiet_NaN();
-    }
-    EXPECT_TRUE(identical(result(inverse, src), expected)) << inverse.name;
-  });
-}
-
 TEST(Real, ZeroSamplesGivePositiveZeros) {
   for_each_fixed([]<class Float>(const Transform<Float>& transform) {
     if (transform.family->elements[0] != frame::Element::f32) return;

@@ -5,7 +5,6 @@
 
 #include <cstdlib>
 
-#include "kernelgen/dot.h"
 #include "kernelgen/lower.h"
 #include "tests/kernelgen/random_graph.h"
 
@@ -57,25 +56,6 @@ TEST(Emit, ScalarStatementsOfMixedPrecision) {
             "    const float v4 = scale * v3;\n"
             "    const float v5 = 0.0f - v4;\n"
             "    scalar::store(dst + 1, v5);\n");
-}
-
-TEST(Emit, WholeVectorAccessIsKnown) {
-  Program program{FloatType::f32, 4, {make(Op::load_pair, -1, -1), make(Op::store_pair, 0, -1)}};
-  EXPECT_FALSE(has_whole_vector_access(program));
-  program.code.push_back(make(Op::store, 0, -1));
-  EXPECT_TRUE(has_whole_vector_access(program));
-  program.lanes = 1;
-  EXPECT_FALSE(has_whole_vector_access(program));
-}
-
-TEST(Dot, ShowsInputsConstantsTurnsAndOutputs) {
-  Graph g(Field::complex);
-  const Value product = g.multiply(0.25, g.input(3));
-  g.set_outputs({turned(g.add(product, g.input(1)), 1)});
-  const std::string text = to_dot(g);
-  for (const char* part : {"digraph", "x[3]", "x[1]", "+ 0.25", "X[0]", "+i"}) {
-    EXPECT_NE(text.find(part), std::string::npos) << part << "\n" << text;
-  }
 }
 
 TEST(Emit, ScalarProgramsReachMemoryThroughSubscripts) {

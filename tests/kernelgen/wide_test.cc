@@ -49,27 +49,6 @@ TEST(Wide, TrigonometricDigits) {
   }
 }
 
-TEST(Wide, CirclesAreSymmetricInEveryDigit) {
-  for (int n = 2; n <= 64; ++n) {
-    for (int k = -n; k <= n; ++k) {
-      ASSERT_TRUE(cos_turn(k, n) == cos_turn(-k, n)) << k << "/" << n;
-      ASSERT_TRUE(sin_turn(k, n) == -sin_turn(-k, n)) << k << "/" << n;
-      ASSERT_TRUE(cos_turn(k, n) == cos_turn(k + n, n)) << k << "/" << n;
-      ASSERT_TRUE(sin_turn(k, n) == sin_turn(k + n, n)) << k << "/" << n;
-      if (n % 2 == 0) {
-        ASSERT_TRUE(cos_turn(k, n) == -cos_turn(n / 2 - k, n)) << k << "/" << n;
-        ASSERT_TRUE(sin_turn(k, n) == sin_turn(n / 2 - k, n)) << k << "/" << n;
-      }
-      if (n % 4 == 0) {
-        ASSERT_TRUE(cos_turn(k, n) == sin_turn(n / 4 - k, n)) << k << "/" << n;
-      }
-      const Wide square =
-          cos_turn(k, n) * cos_turn(k, n) + sin_turn(k, n) * sin_turn(k, n) - Wide(1.0);
-      ASSERT_LT(std::abs(square.hi), 1e-31) << k << "/" << n;
-    }
-  }
-}
-
 TEST(Wide, ToDoubleRoundsOnce) {
   EXPECT_EQ(to_double({1.0, 0x1p-54}), 1.0);
   EXPECT_EQ(to_double(cos_turn(1, 5)), 0.30901699437494745);
