@@ -38,8 +38,8 @@ volatile Kernel null_kernel_address = null_kernel;
 
 }  // namespace
 
-int lanes(frame::Element element) {
-  return element == frame::Element::c32 || element == frame::Element::f32 ? 4 : 2;
+int lanes(names::Element element) {
+  return element == names::Element::c32 || element == names::Element::f32 ? 4 : 2;
 }
 
 Contestant copy_contestant(std::size_t bytes) {
@@ -59,7 +59,7 @@ Contestant null_call_contestant() {
           }};
 }
 
-Contestant vector_add_contestant(frame::Element element) {
+Contestant vector_add_contestant(names::Element element) {
   const bool is_float = lanes(element) == 4;
   return {vector_add_name, Role::calibration, [is_float](const Walk&, std::int64_t calls) {
             if (is_float) {

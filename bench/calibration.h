@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bench/core/contestant.h"
-#include "frame/families.h"
+#include "registry/registry.h"
 
 namespace haldgen::bench {
 
@@ -11,7 +11,7 @@ Contestant null_call_contestant();
 
 /// Additions of 128-bit vectors in enough independent chains to fill every adder. One call of the
 /// contestant makes `vector_adds_per_call` of them.
-Contestant vector_add_contestant(frame::Element element);
+Contestant vector_add_contestant(names::Element element);
 
 inline constexpr int vector_adds_per_call = 14 * 16;
 
@@ -24,6 +24,6 @@ inline constexpr int conversions_per_call = 2 * vector_adds_per_call;
 Contestant copy_contestant(std::size_t bytes);
 
 /// Floats in one vector: 2 of 64 bits, 4 of 32 bits.
-int lanes(frame::Element element);
+int lanes(names::Element element);
 
 }  // namespace haldgen::bench

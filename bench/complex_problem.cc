@@ -31,8 +31,8 @@ std::vector<Wide> widened(std::span<const std::byte> bytes) {
   return {narrow.begin(), narrow.end()};
 }
 
-std::vector<Wide> widened(frame::Element element, std::span<const std::byte> bytes) {
-  return element == frame::Element::c32 ? widened<float>(bytes) : widened<double>(bytes);
+std::vector<Wide> widened(names::Element element, std::span<const std::byte> bytes) {
+  return element == names::Element::c32 ? widened<float>(bytes) : widened<double>(bytes);
 }
 
 std::vector<Wide> transform(Direction direction, const std::vector<Wide>& source) {
@@ -53,19 +53,19 @@ std::vector<Wide> transform(Direction direction, const std::vector<Wide>& source
 
 std::size_t ComplexProblem::bytes() const {
   const std::size_t size =
-      element == frame::Element::c32 ? sizeof(std::complex<float>) : sizeof(std::complex<double>);
+      element == names::Element::c32 ? sizeof(std::complex<float>) : sizeof(std::complex<double>);
   return size * static_cast<std::size_t>(length);
 }
 
-std::optional<ComplexProblem> complex_problem_of(const frame::Export& function) {
-  const std::string_view word = function.family->word;
+std::optional<ComplexProblem> complex_problem_of(const registry::Export& function) {
+  const std::string_view word = function.word->word;
   if (word != "DFTFwd_CToC" && word != "DFTInv_CToC") return std::nullopt;
   const Direction direction = word == "DFTFwd_CToC" ? Direction::forward : Direction::inverse;
   return ComplexProblem{direction, function.element, function.size};
 }
 
 std::vector<std::byte> random_source(const ComplexProblem& problem) {
-  return problem.element == frame::Element::c32 ? random_bytes<float>(problem.length)
+  return problem.element == names::Element::c32 ? random_bytes<float>(problem.length)
                                                 : random_bytes<double>(problem.length);
 }
 
@@ -89,7 +89,7 @@ std::string check_contestant(const ComplexProblem& problem, const Contestant& co
   contestant.slice(walk, 1);
   if (std::memcmp(walk.src, source.data(), source.size()) != 0) return "it changed its source";
   const double error = relative_error(problem, source, {walk.dst, problem.bytes()});
-  const double epsilon = problem.element == frame::Element::c32
+  const double epsilon = problem.element == names::Element::c32
                              ? std::numeric_limits<float>::epsilon()
                              : std::numeric_limits<double>::epsilon();
   // Wide enough for a direct sum with rounded sines; wrong order or direction is off by about 1.

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "bench/core/contestant.h"
-#include "frame/families.h"
+#include "registry/registry.h"
 
 namespace haldgen::bench {
 
@@ -18,14 +18,14 @@ enum class Direction { forward, inverse };
 /// A complex DFT without scaling, from natural to natural order.
 struct ComplexProblem {
   Direction direction;
-  frame::Element element;  ///< c32 or c64
+  names::Element element;  ///< c32 or c64
   int length;
 
   std::size_t bytes() const;  ///< of the source, and of the destination
 };
 
 /// The transform of a function of the complex families.
-std::optional<ComplexProblem> complex_problem_of(const frame::Export& function);
+std::optional<ComplexProblem> complex_problem_of(const registry::Export& function);
 
 /// The bytes of random samples from [-1, 1), the same for every program run.
 std::vector<std::byte> random_source(const ComplexProblem& problem);

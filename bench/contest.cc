@@ -16,14 +16,14 @@
 namespace haldgen::bench {
 namespace {
 
-std::string type_of(const frame::Export& function) {
-  return std::string(frame::suffix(function.element));
+std::string type_of(const registry::Export& function) {
+  return std::string(names::suffix(function.element));
 }
 
 /// The function itself, or a planned transform at each of its lengths.
-std::vector<frame::Export> measured_sizes(const frame::Export& function) {
-  if (function.family->signature != frame::Signature::planned_transform) return {function};
-  std::vector<frame::Export> sizes;
+std::vector<registry::Export> measured_sizes(const registry::Export& function) {
+  if (function.word->signature != names::Signature::planned_transform) return {function};
+  std::vector<registry::Export> sizes;
   for (int length = 2; length <= 1 << 16; length *= 2) {
     sizes.push_back(function);
     sizes.back().size = length;
@@ -31,7 +31,7 @@ std::vector<frame::Export> measured_sizes(const frame::Export& function) {
   return sizes;
 }
 
-bool wanted(const Options& options, const frame::Export& function) {
+bool wanted(const Options& options, const registry::Export& function) {
   return (options.lengths.empty() || options.lengths.contains(function.size)) &&
          (options.types.empty() || options.types.contains(type_of(function)));
 }
@@ -47,8 +47,8 @@ OperationCounts read_counts(const std::filesystem::path& path) {
 
 std::vector<Kernel> selected_kernels(const Options& options) {
   std::vector<Kernel> kernels;
-  for (const frame::Export& function : frame::live_exports()) {
-    for (const frame::Export& sized : measured_sizes(function)) {
+  for (const registry::Export& function : registry::exports()) {
+    for (const registry::Export& sized : measured_sizes(function)) {
       std::shared_ptr<const Problem> problem = problem_of(sized);
       if (!problem || !wanted(options, sized)) continue;
       kernels.push_back({sized, std::move(problem)});
@@ -56,8 +56,7 @@ std::vector<Kernel> selected_kernels(const Options& options) {
   }
   std::sort(kernels.begin(), kernels.end(), [](const Kernel& a, const Kernel& b) {
     const auto key = [](const Kernel& kernel) {
-      return std::tuple(kernel.function.family->word, kernel.function.element,
-                        kernel.function.size);
+      return std::tuple(kernel.function.word->word, kernel.function.element, kernel.function.size);
     };
     return key(a) < key(b);
   });
@@ -83,7 +82,7 @@ class Contest::Lineup {
 
  private:
   void assemble(const Walk& walk) {
-    const frame::Export& function = kernel_.function;
+    const registry::Export& function = kernel_.function;
     admit(contest_.library_.contestant(function, "haldgen", Role::subject), walk);
     if (contestants_.empty()) {
       contest_.faults_.push_back(function.name + ": not measured");
@@ -125,8 +124,8 @@ class Contest::Bout {
       : contest_(contest), lineup_(std::move(lineup)), mode_(mode) {}
 
   std::string title() const {
-    const frame::Export& function = lineup_->kernel().function;
-    return std::string(function.family->word) + "/" + type_of(function) + "/" +
+    const registry::Export& function = lineup_->kernel().function;
+    return std::string(function.word->word) + "/" + type_of(function) + "/" +
            std::to_string(function.size) + "/" + std::string(name(mode_));
   }
 
@@ -151,9 +150,9 @@ class Contest::Bout {
   /// All rounds so far; none before the first.
   std::optional<Measurement> result() const {
     if (!duel_ || duel_->samples().front().empty()) return std::nullopt;
-    const frame::Export& function = lineup_->kernel().function;
+    const registry::Export& function = lineup_->kernel().function;
     Measurement measurement{
-        mode_, std::string(function.family->word), type_of(function), function.size, std::nullopt,
+        mode_, std::string(function.word->word), type_of(function), function.size, std::nullopt,
         {}};
     const Problem& problem = *lineup_->kernel().problem;
     if (const auto work = problem.work(contest_.counts_)) {

@@ -10,13 +10,13 @@
 #include "bench/haldgen_kernels.h"
 #include "bench/options.h"
 #include "bench/problem.h"
-#include "frame/families.h"
+#include "registry/registry.h"
 
 namespace haldgen::bench {
 
 /// A kernel of the table together with the transform that it computes.
 struct Kernel {
-  frame::Export function;
+  registry::Export function;
   std::shared_ptr<const Problem> problem;
 };
 

@@ -86,18 +86,18 @@ std::string fault_of(int length, const Contestant& contestant, const Walk& walk,
 }  // namespace
 
 std::vector<std::byte> Dct4Problem::source() const {
-  return element_ == frame::Element::f32 ? random_bytes<float>(length_)
+  return element_ == names::Element::f32 ? random_bytes<float>(length_)
                                          : random_bytes<double>(length_);
 }
 
 std::size_t Dct4Problem::result_bytes() const {
   return static_cast<std::size_t>(length_) *
-         (element_ == frame::Element::f32 ? sizeof(float) : sizeof(double));
+         (element_ == names::Element::f32 ? sizeof(float) : sizeof(double));
 }
 
 std::string Dct4Problem::fault(const Contestant& contestant, const Walk& walk,
                                std::span<const std::byte> source) const {
-  return element_ == frame::Element::f32 ? fault_of<float>(length_, contestant, walk, source)
+  return element_ == names::Element::f32 ? fault_of<float>(length_, contestant, walk, source)
                                          : fault_of<double>(length_, contestant, walk, source);
 }
 
@@ -106,7 +106,7 @@ std::vector<Contestant> Dct4Problem::rivals() const {
 }
 
 std::optional<OperationCounts::Counts> Dct4Problem::work(const OperationCounts& counts) const {
-  auto work = counts.of("dct4", std::string(frame::suffix(element_)), length_);
+  auto work = counts.of("dct4", std::string(names::suffix(element_)), length_);
   // The kernels of the five smallest lengths are scalar.
   if (work && length_ > 32) work->additions /= lanes(element_);
   return work;

@@ -8,7 +8,7 @@ namespace haldgen::bench {
 class Dct4Problem final : public Problem {
  public:
   /// `element` is f32 or f64.
-  Dct4Problem(frame::Element element, int length) : element_(element), length_(length) {}
+  Dct4Problem(names::Element element, int length) : element_(element), length_(length) {}
 
   std::vector<std::byte> source() const override;
   std::size_t result_bytes() const override;
@@ -18,7 +18,7 @@ class Dct4Problem final : public Problem {
   std::optional<OperationCounts::Counts> work(const OperationCounts& counts) const override;
 
  private:
-  frame::Element element_;
+  names::Element element_;
   int length_;
 };
 

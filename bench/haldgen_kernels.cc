@@ -70,23 +70,23 @@ KernelLibrary::KernelLibrary(const std::filesystem::path& path)
   handle_.reset(handle, dlclose);
 }
 
-std::optional<Contestant> KernelLibrary::contestant(const frame::Export& function,
+std::optional<Contestant> KernelLibrary::contestant(const registry::Export& function,
                                                     const std::string& name, Role role) const {
   void* const address = dlsym(handle_.get(), function.name.c_str());
   if (address == nullptr) return std::nullopt;
-  if (function.family->signature == frame::Signature::buffered_transform) {
+  if (function.word->signature == names::Signature::buffered_transform) {
     const std::size_t bytes = buffer_bytes(function);
     return Contestant{name, role, slice_of(reinterpret_cast<BufferedKernel>(address), bytes)};
   }
-  if (function.family->signature == frame::Signature::planned_transform) {
+  if (function.word->signature == names::Signature::planned_transform) {
     return Contestant{name, role, slice_of(reinterpret_cast<Planned>(address), state_of(function))};
   }
   return Contestant{name, role, slice_of(reinterpret_cast<Kernel>(address))};
 }
 
-std::shared_ptr<Dct4State> KernelLibrary::state_of(const frame::Export& function) const {
-  const std::string stem = "haldg" + std::string(function.family->word);
-  const std::string suffix = "_" + std::string(frame::suffix(function.element));
+std::shared_ptr<Dct4State> KernelLibrary::state_of(const registry::Export& function) const {
+  const std::string stem = "haldg" + std::string(function.word->word);
+  const std::string suffix = "_" + std::string(names::suffix(function.element));
   const auto init =
       reinterpret_cast<PlanInit>(dlsym(handle_.get(), (stem + "InitAlloc" + suffix).c_str()));
   const auto release =
@@ -98,9 +98,9 @@ std::shared_ptr<Dct4State> KernelLibrary::state_of(const frame::Export& function
   return {state, [release, library = handle_](Dct4State* own) { release(own); }};
 }
 
-std::size_t KernelLibrary::buffer_bytes(const frame::Export& function) const {
-  const std::string name = "haldg" + std::string(function.family->word) + "GetBufferSize_" +
-                           std::string(frame::suffix(function.element));
+std::size_t KernelLibrary::buffer_bytes(const registry::Export& function) const {
+  const std::string name = "haldg" + std::string(function.word->word) + "GetBufferSize_" +
+                           std::string(names::suffix(function.element));
   using Query = std::int32_t (*)(std::int32_t order, std::uint32_t * size);
   const auto query = reinterpret_cast<Query>(dlsym(handle_.get(), name.c_str()));
   std::uint32_t bytes = 0;

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "bench/core/contestant.h"
-#include "frame/families.h"
 #include "include/haldgen.h"
+#include "registry/registry.h"
 
 namespace haldgen::bench {
 
@@ -20,15 +20,15 @@ class KernelLibrary {
   /// A fixed-size function, called without scaling, as a contestant; none if this build does not
   /// export it. A buffered one gets a work buffer, a planned one a state of its size. The library
   /// must outlive the contestant.
-  std::optional<Contestant> contestant(const frame::Export& function, const std::string& name,
+  std::optional<Contestant> contestant(const registry::Export& function, const std::string& name,
                                        Role role) const;
 
   /// Where the library that was opened really lies.
   const std::filesystem::path& path() const { return path_; }
 
  private:
-  std::shared_ptr<Dct4State> state_of(const frame::Export& function) const;
-  std::size_t buffer_bytes(const frame::Export& function) const;
+  std::shared_ptr<Dct4State> state_of(const registry::Export& function) const;
+  std::size_t buffer_bytes(const registry::Export& function) const;
 
   std::filesystem::path path_;
   std::shared_ptr<void> handle_;  ///< states hold it too, for their release

@@ -10,7 +10,7 @@
 
 #include "bench/core/contestant.h"
 #include "bench/core/counts.h"
-#include "frame/families.h"
+#include "registry/registry.h"
 
 namespace haldgen::bench {
 
@@ -42,6 +42,6 @@ class Problem {
 };
 
 /// The transform of a fixed-size function; null if this program does not measure its family.
-std::shared_ptr<const Problem> problem_of(const frame::Export& function);
+std::shared_ptr<const Problem> problem_of(const registry::Export& function);
 
 }  // namespace haldgen::bench

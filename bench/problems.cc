@@ -35,7 +35,7 @@ class ComplexTransform final : public Problem {
   }
   std::optional<OperationCounts::Counts> work(const OperationCounts& counts) const override {
     // The generator's name for both directions: their counts are equal.
-    auto work = counts.of("complex", std::string(frame::suffix(problem_.element)), problem_.length);
+    auto work = counts.of("complex", std::string(names::suffix(problem_.element)), problem_.length);
     if (work) work->additions /= lanes(problem_.element);
     return work;
   }
@@ -46,7 +46,7 @@ class ComplexTransform final : public Problem {
 
 }  // namespace
 
-std::shared_ptr<const Problem> problem_of(const frame::Export& function) {
+std::shared_ptr<const Problem> problem_of(const registry::Export& function) {
   if (function.size == 0) return nullptr;
   if (const std::optional<ComplexProblem> problem = complex_problem_of(function)) {
     return std::make_shared<ComplexTransform>(*problem);
@@ -54,10 +54,10 @@ std::shared_ptr<const Problem> problem_of(const frame::Export& function) {
   if (const std::optional<RealTransform> transform = real_transform_of(function)) {
     return std::make_shared<RealProblem>(*transform);
   }
-  if (function.family->word == "WHT") {
+  if (function.word->word == "WHT") {
     return std::make_shared<WhtProblem>(function.element, function.size);
   }
-  if (function.family->word == "DCT4") {
+  if (function.word->word == "DCT4") {
     return std::make_shared<Dct4Problem>(function.element, function.size);
   }
   return nullptr;

@@ -38,8 +38,8 @@ Reals widened(std::span<const std::byte> bytes) {
   return {narrow.begin(), narrow.end()};
 }
 
-Reals widened(frame::Element element, std::span<const std::byte> bytes) {
-  return element == frame::Element::f32 ? widened<float>(bytes) : widened<double>(bytes);
+Reals widened(names::Element element, std::span<const std::byte> bytes) {
+  return element == names::Element::f32 ? widened<float>(bytes) : widened<double>(bytes);
 }
 
 Wide root(std::size_t power, std::size_t n) {
@@ -114,11 +114,11 @@ std::size_t RealTransform::result_floats() const {
 }
 
 std::size_t RealTransform::float_bytes() const {
-  return element == frame::Element::f32 ? sizeof(float) : sizeof(double);
+  return element == names::Element::f32 ? sizeof(float) : sizeof(double);
 }
 
-std::optional<RealTransform> real_transform_of(const frame::Export& function) {
-  const std::string_view word = function.family->word;
+std::optional<RealTransform> real_transform_of(const registry::Export& function) {
+  const std::string_view word = function.word->word;
   if (word == "DFTFwd_RToCCS") {
     return RealTransform{RealKind::forward, function.element, function.size};
   }
@@ -131,7 +131,7 @@ std::optional<RealTransform> real_transform_of(const frame::Export& function) {
 
 std::vector<std::byte> RealProblem::source() const {
   const std::size_t count = transform_.source_floats();
-  std::vector<std::byte> bytes = transform_.element == frame::Element::f32
+  std::vector<std::byte> bytes = transform_.element == names::Element::f32
                                      ? random_bytes<float>(count)
                                      : random_bytes<double>(count);
   if (transform_.kind == RealKind::inverse) {
@@ -164,7 +164,7 @@ std::string RealProblem::fault(const Contestant& contestant, const Walk& walk,
     magnitude += wanted[i] * wanted[i];
   }
   const long double error = std::sqrt(difference / magnitude);
-  const double epsilon = transform_.element == frame::Element::f32
+  const double epsilon = transform_.element == names::Element::f32
                              ? std::numeric_limits<float>::epsilon()
                              : std::numeric_limits<double>::epsilon();
   // Wide enough for a direct sum with rounded sines; wrong order or direction is off by about 1.
@@ -184,7 +184,7 @@ std::optional<OperationCounts::Counts> RealProblem::work(const OperationCounts& 
   const char* family = "hartley";
   if (transform_.kind == RealKind::forward) family = "real-forward";
   if (transform_.kind == RealKind::inverse) family = "real-inverse";
-  return counts.of(family, std::string(frame::suffix(transform_.element)), transform_.length);
+  return counts.of(family, std::string(names::suffix(transform_.element)), transform_.length);
 }
 
 }  // namespace haldgen::bench

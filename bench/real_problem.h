@@ -14,7 +14,7 @@ enum class RealKind {
 /// A transform without scaling.
 struct RealTransform {
   RealKind kind;
-  frame::Element element;  ///< f32 or f64
+  names::Element element;  ///< f32 or f64
   int length;
 
   std::size_t source_floats() const;
@@ -23,7 +23,7 @@ struct RealTransform {
 };
 
 /// The transform of a fixed-size function, if it is one of these.
-std::optional<RealTransform> real_transform_of(const frame::Export& function);
+std::optional<RealTransform> real_transform_of(const registry::Export& function);
 
 class RealProblem final : public Problem {
  public:

@@ -89,22 +89,22 @@ std::vector<Contestant> plain_loops(int order) {
 }  // namespace
 
 std::vector<std::byte> WhtProblem::source() const {
-  return element_ == frame::Element::f32 ? random_bytes<float>(order_)
+  return element_ == names::Element::f32 ? random_bytes<float>(order_)
                                          : random_bytes<double>(order_);
 }
 
 std::size_t WhtProblem::result_bytes() const {
-  return (element_ == frame::Element::f32 ? sizeof(float) : sizeof(double)) << order_;
+  return (element_ == names::Element::f32 ? sizeof(float) : sizeof(double)) << order_;
 }
 
 std::string WhtProblem::fault(const Contestant& contestant, const Walk& walk,
                               std::span<const std::byte> source) const {
-  return element_ == frame::Element::f32 ? fault_of<float>(order_, contestant, walk, source)
+  return element_ == names::Element::f32 ? fault_of<float>(order_, contestant, walk, source)
                                          : fault_of<double>(order_, contestant, walk, source);
 }
 
 std::vector<Contestant> WhtProblem::rivals() const {
-  return element_ == frame::Element::f32 ? plain_loops<float>(order_) : plain_loops<double>(order_);
+  return element_ == names::Element::f32 ? plain_loops<float>(order_) : plain_loops<double>(order_);
 }
 
 std::vector<Contestant> WhtProblem::yardsticks() const { return {copy_contestant(result_bytes())}; }

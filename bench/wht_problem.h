@@ -8,7 +8,7 @@ namespace haldgen::bench {
 class WhtProblem final : public Problem {
  public:
   /// `element` is f32 or f64.
-  WhtProblem(frame::Element element, int order) : element_(element), order_(order) {}
+  WhtProblem(names::Element element, int order) : element_(element), order_(order) {}
 
   std::vector<std::byte> source() const override;
   std::size_t result_bytes() const override;
@@ -21,7 +21,7 @@ class WhtProblem final : public Problem {
   bool sized_by_order() const override { return true; }
 
  private:
-  frame::Element element_;
+  names::Element element_;
   int order_;
 };
 

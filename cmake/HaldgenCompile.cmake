@@ -49,29 +49,6 @@ function(haldgen_build_tool target)
   target_compile_options(${target} PRIVATE $<$<CONFIG:Debug>:-O1>)
 endfunction()
 
-# Sources that haldgen-generate writes, one for each length and element type so that a build
-# parallelises, in <binary dir>/generated. A kernel that is missing fails the link of the library.
-#   haldgen_generated_sources(VARIABLE FAMILY FIRST LAST TYPE...)
-set(HALDGEN_TUNING "" CACHE STRING
-    "Tuning of all kernels, such as critical:16:0, to measure with; empty for the tables")
-function(haldgen_generated_sources variable family first last)
-  set(folder ${CMAKE_CURRENT_BINARY_DIR}/generated)
-  file(MAKE_DIRECTORY ${folder})
-  set(sources ${${variable}})
-  foreach(length RANGE ${first} ${last})
-    foreach(type IN LISTS ARGN)
-      set(source ${folder}/${family}_${length}_${type}.cc)
-      add_custom_command(
-        OUTPUT ${source}
-        COMMAND haldgen-generate source ${family} ${length} ${type} ${source} ${HALDGEN_TUNING}
-        DEPENDS haldgen-generate
-        VERBATIM)
-      list(APPEND sources ${source})
-    endforeach()
-  endforeach()
-  set(${variable} ${sources} PARENT_SCOPE)
-endfunction()
-
 # Generated kernels. The order of instructions is the generator's; vectorisers would pack scalar
 # kernels and widen the others' registers' lives. Kernels that are the same code stay functions of
 # their own: g++ would make one jump to the other. To say for a debugger where each of thousands of

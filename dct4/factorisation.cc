@@ -4,31 +4,28 @@
 #include <utility>
 
 #include "dct4/walk.h"
+#include "kernelgen/integers.h"
 #include "kernelgen/transpose.h"
 
 namespace haldgen::dct4 {
 namespace {
 
+using kernelgen::at;
 using kernelgen::Field;
 using kernelgen::Graph;
 using kernelgen::Parts;
+using kernelgen::Turn;
 using kernelgen::Value;
 using kernelgen::Wide;
 using kernelgen::WideComplex;
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 /// exp(i pi numerator / denominator).
 WideComplex half_turn(std::int64_t numerator, std::int64_t denominator) {
   return kernelgen::root(2 * denominator, -numerator);
 }
 
-Parts conj(Parts a) { return {a.graph, a.re, -a.im}; }
-
 /// exp(i pi / 4) a, with the sum and the difference of the parts formed first.
-Parts eighth_turn(Parts a) { return sqrt(Wide(0.5)) * (a + turned(a, 1)); }
-
-Parts rotated(WideComplex w, Parts a) { return kernelgen::product(w, a, true); }
+Parts eighth_turn(Parts a) { return sqrt(Wide(0.5)) * (a + turned(a, Turn::quarter)); }
 
 /// S(step u + offset), u = -m/2..m/2-1 for m the step-th part of the length.
 Sequence every(const Sequence& s, int step, int offset) {
@@ -47,7 +44,7 @@ std::vector<Parts> four_way(const std::vector<Parts>& x) {
   const Parts even_sum = x[0] + x[2];
   const Parts even_difference = x[0] - x[2];
   const Parts odd_sum = x[1] + x[3];
-  const Parts odd_difference = turned(x[1] - x[3], 1);
+  const Parts odd_difference = turned(x[1] - x[3], Turn::quarter);
   const Parts y0 = even_sum + odd_sum;
   const Parts y1 = even_difference + odd_difference;
   const Parts y2 = even_sum - odd_sum;
@@ -77,7 +74,7 @@ std::vector<Parts> fold_by(Graph& graph, const Sequence& s, int radix, Division 
       } else if (4 * angle == m) {
         row.push_back(eighth_turn(e));
       } else {
-        row.push_back(rotated(half_turn(angle, m), e));
+        row.push_back(full_product(half_turn(angle, m), e));
       }
     }
     const std::vector<Parts> sums = radix == 2 ? two_way(row) : four_way(row);
@@ -113,13 +110,13 @@ std::vector<Parts> dft(const std::vector<Parts>& x) {
     const auto twiddled = [n](Parts v, int turns) {
       if (turns == 0) return v;
       if (8 * turns == n) return eighth_turn(v);
-      if (8 * turns == 3 * n) return turned(eighth_turn(v), 1);
-      return rotated(kernelgen::root(n, -turns), v);
+      if (8 * turns == 3 * n) return turned(eighth_turn(v), Turn::quarter);
+      return full_product(kernelgen::root(n, -turns), v);
     };
     const Parts u = twiddled(first[at(k)], k);
     const Parts v = twiddled(third[at(k)], 3 * k);
     const Parts sum = u + v;
-    const Parts difference = turned(u - v, 1);
+    const Parts difference = turned(u - v, Turn::quarter);
     y[at(k)] = even[at(k)] + sum;
     y[at(k + n / 4)] = even[at(k + n / 4)] + difference;
     y[at(k + n / 2)] = even[at(k)] - sum;
@@ -190,7 +187,7 @@ Graph recombine_graph(int radix, int length, int block) {
   for (int s = 0; s < radix; ++s) {
     const int j = walk_index(radix, s);
     const Parts z{&graph, graph.input(j), graph.input(radix + j)};
-    terms[at(j)] = rotated(rotations[at(s)], z);
+    terms[at(j)] = full_product(rotations[at(s)], z);
   }
   graph.set_outputs(recombine(graph, terms));
   return graph;
@@ -203,7 +200,7 @@ Graph inner_recombine_graph(int radix, int length, int block) {
   std::vector<Parts> row;
   for (int a = 0; a < radix; ++a) {
     const Parts e{&graph, graph.input(2 * a), graph.input(2 * a + 1)};
-    row.push_back(a == 0 ? e : rotated(rotations[at(a - 1)], e));
+    row.push_back(a == 0 ? e : full_product(rotations[at(a - 1)], e));
   }
   const std::vector<Parts> sums = dft(row);
   std::vector<Value> outputs;
@@ -232,8 +229,9 @@ Graph fixed_graph(int length) {
     for (int j = 0; j < radix; ++j) {
       const int angle = (2 * j + 1) * (2 * b + 1);  // in units of pi / 4N
       const Parts folded = z[at(j)][at(b)];
-      terms.push_back(length == 4 ? lifted(graph, folded.re, -folded.im, angle, 4 * length)
-                                  : rotated(half_turn(angle, 4 * std::int64_t{length}), folded));
+      terms.push_back(length == 4
+                          ? lifted(graph, folded.re, -folded.im, angle, 4 * length)
+                          : full_product(half_turn(angle, 4 * std::int64_t{length}), folded));
     }
     const std::vector<Value> sums = recombine(graph, terms);
     for (int l = 0; l < radix; ++l) {

@@ -5,7 +5,6 @@
 
 #include "dct4/kernel_list.h"
 #include "dct4/size.h"
-#include "kernelgen/emit.h"
 #include "kernelgen/lower.h"
 #include "kernelgen/orient.h"
 
@@ -14,8 +13,8 @@ namespace {
 
 using kernelgen::FloatType;
 using kernelgen::Graph;
-using kernelgen::LaneInputs;
 using kernelgen::Program;
+using kernelgen::Target;
 
 /// Lengths whose rotations stand for those of any block: none of their angles is one that a
 /// recombination has inside, so each of their constants is an entry of the table.
@@ -81,81 +80,12 @@ std::string_view word(Part part) {
   throw std::logic_error("unknown part");
 }
 
-std::string title(const Kernel& kernel) {
-  const std::string size = std::to_string(kernel.size);
-  switch (kernel.part) {
-    case Part::fixed:
-      return "DCT-IV of length " + size;
-    case Part::fold:
-      return "Fold of length " + size;
-    case Part::recombine:
-      return "Rotation and recombination of radix " + size;
-    case Part::inner_recombine:
-      return "Step of radix " + size + " from folds to a longer fold";
-  }
-  throw std::logic_error("unknown part");
-}
-
-std::string head_comment(const Kernel& kernel) {
-  const kernelgen::Counts counts = kernelgen::count(kernel_graph(kernel));
-  return "// " + title(kernel) + ", " + (kernel.type == FloatType::f32 ? "32" : "64") +
-         "-bit elements. Generated; do not edit.\n//   " + std::to_string(counts.additions) +
-         " additions, " + std::to_string(counts.multiplications) + " multiplications, depth " +
-         std::to_string(counts.depth) + (kernel.part == Part::fixed ? "" : " in each lane") + "\n";
-}
-
-std::string fixed_function(const Kernel& kernel, const Program& program) {
-  const std::string type = kernel.type == FloatType::f32 ? "float" : "double";
-  return "void " + name(kernel) + "(const " + type + "* src, " + type + "* dst) {\n" +
-         emit_body(program) + "}\n";
-}
-
-/// The body as a template over the accessor of its slots, and the pass that runs it.
-std::string pass_function(const Kernel& kernel, const Program& program) {
-  const std::string type = kernel.type == FloatType::f32 ? "float" : "double";
-  const std::string vector = kernel.type == FloatType::f32 ? "__m128" : "__m128d";
-  const std::string pass = kernel.part == Part::fold        ? "Fold"
-                           : kernel.part == Part::recombine ? "Recombine"
-                                                            : "InnerRecombine";
-  return "namespace {\n\nstruct Body {\n  using Float = " + type + ";\n  using V = " + vector +
-         ";\n  static constexpr int kSize = " + std::to_string(kernel.size) +
-         ";\n\n  template <class Io>\n  static inline void run(const Io& io) {\n" +
-         emit_body(program) + "  }\n};\n\n}  // namespace\n\nvoid " + name(kernel) + "(const " +
-         pass + "Run<" + type + ">& run) {\n  run_" + std::string(word(kernel.part)) +
-         "<Body>(run);\n}\n";
-}
-
 }  // namespace
 
 std::span<const Kernel> kernels() { return kKernels; }
 
 std::string name(const Kernel& kernel) {
   return std::string(word(kernel.part)) + "_" + std::to_string(kernel.size);
-}
-
-kernelgen::Ordering ordering_of(const Kernel& kernel) {
-  using kernelgen::Order;
-  struct Row {
-    Part part;
-    int size;
-    kernelgen::Ordering ordering;
-  };
-  // Measured with both element types. Kernels that are not listed do best by bisection.
-  static constexpr Row kRows[] = {
-      {Part::fixed, 8, {Order::pressure, 16}},
-      {Part::fixed, 16, {Order::critical, 16}},
-      {Part::fold, 16, {Order::critical, 24}},
-      {Part::recombine, 8, {Order::critical, 12}},
-      {Part::recombine, 16, {Order::pressure, 18}},
-      {Part::recombine, 32, {Order::pressure, 18}},
-      {Part::inner_recombine, 8, {Order::critical, 12}},
-      {Part::inner_recombine, 16, {Order::critical, 14}},
-      {Part::inner_recombine, 32, {Order::critical, 14}},
-  };
-  for (const Row& row : kRows) {
-    if (row.part == kernel.part && row.size == kernel.size) return row.ordering;
-  }
-  return {};
 }
 
 Graph kernel_graph(const Kernel& kernel) {
@@ -174,18 +104,21 @@ Graph kernel_graph(const Kernel& kernel) {
 
 Program kernel_program(const Kernel& kernel, kernelgen::Ordering ordering) {
   Graph graph = oriented(kernel);
-  LaneInputs inputs;
-  inputs.lanes = kernel.part == Part::fixed ? 1 : lanes(kernel.type);
-  inputs.transposed = kernel.part == Part::recombine;
+  Target target{.type = kernel.type, .scaled = kernelgen::Scaled::nothing};
+  if (kernel.part != Part::fixed) {
+    target.lanes = lanes(kernel.type);
+    target.memory = kernelgen::Memory::slots;
+  }
+  target.transposed = kernel.part == Part::recombine;
   int entries = 0;
   for (const kernelgen::WideComplex& w : stand_in_rotations(kernel)) {
-    inputs.table[graph.intern(w.re)] = entries++;
-    inputs.table[graph.intern(w.im)] = entries++;
+    target.table[graph.intern(w.re)] = entries++;
+    target.table[graph.intern(w.im)] = entries++;
   }
-  if (static_cast<int>(inputs.table.size()) != entries) {
+  if (static_cast<int>(target.table.size()) != entries) {
     throw std::logic_error("two entries of a table are taken for one");
   }
-  return scheduled(lower_lanes(graph, kernel.type, inputs), ordering);
+  return scheduled(lower_real(graph, target), ordering);
 }
 
 kernelgen::Counts transform_counts(int length) {
@@ -194,14 +127,6 @@ kernelgen::Counts transform_counts(int length) {
   const int fold_length = length / radix;
   return then(times(radix, fold_counts(fold_length)),
               times(fold_length / 2, count(recombine_graph(radix, length, 0))));
-}
-
-std::string kernel_source(const Kernel& kernel, kernelgen::Ordering ordering) {
-  const Program program = kernel_program(kernel, ordering);
-  return head_comment(kernel) + "#include \"dct4/passes.h\"\n\nnamespace haldgen::dct4 {\n" +
-         (kernel.part == Part::fixed ? "\n" + fixed_function(kernel, program)
-                                     : pass_function(kernel, program)) +
-         "\n}  // namespace haldgen::dct4\n";
 }
 
 }  // namespace haldgen::dct4

@@ -1,4 +1,4 @@
-// From a part of the DCT-IV to its generated kernel: graph, program and source file.
+// From a part of the DCT-IV to its generated kernel: graph and program.
 #pragma once
 
 #include <span>
@@ -27,9 +27,6 @@ std::span<const Kernel> kernels();
 /// Such as "fold_16".
 std::string name(const Kernel& kernel);
 
-/// The frozen order of a kernel's instructions.
-kernelgen::Ordering ordering_of(const Kernel& kernel);
-
 /// What one sequence or block costs, and what is computed from it. Recombinations are those of
 /// block 0; other blocks differ in their rotations only.
 kernelgen::Graph kernel_graph(const Kernel& kernel);
@@ -39,8 +36,5 @@ kernelgen::Program kernel_program(const Kernel& kernel, kernelgen::Ordering orde
 /// What a whole transform executes in real operations: its kernels as often as its plan runs them.
 /// The depth is that of the parts one after another.
 kernelgen::Counts transform_counts(int length);
-
-/// The source file of a kernel.
-std::string kernel_source(const Kernel& kernel, kernelgen::Ordering ordering);
 
 }  // namespace haldgen::dct4

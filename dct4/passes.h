@@ -9,13 +9,12 @@
 #include <cstddef>
 
 #include "dct4/kernel_list.h"
-#include "kernelgen/lanes.h"
-#include "kernelgen/scalar.h"
+#include "lanes/scalar.h"
+#include "lanes/vectors.h"
 
 namespace haldgen::dct4 {
 
-template <class Float>
-inline constexpr int kLanes = static_cast<int>(16 / sizeof(Float));
+using lanes::kLanes;
 
 /// Lane groups that inner plans work on together, and their elements: a cache line, which is then
 /// moved once and as a whole.

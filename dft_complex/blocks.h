@@ -19,8 +19,10 @@ using Elements = std::vector<E>;
 struct Direction {
   int exponent = -1;
 
-  /// exp(-+ pi i / 2) as a power of i.
-  int quarter() const { return exponent < 0 ? 3 : 1; }
+  /// exp(-+ pi i / 2).
+  kernelgen::Turn quarter() const {
+    return exponent < 0 ? kernelgen::Turn::three_quarters : kernelgen::Turn::quarter;
+  }
 };
 
 template <class E>

@@ -1,24 +1,26 @@
 // From a recipe to its graph.
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <stdexcept>
 
 #include "dft_complex/blocks.h"
 #include "dft_complex/recipe.h"
+#include "kernelgen/integers.h"
 #include "kernelgen/transpose.h"
 
 namespace haldgen::dft_complex {
 namespace {
 
+using kernelgen::at;
 using kernelgen::Field;
 using kernelgen::Graph;
+using kernelgen::modulo;
 using kernelgen::Parts;
+using kernelgen::Turn;
 using kernelgen::Value;
 using kernelgen::Whole;
 using kernelgen::WideComplex;
-
-std::size_t at(int k) { return static_cast<std::size_t>(k); }
-int modulo(int k, int n) { return ((k % n) + n) % n; }
 
 /// Sets folding of constants for a region and restores it.
 class Folding {
@@ -35,26 +37,14 @@ class Folding {
   bool before_;
 };
 
-int power(int base, int exponent, int modulus) {
-  int result = 1;
-  for (int i = 0; i < exponent; ++i) result = result * base % modulus;
-  return result;
-}
-
-int primitive_root(int p) {
-  for (int g = 2;; ++g) {
-    int order = 1;
-    for (int v = g; v != 1; v = v * g % p) ++order;
-    if (order == p - 1) return g;
-  }
-}
-
 /// Rader's index permutation of p - 1 places.
 struct RaderOrder {
   explicit RaderOrder(int p) : length(p - 1) {
-    const int g = primitive_root(p);
-    for (int k = 0; k < length; ++k) read.push_back(power(g, k, p));
-    for (int l = 0; l < length; ++l) write.push_back(power(g, modulo(-l, length), p));
+    const int g = kernelgen::primitive_root(p);
+    for (int k = 0; k < length; ++k) read.push_back(kernelgen::power(g, k, p));
+    for (int l = 0; l < length; ++l) {
+      write.push_back(kernelgen::power(g, modulo(-l, length), p));
+    }
   }
   int length;
   std::vector<int> read;   ///< place k holds x[g^k]
@@ -87,7 +77,7 @@ Parts from_lanes(Graph& graph, const Parts& /*like*/, const std::vector<Value>& 
 }
 /// i times a value given by its lanes.
 std::vector<Value> quarter_turned(const std::vector<Value>& lane) {
-  if (lane.size() == 1) return {turned(lane[0], 1)};
+  if (lane.size() == 1) return {turned(lane[0], Turn::quarter)};
   return {-lane[1], lane[0]};
 }
 
@@ -108,7 +98,7 @@ class Expander {
       case Method::split_eight:
         return dft8(x, direction_);
       case Method::shared_sixteen:
-        return dft16_shared(x, direction_, r.eighths_joined);
+        return dft16_shared(x, direction_, r.chosen<SharedSixteen>().eighths_joined);
       case Method::coprime:
         return coprime_steps(r, x);
       case Method::cooley_tukey:
@@ -191,11 +181,11 @@ class Expander {
     return y;
   }
 
-  kernelgen::EighthRoot eighth_style(const Recipe& r, int place, int bin) const {
-    for (const auto& exception : r.eighth_exceptions) {
+  kernelgen::EighthRoot eighth_style(const CooleyTukey& c, int place, int bin) const {
+    for (const auto& exception : c.eighths_sum_first) {
       if (exception == std::pair(place, bin)) return kernelgen::EighthRoot::sum_first;
     }
-    return r.eighth;
+    return c.eighth;
   }
 
   /// n = s + S r on the way in, twiddles W_N^(r s), k = r + R t on the way out.
@@ -203,11 +193,12 @@ class Expander {
     const int first = r.first.front().length;
     const int second = r.second.front().length;
     const int n = first * second;
-    std::vector<int> places = r.shifts.places;
+    const auto& c = r.chosen<CooleyTukey>();
+    std::vector<int> places = c.places;
     if (places.empty()) {
       for (int s = 0; s < second; ++s) places.push_back(s);
     }
-    std::vector<int> bins = r.shifts.bins;
+    std::vector<int> bins = c.bins;
     if (bins.empty()) {
       for (int k = 0; k < first; ++k) bins.push_back(k);
     }
@@ -218,7 +209,7 @@ class Expander {
       Elements<E> in;
       for (int a = 0; a < first; ++a) in.push_back(x[at(modulo(places[at(s)] + second * a, n))]);
       Elements<E> out = run(column(r.first, modulo(places[at(s)], second)), in);
-      if (!r.late_twiddles) {
+      if (!c.late_twiddles) {
         for (int k = 0; k < first; ++k) {
           E& v = out[at(modulo(bins[at(k)], first))];
           v = rotated(r, v, places, s, bins, k, fill);
@@ -235,7 +226,7 @@ class Expander {
       for (int s = 0; s < second; ++s) {
         const E& v = middle[at(s)][at(modulo(bin, first))];
         in[at(modulo(places[at(s)], second))] =
-            r.late_twiddles ? rotated(r, v, places, s, bins, k, fill) : v;
+            c.late_twiddles ? rotated(r, v, places, s, bins, k, fill) : v;
       }
       const Elements<E> out = run(column(r.second, modulo(bin, first)), in);
       for (int t = 0; t < second; ++t) y[at(modulo(bin + first * t, n))] = out[at(t)];
@@ -250,26 +241,31 @@ class Expander {
   E rotated(const Recipe& r, const E& v, const std::vector<int>& places, int s,
             const std::vector<int>& bins, int k, bool fill) {
     const int n = r.length;
-    const auto quarter_turns = [&](int i, int j) {
+    const auto& c = r.chosen<CooleyTukey>();
+    const auto power_of_i = [&](int i, int j) -> std::optional<Turn> {
       const int exponent = modulo(4 * places[at(i)] * bins[at(j)], 4 * n);
-      return exponent % n == 0 ? exponent / n : -1;  // -1: not a power of i
+      if (exponent % n != 0) return std::nullopt;
+      return kernelgen::quarters(exponent / n);
     };
     bool ride = false;
     if (fill) {
       int s_beside = s, k_beside = k;
-      (r.late_twiddles ? k_beside : s_beside) ^= 1;
+      (c.late_twiddles ? k_beside : s_beside) ^= 1;
       const bool there =
           s_beside < static_cast<int>(places.size()) && k_beside < static_cast<int>(bins.size());
-      ride = there && quarter_turns(s, k) != quarter_turns(s_beside, k_beside);
+      ride = there && power_of_i(s, k) != power_of_i(s_beside, k_beside);
     }
     const int place = places[at(s)];
     const int bin = bins[at(k)];
-    const bool unfolded = r.shifts.keep_first_apart && modulo(place, r.second.front().length) == 0;
+    const bool unfolded = c.first_apart && modulo(place, r.second.front().length) == 0;
     const Folding region(graph_, graph_.folding() && !unfolded);
-    return twiddle(v, n, -direction_.exponent * place * bin, eighth_style(r, place, bin), ride);
+    const int exponent = modulo(-direction_.exponent * place * bin, n);
+    if (ride && 4 * exponent % n == 0) return full_product(kernelgen::root(n, exponent), v, true);
+    return twiddle(v, n, exponent, eighth_style(c, place, bin));
   }
 
   Elements<E> rader_steps(const Recipe& r, const Elements<E>& x) {
+    const auto& choices = r.chosen<Rader>();
     const RaderOrder order(r.length);
     const std::vector<WideComplex> c = rader_constants(r.length, order);
     const int length = order.length;
@@ -281,13 +277,13 @@ class Expander {
     y[0] = x[0] + spectrum[0];
     Elements<E> p;
     for (int m = 0; m < length; ++m) {
-      E v = full_product(c[at(m)], spectrum[at(m)], false);
-      if (r.zero_lanes == 6 && (m == 0 || m == half)) v = add_zero(v);
+      E v = full_product(c[at(m)], spectrum[at(m)]);
+      if (choices.zero_lanes == 6 && (m == 0 || m == half)) v = add_zero(v);
       p.push_back(v);
     }
     p[0] = x[0] + p[0];
-    if (r.zero_lanes != 0) {
-      const int mate = r.mate == 0 ? half : r.mate;
+    if (choices.zero_lanes != 0) {
+      const int mate = choices.mate == 0 ? half : choices.mate;
       p[at(mate)] = add_zero(p[at(mate)]);
     }
     const Elements<E> back = inverse(r.second.front(), p);
@@ -310,6 +306,7 @@ class Expander {
   /// m and L - m act on the pair together: C'[m] = C[m] for even m, C[m] / i for odd m, doubled
   /// between the ends; an odd bin's factor i is an exchange of the lanes.
   Elements<E> joined_rader_steps(const Recipe& r, const Elements<E>& x) {
+    const auto& choices = r.chosen<JoinedRader>();
     const RaderOrder order(r.length);
     const std::vector<WideComplex> c = rader_constants(r.length, order);
     const int half = order.length / 2;
@@ -318,7 +315,7 @@ class Expander {
     std::vector<std::vector<Value>> q(at(2 * half + 2));  // real and imaginary part of each bin
     std::vector<Value> y0(lane_count);
     {
-      const Folding region(graph_, r.fold_there);
+      const Folding region(graph_, choices.fold_there);
       std::vector<std::vector<Parts>> bins;
       for (std::size_t lane = 0; lane < lane_count; ++lane) {
         std::vector<Value> a;
@@ -331,13 +328,13 @@ class Expander {
       for (std::size_t lane = 0; lane < lane_count; ++lane) {
         for (int m = 0; m <= half; ++m) {
           const bool end = m == 0 || m == half;
-          WideComplex factor = m % 2 == 0 ? c[at(m)] : turned(c[at(m)], 3);
+          WideComplex factor = m % 2 == 0 ? c[at(m)] : turned(c[at(m)], Turn::three_quarters);
           if (!end) factor = Wide(2.0) * factor;
           Parts bin = bins[lane][at(m)];
           if (end) bin.im = {};
           Parts v = product(factor, bin, false);
-          if (r.zero_lanes != 0 && end) v = add_zero(v);
-          if (r.zero_lanes != 0 && m == half) v = add_zero(v);
+          if (choices.zero_lanes != 0 && end) v = add_zero(v);
+          if (choices.zero_lanes != 0 && m == half) v = add_zero(v);
           q[at(2 * m)].push_back(v.re);
           q[at(2 * m + 1)].push_back(v.im);
         }
@@ -348,7 +345,7 @@ class Expander {
       q[at(2 * m)] = quarter_turned(q[at(2 * m)]);
       q[at(2 * m + 1)] = quarter_turned(q[at(2 * m + 1)]);
     }
-    const Graph back = transposable(r.second.front(), r.fold_back);
+    const Graph back = transposable(r.second.front(), choices.fold_back);
     std::vector<std::vector<Value>> result(at(order.length));
     for (std::size_t lane = 0; lane < lane_count; ++lane) {
       std::vector<Value> fed{graph_.add(lanes(x[0])[lane], q[0][lane])};
@@ -408,14 +405,14 @@ class Expander {
     for (int k = 0; k < 2 * m; ++k) y[at(2 * k)] = even[at(k)];
     Elements<E> in_b, in_d;
     for (int l = 0; l < m; ++l) {
-      in_b.push_back(turned(differences[at(2 * l)], 2 * (l % 2)));
-      in_d.push_back(turned(differences[at(2 * l + 1)], 2 * (l % 2)));
+      in_b.push_back(turned(differences[at(2 * l)], kernelgen::quarters(2 * l)));
+      in_d.push_back(turned(differences[at(2 * l + 1)], kernelgen::quarters(2 * l)));
     }
     const Elements<E> b = run(block, in_b);
     const Elements<E> d = run(block, in_d);
     for (const int k : symmetric(m)) {
       const E rotated = twiddle(d[at(modulo(k, m))], 2 * m, k, EighthRoot::sum_first);
-      const E w = turned(rotated, 3);
+      const E w = turned(rotated, Turn::three_quarters);
       const int bin = modulo(m + 2 * k, 4 * m);
       y[at(bin)] = b[at(modulo(k, m))] + w;
       y[at((bin + 2 * m) % (4 * m))] = b[at(modulo(k, m))] - w;
@@ -443,17 +440,17 @@ class Expander {
       for (int k = 1; k < block.length; k += 2) y.emplace(k, all[at(k)]);
       return y;
     }
-    if (r.method != Method::odd_twist) throw std::logic_error("not an odd half");
+    if (r.method != Method::twisted) throw std::logic_error("not an odd half");
     const int m = block.length;
     const int length = 4 * m;
     Elements<E> plus, minus;
     for (int n = 0; n < m; ++n) {
-      const E v = d[at(n)] + turned(d[at(n + m)], 3);
+      const E v = d[at(n)] + turned(d[at(n + m)], Turn::three_quarters);
       plus.push_back(twiddle(v, length, n, EighthRoot::sum_first));
     }
     const Elements<E> p = run(block, plus);
     for (int n = 0; n < m; ++n) {
-      const E v = d[at(n)] - turned(d[at(n + m)], 3);
+      const E v = d[at(n)] - turned(d[at(n + m)], Turn::three_quarters);
       minus.push_back(twiddle(v, length, -n, EighthRoot::sum_first));
     }
     const Elements<E> q = run(block, minus);
@@ -468,6 +465,7 @@ class Expander {
   /// convolution runs over a length M >= 2p - 1. Places past p are zeros: those below `carried` go
   /// through the block as values, the others prune it.
   Elements<E> bluestein_steps(const Recipe& r, const Elements<E>& x) {
+    const auto& choices = r.chosen<Bluestein>();
     const int p = r.length;
     const int m = r.first.front().length;
     std::vector<WideComplex> chirp;
@@ -478,8 +476,8 @@ class Expander {
       wrapped[at(modulo(-n, m))] = wrapped[at(n)];
     }
     Elements<E> u{x[0]};
-    for (int n = 1; n < p; ++n) u.push_back(full_product(chirp[at(n)], x[at(n)], false));
-    for (int n = p; n < r.carried; ++n) u.push_back(carried_zero(x[0]));
+    for (int n = 1; n < p; ++n) u.push_back(full_product(chirp[at(n)], x[at(n)]));
+    for (int n = p; n < choices.carried; ++n) u.push_back(carried_zero(x[0]));
     u.resize(at(m), zero_like(x[0]));
     const Elements<E> spectrum = run(r.first.front(), u);
     Elements<E> convolved;
@@ -488,14 +486,14 @@ class Expander {
       for (int n = 0; n < m; ++n) {
         sum = sum + wrapped[at(n)] * kernelgen::root(m, n * k % m);
       }
-      E v = full_product((Wide(1.0) / Wide(m)) * sum, spectrum[at(k)], false);
-      if (k == 0 && r.zero_lanes != 0) v = add_zero(v);
+      E v = full_product((Wide(1.0) / Wide(m)) * sum, spectrum[at(k)]);
+      if (k == 0 && choices.zero_lanes != 0) v = add_zero(v);
       convolved.push_back(v);
     }
     const Elements<E> v = inverse(r.second.front(), convolved);
     Elements<E> y{v[0]};
-    for (int k = 1; k < p; ++k) y.push_back(full_product(chirp[at(k)], v[at(k)], false));
-    for (int k = p; k < r.computed; ++k) {
+    for (int k = 1; k < p; ++k) y.push_back(full_product(chirp[at(k)], v[at(k)]));
+    for (int k = p; k < choices.computed; ++k) {
       for (const Value lane : lanes(v[at(k)])) graph_.keep(lane);
     }
     return y;

@@ -9,12 +9,10 @@ int product_of_lengths(const Columns& first, const Columns& second) {
   return first.front().length * second.front().length;
 }
 
-Recipe make(Method method, int length, Columns first = {}, Columns second = {}) {
-  Recipe recipe{};
-  recipe.method = method;
-  recipe.length = length;
-  recipe.first = std::move(first);
-  recipe.second = std::move(second);
+/// The recipe with one of the choices of its method made.
+template <class Choice, class Value>
+Recipe with(Recipe recipe, Value Choice::*choice, Value value) {
+  std::get<Choice>(recipe.choices).*choice = std::move(value);
   return recipe;
 }
 
@@ -38,15 +36,17 @@ std::string columns(const Columns& parts) {
   return text + "]";
 }
 
-std::string there_and_back(const Recipe& r) {
+std::string zero_lanes(int count) {
+  return count == 0 ? "" : "; " + std::to_string(count) + " zero lanes";
+}
+
+std::string there_and_back(const Recipe& r, bool fold_there, bool fold_back) {
   std::string text = columns(r.first);
-  if (r.fold_there) text += " folded";
-  if (r.first != r.second || r.fold_there != r.fold_back) {
+  if (fold_there) text += " folded";
+  if (r.first != r.second || fold_there != fold_back) {
     text += " || " + columns(r.second);
-    if (r.fold_back) text += " folded";
+    if (fold_back) text += " folded";
   }
-  if (r.zero_lanes != 0) text += "; " + std::to_string(r.zero_lanes) + " zero lanes";
-  if (r.mate != 0) text += "; bin 0 beside bin " + std::to_string(r.mate);
   return text;
 }
 
@@ -59,7 +59,7 @@ std::string to_string(const Recipe& r) {
     case Method::split_eight:
       return length;
     case Method::shared_sixteen:
-      return r.eighths_joined ? "16 shared, eighths joined" : "16 shared";
+      return r.chosen<SharedSixteen>().eighths_joined ? "16 shared, eighths joined" : "16 shared";
     case Method::five_folded:
       return "5w";
     case Method::direct:
@@ -67,137 +67,132 @@ std::string to_string(const Recipe& r) {
     case Method::coprime:
       return "PFA(" + columns(r.first) + ", " + columns(r.second) + ")";
     case Method::cooley_tukey: {
+      const auto& c = r.chosen<CooleyTukey>();
       std::string text = "CT(" + columns(r.first) + ", " + columns(r.second);
-      if (r.eighth == EighthRoot::sum_first) text += "; split eighths";
-      for (const auto& [place, bin] : r.eighth_exceptions) {
+      if (c.eighth == EighthRoot::sum_first) text += "; split eighths";
+      for (const auto& [place, bin] : c.eighths_sum_first) {
         text += "; split eighth at class " + std::to_string(place) + " bin " + std::to_string(bin);
       }
-      if (!r.shifts.places.empty()) text += "; classes " + list(r.shifts.places);
-      if (!r.shifts.bins.empty()) text += "; bins " + list(r.shifts.bins);
-      if (r.shifts.keep_first_apart) text += "; class 0 unfolded";
-      if (r.late_twiddles) text += "; twiddles late";
+      if (!c.places.empty()) text += "; classes " + list(c.places);
+      if (!c.bins.empty()) text += "; bins " + list(c.bins);
+      if (c.first_apart) text += "; class 0 unfolded";
+      if (c.late_twiddles) text += "; twiddles late";
       return text + ")";
     }
-    case Method::rader:
-      return length + "r literal(" + there_and_back(r) + ")";
-    case Method::joined_rader:
-      return length + "r(" + there_and_back(r) + ")";
+    case Method::rader: {
+      const auto& c = r.chosen<Rader>();
+      const std::string mate = c.mate == 0 ? "" : "; bin 0 beside bin " + std::to_string(c.mate);
+      return length + "r literal(" + there_and_back(r, false, false) + zero_lanes(c.zero_lanes) +
+             mate + ")";
+    }
+    case Method::joined_rader: {
+      const auto& c = r.chosen<JoinedRader>();
+      return length + "r(" + there_and_back(r, c.fold_there, c.fold_back) +
+             zero_lanes(c.zero_lanes) + ")";
+    }
     case Method::four_odd:
       return "Q4(" + columns(r.first) + ")";
     case Method::halves:
       return "halves(" + columns(r.first) + ", " + columns(r.second) + ")";
     case Method::odd_of_block:
       return "odd of " + columns(r.first);
-    case Method::odd_twist:
+    case Method::twisted:
       return "twist(" + columns(r.first) + ")";
-    case Method::bluestein:
-      return length + " Bluestein(" + columns(r.first) + " carrying " + std::to_string(r.carried) +
-             " || " + columns(r.second) + " computing " + std::to_string(r.computed) +
-             (r.zero_lanes ? "; " + std::to_string(r.zero_lanes) + " zero lanes" : "") + ")";
+    case Method::bluestein: {
+      const auto& c = r.chosen<Bluestein>();
+      return length + " Bluestein(" + columns(r.first) + " carrying " + std::to_string(c.carried) +
+             " || " + columns(r.second) + " computing " + std::to_string(c.computed) +
+             zero_lanes(c.zero_lanes) + ")";
+    }
   }
   return "";
 }
 
-Recipe butterfly(int length) { return make(Method::butterfly, length); }
-Recipe five_folded() { return make(Method::five_folded, 5); }
-Recipe direct(int prime) { return make(Method::direct, prime); }
-Recipe split_eight() { return make(Method::split_eight, 8); }
-Recipe shared_sixteen() { return make(Method::shared_sixteen, 16); }
+Recipe butterfly(int length) { return {Method::butterfly, length}; }
+Recipe five_folded() { return {Method::five_folded, 5}; }
+Recipe direct(int prime) { return {Method::direct, prime}; }
+Recipe split_eight() { return {Method::split_eight, 8}; }
+Recipe shared_sixteen() { return {Method::shared_sixteen, 16, {}, {}, SharedSixteen{}}; }
 Recipe shared_sixteen_joined() {
-  Recipe recipe = shared_sixteen();
-  recipe.eighths_joined = true;
-  return recipe;
+  return with(shared_sixteen(), &SharedSixteen::eighths_joined, true);
 }
 
 Recipe coprime(Columns first, Columns second) {
   const int length = product_of_lengths(first, second);
-  return make(Method::coprime, length, std::move(first), std::move(second));
+  return {Method::coprime, length, std::move(first), std::move(second)};
 }
 Recipe coprime(Recipe first, Recipe second) {
   return coprime(Columns{std::move(first)}, Columns{std::move(second)});
 }
 Recipe cooley_tukey(Columns first, Columns second) {
   const int length = product_of_lengths(first, second);
-  return make(Method::cooley_tukey, length, std::move(first), std::move(second));
+  return {Method::cooley_tukey, length, std::move(first), std::move(second), CooleyTukey{}};
 }
 Recipe cooley_tukey(Recipe first, Recipe second) {
   return cooley_tukey(Columns{std::move(first)}, Columns{std::move(second)});
 }
 Recipe rader(int prime, Recipe there, Recipe back) {
-  return make(Method::rader, prime, {std::move(there)}, {std::move(back)});
+  return {Method::rader, prime, {std::move(there)}, {std::move(back)}, Rader{}};
 }
 Recipe rader(int prime, Recipe block) { return rader(prime, block, block); }
 Recipe joined_rader(int prime, Recipe there, Recipe back) {
-  return make(Method::joined_rader, prime, {std::move(there)}, {std::move(back)});
+  return {Method::joined_rader, prime, {std::move(there)}, {std::move(back)}, JoinedRader{}};
 }
 Recipe joined_rader(int prime, Recipe block) { return joined_rader(prime, block, block); }
 Recipe four_odd(Recipe odd_block) {
   const int length = 4 * odd_block.length;
-  return make(Method::four_odd, length, {std::move(odd_block)});
+  return {Method::four_odd, length, {std::move(odd_block)}};
 }
 Recipe halves(Recipe even, Recipe odd) {
   const int length = 2 * even.length;
-  return make(Method::halves, length, {std::move(even)}, {std::move(odd)});
+  return {Method::halves, length, {std::move(even)}, {std::move(odd)}};
 }
 Recipe odd_of(Recipe block) {
   const int length = block.length / 2;
-  return make(Method::odd_of_block, length, {std::move(block)});
+  return {Method::odd_of_block, length, {std::move(block)}};
 }
-Recipe odd_twist(Recipe block) {
+Recipe twisted(Recipe block) {
   const int length = 2 * block.length;
-  return make(Method::odd_twist, length, {std::move(block)});
+  return {Method::twisted, length, {std::move(block)}};
 }
 Recipe bluestein(int prime, Recipe there, int carried, Recipe back, int computed) {
-  Recipe recipe = make(Method::bluestein, prime, {std::move(there)}, {std::move(back)});
-  recipe.carried = carried;
-  recipe.computed = computed;
-  return recipe;
+  return {Method::bluestein,
+          prime,
+          {std::move(there)},
+          {std::move(back)},
+          Bluestein{carried, computed}};
 }
 
-Recipe with_split_eighths(Recipe recipe) {
-  recipe.eighth = EighthRoot::sum_first;
-  return recipe;
+Recipe with_eighths_sum_first(Recipe recipe) {
+  return with(std::move(recipe), &CooleyTukey::eighth, EighthRoot::sum_first);
 }
-Recipe with_split_eighths(Recipe recipe, std::vector<std::pair<int, int>> exceptions) {
-  recipe.eighth_exceptions = std::move(exceptions);
-  return recipe;
+Recipe with_eighths_sum_first(Recipe recipe, std::vector<std::pair<int, int>> classes_and_bins) {
+  return with(std::move(recipe), &CooleyTukey::eighths_sum_first, std::move(classes_and_bins));
 }
 Recipe with_places(Recipe recipe, std::vector<int> places) {
-  recipe.shifts.places = std::move(places);
-  return recipe;
+  return with(std::move(recipe), &CooleyTukey::places, std::move(places));
 }
 Recipe with_bins(Recipe recipe, std::vector<int> bins) {
-  recipe.shifts.bins = std::move(bins);
-  return recipe;
+  return with(std::move(recipe), &CooleyTukey::bins, std::move(bins));
 }
 Recipe with_first_apart(Recipe recipe) {
-  recipe.shifts.keep_first_apart = true;
-  return recipe;
+  return with(std::move(recipe), &CooleyTukey::first_apart, true);
 }
 Recipe with_late_twiddles(Recipe recipe) {
-  recipe.late_twiddles = true;
-  return recipe;
+  return with(std::move(recipe), &CooleyTukey::late_twiddles, true);
 }
 Recipe folded_there(Recipe recipe) {
-  recipe.fold_there = true;
-  return recipe;
+  return with(std::move(recipe), &JoinedRader::fold_there, true);
 }
-Recipe folded_back(Recipe recipe) {
-  recipe.fold_back = true;
-  return recipe;
-}
+Recipe folded_back(Recipe recipe) { return with(std::move(recipe), &JoinedRader::fold_back, true); }
 Recipe with_zero_lanes(Recipe recipe, int count) {
-  recipe.zero_lanes = count;
-  return recipe;
+  if (recipe.method == Method::rader) return with(std::move(recipe), &Rader::zero_lanes, count);
+  if (recipe.method == Method::bluestein) {
+    return with(std::move(recipe), &Bluestein::zero_lanes, count);
+  }
+  return with(std::move(recipe), &JoinedRader::zero_lanes, count);
 }
-Recipe with_mate(Recipe recipe, int bin) {
-  recipe.mate = bin;
-  return recipe;
-}
-Recipe with_written_signs(Recipe recipe) {
-  recipe.signs_as_written = true;
-  return recipe;
-}
+Recipe with_mate(Recipe recipe, int bin) { return with(std::move(recipe), &Rader::mate, bin); }
 
 std::vector<int> symmetric(int count) {
   std::vector<int> result;

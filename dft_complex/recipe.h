@@ -4,6 +4,7 @@
 
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "kernelgen/element.h"
@@ -23,43 +24,74 @@ enum class Method {
   four_odd,        ///< 4M, M odd: odd outputs as two M-point transforms joined by twiddles
   halves,          ///< sums and differences at half the length, then an even and an odd half
   odd_of_block,    ///< odd half: the odd outputs of a block fed with zeros behind
-  odd_twist,       ///< odd half: two quarter-length transforms of rotated x[n] -+ i x[n+M]
+  twisted,         ///< odd half: two quarter-length transforms of rotated x[n] -+ i x[n+M]
   bluestein,       ///< L. Bluestein, IEEE Trans. AU-18 (1970): the chirp transform
 };
 
-/// Which classes a Cooley-Tukey step reads and which bins it writes, where they are not 0..n-1.
-struct Shifts {
+// The choices that one method leaves open.
+
+struct SharedSixteen {
+  bool eighths_joined = false;  ///< sum and difference before the eighth roots
+
+  friend bool operator==(const SharedSixteen&, const SharedSixteen&) = default;
+};
+
+/// Which classes a Cooley-Tukey step reads and which bins it writes, where they are not 0..n-1, and
+/// how its twiddles are formed.
+struct CooleyTukey {
   std::vector<int>
       places;             ///< a representative of each class of the input, modulo the second factor
   std::vector<int> bins;  ///< a representative of each bin of the first factor
-  bool keep_first_apart = false;  ///< no folding into the twiddles of class 0
+  bool first_apart = false;  ///< no folding into the twiddles of class 0
+  kernelgen::EighthRoot eighth = kernelgen::EighthRoot::full_product;
+  std::vector<std::pair<int, int>> eighths_sum_first;  ///< (class, bin) of those that are
+  /// The twiddles stand with the second stage's columns instead of the first's: the same
+  /// arithmetic, other neighbours in vectors of two elements.
+  bool late_twiddles = false;
 
-  friend bool operator==(const Shifts&, const Shifts&) = default;
+  friend bool operator==(const CooleyTukey&, const CooleyTukey&) = default;
 };
+
+struct Rader {
+  int zero_lanes = 0;  ///< executed additions of lanes that hold zero
+  int mate = 0;        ///< the bin that shares a vector with bin 0; 0: the middle one
+
+  friend bool operator==(const Rader&, const Rader&) = default;
+};
+
+struct JoinedRader {
+  int zero_lanes = 0;       ///< executed additions of lanes that hold zero
+  bool fold_there = false;  ///< constants meet and become one, on the way there
+  bool fold_back = false;   ///< and on the way back
+
+  friend bool operator==(const JoinedRader&, const JoinedRader&) = default;
+};
+
+struct Bluestein {
+  int carried;         ///< places carried as values on the way there
+  int computed;        ///< outputs computed on the way back
+  int zero_lanes = 0;  ///< executed additions of lanes that hold zero
+
+  friend bool operator==(const Bluestein&, const Bluestein&) = default;
+};
+
+using Choices =
+    std::variant<std::monostate, SharedSixteen, CooleyTukey, Rader, JoinedRader, Bluestein>;
 
 struct Recipe {
   Method method;
   int length;
   /// First and second stage; there and back; even and odd half. One recipe stands for all columns
   /// of a stage, several name each column.
-  std::vector<Recipe> first;
-  std::vector<Recipe> second;
-  Shifts shifts;
-  kernelgen::EighthRoot eighth = kernelgen::EighthRoot::full_product;
-  std::vector<std::pair<int, int>> eighth_exceptions;  ///< (class, bin) in the two-product form
-  /// The twiddles stand with the second stage's columns instead of the first's: the same
-  /// arithmetic, other neighbours in vectors of two elements.
-  bool late_twiddles = false;
-  bool eighths_joined = false;  ///< 16 shared: sum and difference before the eighth roots
-  bool fold_there = false;      ///< constants meet and become one, on the way there
-  bool fold_back = false;       ///< and on the way back
-  int zero_lanes = 0;           ///< executed additions of lanes that hold zero
-  int mate = 0;                 ///< the bin that shares a vector with bin 0
-  int carried = 0;              ///< Bluestein: places carried as values on the way there
-  int computed = 0;             ///< Bluestein: outputs computed on the way back
-  /// Of a whole kernel: each sum is held in the signs of its formula, so that sums whose terms
-  /// cancel make the zeros that the formulas make. Otherwise instructions decide.
-  bool signs_as_written = false;
+  std::vector<Recipe> first = {};
+  std::vector<Recipe> second = {};
+  Choices choices = {};
+
+  /// The choices of its method.
+  template <class Choice>
+  const Choice& chosen() const {
+    return std::get<Choice>(choices);
+  }
 
   friend bool operator==(const Recipe&, const Recipe&) = default;
 };
@@ -87,12 +119,13 @@ Recipe joined_rader(int prime, Recipe there, Recipe back);
 Recipe four_odd(Recipe odd_block);
 Recipe halves(Recipe even, Recipe odd);
 Recipe odd_of(Recipe block);
-Recipe odd_twist(Recipe block);
+Recipe twisted(Recipe block);
 Recipe bluestein(int prime, Recipe there, int carried, Recipe back, int computed);
 
-// Modifiers, each a copy of the recipe with one choice made.
-Recipe with_split_eighths(Recipe recipe);
-Recipe with_split_eighths(Recipe recipe, std::vector<std::pair<int, int>> exceptions);
+// Modifiers, each a copy of the recipe with one choice made. Throw std::bad_variant_access where
+// the method has no such choice.
+Recipe with_eighths_sum_first(Recipe recipe);
+Recipe with_eighths_sum_first(Recipe recipe, std::vector<std::pair<int, int>> classes_and_bins);
 Recipe with_places(Recipe recipe, std::vector<int> places);
 Recipe with_bins(Recipe recipe, std::vector<int> bins);
 Recipe with_first_apart(Recipe recipe);
@@ -101,13 +134,12 @@ Recipe folded_there(Recipe recipe);
 Recipe folded_back(Recipe recipe);
 Recipe with_zero_lanes(Recipe recipe, int count);
 Recipe with_mate(Recipe recipe, int bin);
-Recipe with_written_signs(Recipe recipe);
 
 /// 0, 1, .., then the negative ones: representatives of least magnitude.
 std::vector<int> symmetric(int count);
 
 /// The graph of the forward transform: inputs and outputs 0..length-1 in natural order. With
-/// `paired`, columns whose partner has a twiddle are given fillers.
+/// `paired`, columns whose partner has a twiddle are given plain copies.
 kernelgen::Graph expand(const Recipe& recipe, bool paired);
 
 }  // namespace haldgen::dft_complex

@@ -1,16 +1,16 @@
-// The design table of the complex DFT: one recipe per length and element type.
+// The design table of the complex DFT: one row for each length and element type.
 #pragma once
 
-#include "dft_complex/recipe.h"
+#include <vector>
+
+#include "dft_complex/design.h"
 
 namespace haldgen::dft_complex {
 
-enum class ElementType { c32, c64 };
+/// Throws std::out_of_range if there is no such kernel.
+const Design& design_of(int length, kernelgen::FloatType type);
 
-constexpr int kFirstLength = 2;
-constexpr int kLastLength = 64;
-
-/// The recipe of the forward kernel; lengths 2..64.
-const Recipe& recipe_of(int length, ElementType type);
+/// The lengths of the table.
+std::vector<int> lengths();
 
 }  // namespace haldgen::dft_complex

@@ -3,7 +3,7 @@
 // which position of the array each of them stands, and which positions hold no value.
 #pragma once
 
-#include "kernelgen/scalar.h"
+#include "lanes/scalar.h"
 
 namespace haldgen::dft_real {
 

@@ -2,7 +2,7 @@
 # tables.sh check|update NAME FILE TOOL
 # Tables in the documents are the output of programs. `update` writes the table NAME between its
 # markers in FILE, `check` fails and shows the difference if the table there is not what TOOL says.
-#   status    functions built so far, from haldgen-framegen
+#   functions how many functions each family has, from haldgen-framegen
 #   complex   algorithm and counts of each complex kernel, from haldgen-generate
 #   real      the same of the real kernels, both directions
 #   hartley   and of the Hartley kernels
@@ -14,31 +14,6 @@ action=$1 name=$2 file=$3 tool=$4
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 table=$scratch/table
-
-status_table() {
-  "$tool" list >"$scratch/list"
-  awk '
-    function add(pattern, title) { patterns[++count] = pattern; titles[count] = title }
-    BEGIN {
-      add("_CToC", "complex DFT, forward and inverse, lengths 2 to 64")
-      add("_RTo", "real DFT to CCS, Pack and Perm, lengths 2 to 64")
-      add("ToR", "inverse real DFT from the same formats")
-      add("Hartley", "Hartley transform, lengths 2 to 64")
-      add("WHT", "Walsh-Hadamard transform, orders 1 to 13")
-      add("DCT4", "DCT-IV of power-of-two lengths")
-      add("", "version record")
-    }
-    {
-      for (i = 1; $1 !~ patterns[i]; ++i) {}
-      ++all[i]; ++everything
-      if ($2 == "live") { ++live[i]; ++built }
-    }
-    END {
-      print "| family | functions live | of |\n|---|--:|--:|"
-      for (i = 1; i <= count; ++i) print "| " titles[i] " | " live[i] + 0 " | " all[i] " |"
-      print "| **all** | **" built "** | **" everything "** |"
-    }' "$scratch/list"
-}
 
 # counts_table FAMILY TYPE [CONVERSIONS OF TYPE]
 counts_table() {
@@ -82,7 +57,7 @@ hartley_table() {
 }
 
 case $name in
-  status) status_table >"$table" ;;
+  functions) "$tool" summary >"$table" ;;
   complex) complex_tables >"$table" ;;
   real) real_tables >"$table" ;;
   hartley) hartley_table >"$table" ;;

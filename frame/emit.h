@@ -1,4 +1,4 @@
-// What the frame generator writes from the table of families. Every text is the same, to the byte,
+// What the frame generator writes from the registry. Every text is the same, to the byte,
 // wherever and whenever it is written.
 #pragma once
 
@@ -12,10 +12,10 @@ std::string emit_header();
 /// Assembly: the table of entry slots and the forwarding entries.
 std::string emit_entries();
 
-/// Linker version script: the live names are global, everything else is local.
+/// Linker version script: the exported names are global, everything else is local.
 std::string emit_exports();
 
-/// C++ header: declarations of all live implementations, hidden.
+/// C++ header: declarations of all implementations, hidden.
 std::string emit_implementations();
 
 /// C++ source: the general entries.
@@ -25,7 +25,10 @@ std::string emit_general_entries();
 /// (linked_functions.h).
 std::string emit_linked_functions();
 
-/// All names in byte order, one a line, each with "live" or "not built yet".
+/// All names in byte order, one a line.
 std::string emit_list();
+
+/// A table of the families and the number of their functions, in Markdown.
+std::string emit_summary();
 
 }  // namespace haldgen::frame

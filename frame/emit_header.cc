@@ -5,10 +5,14 @@
 #include <stdexcept>
 
 #include "frame/emit.h"
-#include "frame/families.h"
+#include "registry/registry.h"
 
 namespace haldgen::frame {
 namespace {
+
+using names::Scaling;
+using names::Signature;
+using names::Word;
 
 constexpr std::string_view prologue =
     R"(/**
@@ -16,7 +20,8 @@ constexpr std::string_view prologue =
  * Small numeric transforms, one function for each transform, length and element type.
  *
  * There is no planning, no set-up and no hidden state: each function is a kernel of its own, made
- * for its length, which can be called as soon as the library is loaded.
+ * for its length, which can be called as soon as the library is loaded. The exception is the
+ * DCT-IV, whose state is set up first.
  *
  * What holds for every transform below, unless its family says otherwise:
  * - Arrays are the caller's. src is only read. Any alignment of an element's own float type will
@@ -28,7 +33,7 @@ constexpr std::string_view prologue =
  * - The same input gives the same bits on every call and on every machine.
  * - A failure is only returned as a status, and then dst is not written.
  *
- * This file is written from frame/families.cc by haldgen-framegen; do not edit it.
+ * This file is written by haldgen-framegen; do not edit it.
  */
 #ifndef HALDGEN_H
 #define HALDGEN_H
@@ -157,41 +162,30 @@ void emit_comment(std::ostream& out, std::initializer_list<std::string_view> par
   }
 }
 
-bool takes_state(Signature signature) {
-  return signature == Signature::plan_init || signature == Signature::plan_init_alloc ||
-         signature == Signature::plan_free || signature == Signature::planned_transform;
+bool takes_state(const Word& word) {
+  return word.signature == Signature::plan_init || word.signature == Signature::plan_init_alloc ||
+         word.signature == Signature::plan_free || word.signature == Signature::planned_transform;
 }
 
-bool any_live_state_function() {
-  return std::ranges::any_of(families(), [](const Family& family) {
-    return takes_state(family.signature) && !family.live.empty();
-  });
-}
-
-void emit_declaration(std::ostream& out, const Family& family, Element element, int size) {
-  out << declaration(family.signature, element, export_name(family, element, size)) << ";\n";
-}
-
-void emit_declarations(std::ostream& out, const Family& family) {
-  for (const Element element : distinct_elements(family)) {
-    if (!size_in_name(family)) {
-      emit_declaration(out, family, element, 0);
-      continue;
-    }
-    for (int size = family.sizes.first; size <= family.sizes.last; ++size) {
-      if (family.live.contains(size)) emit_declaration(out, family, element, size);
+void emit_declarations(std::ostream& out, const Word& word) {
+  for (const names::Element element : word.elements) {
+    const auto emit = [&](int size) {
+      out << declaration(word.signature, element, export_name(word, element, size)) << ";\n";
+    };
+    if (size_in_name(word)) {
+      for (const int size : word.sizes) emit(size);
+    } else {
+      emit(0);
     }
   }
 }
 
-void emit_family(std::ostream& out, const Family& family) {
-  if (family.result.empty()) {
-    throw std::logic_error("no documentation for " + std::string(family.title));
-  }
-  out << "\n/**\n * @name " << family.title << "\n *\n";
-  emit_comment(out, {family.definition, scaling_text(family.scaling), family.result});
+void emit_word(std::ostream& out, const Word& word) {
+  if (word.text.result.empty()) throw std::logic_error("no documentation for " + word.word);
+  out << "\n/**\n * @name " << word.text.title << "\n *\n";
+  emit_comment(out, {word.text.definition, scaling_text(word.usage.scaling), word.text.result});
   out << " * @{\n */\n";
-  emit_declarations(out, family);
+  emit_declarations(out, word);
   out << "/** @} */\n";
 }
 
@@ -200,10 +194,8 @@ void emit_family(std::ostream& out, const Family& family) {
 std::string emit_header() {
   std::ostringstream out;
   out << prologue;
-  if (any_live_state_function()) out << state_type;
-  for (const Family& family : families()) {
-    if (!family.live.empty()) emit_family(out, family);
-  }
+  if (std::ranges::any_of(registry::words(), takes_state)) out << state_type;
+  for (const Word& word : registry::words()) emit_word(out, word);
   out << epilogue;
   return out.str();
 }

@@ -1,23 +1,22 @@
 // Texts that the build compiles and links into the library.
+#include <algorithm>
 #include <sstream>
 
 #include "frame/emit.h"
-#include "frame/families.h"
+#include "registry/registry.h"
 
 namespace haldgen::frame {
 namespace {
 
-constexpr std::string_view generated_notice = "Written by haldgen-framegen from frame/families.cc.";
+using names::implementation_symbol;
+using names::Parameter;
+using names::Signature;
+using names::Word;
+using registry::Export;
 
-// Whether every size that a general entry accepts has its function.
-bool complete(const Family& general) {
-  for (int size = general.sizes.first; size <= general.sizes.last; ++size) {
-    if (!general.live.contains(size)) return false;
-  }
-  return true;
-}
+constexpr std::string_view generated_notice = "Written by haldgen-framegen.";
 
-Signature fixed_signature(const Family& general) {
+Signature fixed_signature(const Word& general) {
   return general.signature == Signature::sized_transform ? Signature::transform
                                                          : Signature::buffered_transform;
 }
@@ -28,27 +27,31 @@ std::string joined_names(const std::vector<Parameter>& list) {
   return text;
 }
 
-// The table is complete in the finished library; until then a size without a function has null.
+// A size between two that there are has null.
 void emit_general_entry(std::ostream& out, const Export& entry) {
-  const Family& family = *entry.family;
-  const Signature fixed = fixed_signature(family);
-  const std::string size = parameters(family.signature, entry.element)[2].name;
+  const Word& word = *entry.word;
+  const Signature fixed = fixed_signature(word);
+  const std::string size = parameters(word.signature, entry.element)[2].name;
   const std::string table = entry.name + "_by_size";
+  const int first = word.sizes.first();
+  bool holes = false;
 
   out << "\nnamespace {\n"
       << declaration(fixed, entry.element, "(*const " + table + "[])") << " = {\n";
-  for (int n = family.sizes.first; n <= family.sizes.last; ++n) {
-    const bool built = family.live.contains(n);
-    out << "    " << (built ? implementation_symbol(family, entry.element, n) : "nullptr") << ",\n";
+  for (int n = first; n <= word.sizes.last(); ++n) {
+    const bool has = word.sizes.contains(n);
+    holes = holes || !has;
+    out << "    "
+        << (has ? implementation_symbol(names::export_name(word.word, entry.element, n))
+                : "nullptr")
+        << ",\n";
   }
   out << "};\n}  // namespace\n\n"
-      << declaration(family.signature, entry.element, implementation_symbol(entry)) << " {\n"
-      << "  const std::uint32_t index = static_cast<std::uint32_t>(" << size << ") - "
-      << family.sizes.first << "u;\n"
+      << declaration(word.signature, entry.element, implementation_symbol(entry.name)) << " {\n"
+      << "  const std::uint32_t index = static_cast<std::uint32_t>(" << size << ") - " << first
+      << "u;\n"
       << "  if (index >= std::size(" << table << ")) return haldStatusSizeError;\n";
-  if (!complete(family)) {
-    out << "  if (" << table << "[index] == nullptr) return haldStatusSizeError;\n";
-  }
+  if (holes) out << "  if (" << table << "[index] == nullptr) return haldStatusSizeError;\n";
   out << "  return " << table << "[index](" << joined_names(parameters(fixed, entry.element))
       << ");\n}\n";
 }
@@ -56,7 +59,7 @@ void emit_general_entry(std::ostream& out, const Export& entry) {
 }  // namespace
 
 std::string emit_entries() {
-  const std::vector<Export> functions = live_exports();
+  const std::vector<Export>& functions = registry::exports();
   std::ostringstream out;
   out << "/* " << generated_notice << " */\n\n"
       << "/* The table of entry slots: one code pointer per exported function, in byte order of\n"
@@ -64,7 +67,7 @@ std::string emit_entries() {
       << "  .data\n  .balign 64\n  .type haldgen_entry_slots, @object\n"
       << "haldgen_entry_slots:\n";
   for (const Export& function : functions) {
-    const std::string symbol = implementation_symbol(function);
+    const std::string symbol = implementation_symbol(function.name);
     out << "  .hidden " << symbol << "\n  .quad " << symbol << "\n";
   }
   out << "  .size haldgen_entry_slots, . - haldgen_entry_slots\n\n"
@@ -82,7 +85,7 @@ std::string emit_entries() {
 
 std::string emit_exports() {
   std::string text = "# " + std::string(generated_notice) + "\n{\n  global:\n";
-  for (const Export& function : live_exports()) text += "    " + function.name + ";\n";
+  for (const Export& function : registry::exports()) text += "    " + function.name + ";\n";
   return text + "  local:\n    *;\n};\n";
 }
 
@@ -92,9 +95,9 @@ std::string emit_implementations() {
       << "// The implementations behind the exported functions, hidden inside the library.\n"
       << "#pragma once\n\n#include \"haldgen.h\"\n\n"
       << "#pragma GCC visibility push(hidden)\nextern \"C\" {\n\n";
-  for (const Export& function : live_exports()) {
-    out << declaration(function.family->signature, function.element,
-                       implementation_symbol(function))
+  for (const Export& function : registry::exports()) {
+    out << declaration(function.word->signature, function.element,
+                       implementation_symbol(function.name))
         << ";\n";
   }
   out << "\n}\n#pragma GCC visibility pop\n";
@@ -106,8 +109,8 @@ std::string emit_general_entries() {
   out << "// " << generated_notice << "\n"
       << "// General entries: the size, tested first and alone, selects the implementation.\n"
       << "#include <cstdint>\n#include <iterator>\n\n#include \"implementations.h\"\n";
-  for (const Export& function : live_exports()) {
-    if (is_general(*function.family)) emit_general_entry(out, function);
+  for (const Export& function : registry::exports()) {
+    if (is_general(*function.word)) emit_general_entry(out, function);
   }
   return out.str();
 }
@@ -119,7 +122,7 @@ std::string emit_linked_functions() {
       << "namespace haldgen::frame {\n\n"
       << "std::span<const LinkedFunction> linked_functions() {\n"
       << "  static const LinkedFunction all[] = {\n";
-  for (const Export& function : live_exports()) {
+  for (const Export& function : registry::exports()) {
     out << "      {\"" << function.name << "\", reinterpret_cast<void (*)()>(" << function.name
         << ")},\n";
   }
@@ -129,10 +132,24 @@ std::string emit_linked_functions() {
 
 std::string emit_list() {
   std::string text;
-  for (const Export& function : exports()) {
-    text += function.name + (function.live ? " live\n" : " not built yet\n");
+  for (const Export& function : registry::exports()) {
+    text += function.name + "\n";
   }
   return text;
+}
+
+std::string emit_summary() {
+  std::ostringstream out;
+  out << "| family | sizes | functions |\n|---|---|--:|\n";
+  for (const family::Family& family : registry::families()) {
+    const auto functions = std::ranges::count_if(registry::exports(), [&](const Export& e) {
+      return std::ranges::any_of(family.words,
+                                 [&](const Word& word) { return word.word == e.word->word; });
+    });
+    out << "| " << family.title << " | " << to_string(family.sizes) << " | " << functions << " |\n";
+  }
+  out << "| version record | | 1 |\n| **all** | | **" << registry::exports().size() << "** |\n";
+  return out.str();
 }
 
 }  // namespace haldgen::frame

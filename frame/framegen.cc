@@ -22,7 +22,8 @@ constexpr Output outputs[] = {
     {"implementations", haldgen::frame::emit_implementations, "hidden declarations, C++"},
     {"general_entries", haldgen::frame::emit_general_entries, "general entries, C++"},
     {"linked_functions", haldgen::frame::emit_linked_functions, "names and addresses, C++"},
-    {"list", haldgen::frame::emit_list, "all names, live or not built yet"},
+    {"list", haldgen::frame::emit_list, "all names"},
+    {"summary", haldgen::frame::emit_summary, "families and how many functions they have"},
 };
 
 int usage() {

@@ -2,40 +2,33 @@
 #include <exception>
 #include <fstream>
 #include <iostream>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "dft_complex/kernel.h"
-#include "dft_real/kernel.h"
-#include "generate/dct4.h"
-#include "hartley/kernel.h"
-#include "kernelgen/count.h"
 #include "kernelgen/dot.h"
+#include "registry/registry.h"
 
 namespace {
 
-namespace dft_complex = haldgen::dft_complex;
-namespace dft_real = haldgen::dft_real;
-namespace hartley = haldgen::hartley;
-namespace kernelgen = haldgen::kernelgen;
-using kernelgen::FloatType;
+using haldgen::family::Family;
+using haldgen::family::FloatType;
+using haldgen::family::Tuning;
+using haldgen::family::Work;
 
 constexpr std::string_view kUsage =
-    "usage: haldgen-generate counts\n"
-    "       haldgen-generate recipe|counts|graph|code FAMILY LENGTH TYPE\n"
-    "       haldgen-generate source FAMILY LENGTH TYPE FILE [ORDER:CAP:SEED]\n"
-    "       haldgen-generate counts dct4\n"
-    "       haldgen-generate counts|graph|code dct4 KERNEL 32f|64f\n"
-    "       haldgen-generate source dct4 KERNEL 32f|64f FILE [ORDER:CAP]\n"
-    "  counts   operation counts of all kernels, or of one, as a table\n"
+    "usage: haldgen-generate list\n"
+    "       haldgen-generate counts [FAMILY]\n"
+    "       haldgen-generate recipe|counts|graph|code FAMILY KERNEL TYPE\n"
+    "       haldgen-generate source FAMILY KERNEL TYPE FILE [ORDER:CAP:SEED]\n"
+    "  list     the families with their kernels and element types\n"
+    "  counts   operation counts of all transforms, of a family's kernels or of one, as a table\n"
     "  recipe   the factorisation of a kernel\n"
     "  graph    its statements for Graphviz\n"
     "  code     its C++ source, as source writes it to a file\n"
-    "  FAMILY   complex (TYPE 32fc or 64fc), real-forward, real-inverse or hartley (TYPE 32f or\n"
-    "           64f)\n"
+    "  KERNEL   a length, or the name of a part of planned transforms\n"
+    "  TYPE     32f or 64f; of complex elements 32fc or 64fc\n"
     "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
     "           SEED a number that varies the choice of forms of vector kernels\n";
 
@@ -43,161 +36,89 @@ struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// ORDER, ORDER:CAP or ORDER:CAP:SEED.
-struct Tuning {
-  kernelgen::Ordering ordering;
-  int seed = 0;
-};
+constexpr FloatType kTypes[] = {FloatType::f32, FloatType::f64};
 
-Tuning tuning(const std::string& text) {
-  std::istringstream parts(text);
-  std::string order, cap, seed;
-  std::getline(parts, order, ':');
-  std::getline(parts, cap, ':');
-  std::getline(parts, seed);
-  return {{kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap)},
-          seed.empty() ? 0 : std::stoi(seed)};
+std::string suffix(const Family& family, FloatType type) {
+  return std::string(
+      haldgen::names::suffix(family.words.front().elements[type == FloatType::f32 ? 0 : 1]));
 }
 
-/// What one kernel executes beside its scale; conversions between 32 and 64 bits are no arithmetic
-/// of the algorithm, but they take its place in a processor.
-struct Work {
-  int additions;
-  int multiplications;
-  int depth;
-  int conversions;
-};
-
-/// The kernels of one family, as the commands see them.
-struct Family {
-  std::string_view name;
-  int first_length;
-  int last_length;
-  std::string_view type_of(FloatType type) const {
-    return type == FloatType::f32 ? type32 : type64;
+/// Numbers of a family's kernels.
+std::vector<int> kernels_of(const Family& family) {
+  std::vector<int> numbers(family.sizes.begin(), family.sizes.end());
+  for (std::size_t i = 0; i < family.generated->kernels.size(); ++i) {
+    numbers.push_back(static_cast<int>(i));
   }
-  std::string_view type32;
-  std::string_view type64;
-  std::string (*recipe)(int, FloatType);
-  kernelgen::Graph (*graph)(int, FloatType);
-  Work (*work)(int, FloatType);
-  std::string (*source)(int, FloatType, const Tuning*);
-};
-
-dft_complex::ElementType complex_type(FloatType type) {
-  return type == FloatType::f32 ? dft_complex::ElementType::c32 : dft_complex::ElementType::c64;
+  return numbers;
 }
 
-constexpr Family kComplex{
-    "complex",
-    dft_complex::kFirstLength,
-    dft_complex::kLastLength,
-    "32fc",
-    "64fc",
-    [](int n, FloatType type) { return to_string(dft_complex::recipe_of(n, complex_type(type))); },
-    [](int n, FloatType type) { return dft_complex::kernel_graph(n, complex_type(type)); },
-    [](int n, FloatType type) {
-      const auto c = kernelgen::count(dft_complex::kernel_graph(n, complex_type(type)));
-      return Work{c.additions, c.multiplications, c.depth, 0};
-    },
-    [](int n, FloatType type, const Tuning* tuning) {
-      dft_complex::Tuning choice = dft_complex::tuning_of(n, complex_type(type));
-      if (tuning != nullptr) {
-        choice = {tuning->seed, tuning->ordering, tuning->ordering};
+std::string kernel_name(const Family& family, int number) {
+  const auto& names = family.generated->kernels;
+  return names.empty() ? std::to_string(number) : names[static_cast<std::size_t>(number)];
+}
+
+const Family& generated_family(const std::string& name) {
+  for (const Family& family : haldgen::registry::families()) {
+    if (family.name == name && family.generated) return family;
+  }
+  throw UsageError("no family of generated kernels: " + name);
+}
+
+int kernel_named(const Family& family, const std::string& name) {
+  for (const int number : kernels_of(family)) {
+    if (kernel_name(family, number) == name) return number;
+  }
+  throw UsageError("no kernel of the family " + family.name + ": " + name);
+}
+
+FloatType type_named(const Family& family, const std::string& name) {
+  for (const FloatType type : kTypes) {
+    if (suffix(family, type) == name) return type;
+  }
+  throw UsageError("no element type of the family " + family.name + ": " + name);
+}
+
+void print_list() {
+  for (const Family& family : haldgen::registry::families()) {
+    if (!family.generated) continue;
+    for (const int number : kernels_of(family)) {
+      for (const FloatType type : kTypes) {
+        std::cout << family.name << '\t' << kernel_name(family, number) << '\t'
+                  << suffix(family, type) << '\n';
       }
-      return dft_complex::kernel_source(n, complex_type(type), choice);
-    },
-};
-
-/// Counts do not depend on the order of instructions; this one costs nothing to make.
-constexpr kernelgen::Ordering kAnyOrder{kernelgen::Order::program, 0};
-
-Work work_of(const kernelgen::Program& program) {
-  const kernelgen::Tally t = kernelgen::tally(program);
-  return {t.in32.additions + t.in64.additions + t.in32.negations + t.in64.negations,
-          t.in32.products + t.in64.products, t.depth, t.widenings + t.narrowings};
-}
-
-template <dft_real::Direction Direction>
-constexpr Family real_family(std::string_view name) {
-  return {
-      name,
-      dft_real::kFirstLength,
-      dft_real::kLastLength,
-      "32f",
-      "64f",
-      [](int n, FloatType) { return to_string(dft_real::design_of(n, Direction).recipe); },
-      [](int n, FloatType) { return dft_real::kernel_graph(n, Direction); },
-      [](int n, FloatType type) {
-        return work_of(dft_real::kernel_program(n, Direction, type, kAnyOrder));
-      },
-      [](int n, FloatType type, const Tuning* tuning) {
-        const kernelgen::Ordering choice =
-            tuning != nullptr ? tuning->ordering : dft_real::tuning_of(n, Direction, type);
-        return dft_real::kernel_source(n, Direction, type, choice);
-      },
-  };
-}
-
-constexpr Family kHartley{
-    "hartley",
-    hartley::kFirstLength,
-    hartley::kLastLength,
-    "32f",
-    "64f",
-    [](int n, FloatType) {
-      const hartley::Design& design = hartley::design_of(n);
-      const bool paired = design.structure == hartley::Structure::paired;
-      return to_string(design.recipe) + (paired ? "" : ", transposed");
-    },
-    [](int n, FloatType) { return hartley::kernel_graph(n); },
-    [](int n, FloatType type) { return work_of(hartley::kernel_program(n, type, kAnyOrder)); },
-    [](int n, FloatType type, const Tuning* tuning) {
-      const kernelgen::Ordering choice =
-          tuning != nullptr ? tuning->ordering : hartley::tuning_of(n, type);
-      return hartley::kernel_source(n, type, choice);
-    },
-};
-
-constexpr Family kFamilies[] = {
-    kComplex,
-    real_family<dft_real::Direction::forward>("real-forward"),
-    real_family<dft_real::Direction::inverse>("real-inverse"),
-    kHartley,
-};
-
-const Family& family_named(std::string_view name) {
-  for (const Family& family : kFamilies) {
-    if (family.name == name) return family;
+    }
   }
-  throw UsageError("unknown family");
-}
-
-FloatType float_type(const Family& family, std::string_view text) {
-  for (const FloatType type : {FloatType::f32, FloatType::f64}) {
-    if (family.type_of(type) == text) return type;
-  }
-  throw UsageError("unknown element type");
 }
 
 void print_counts_head() { std::cout << "family\tlength\ttype\tadd\tmul\tdepth\tconvert\n"; }
 
-void print_counts(const Family& family, int length, FloatType type) {
-  const Work w = family.work(length, type);
-  std::cout << family.name << '\t' << length << '\t' << family.type_of(type) << '\t' << w.additions
-            << '\t' << w.multiplications << '\t' << w.depth << '\t' << w.conversions << '\n';
+void print_counts(const Family& family, const std::string& kernel, FloatType type,
+                  const Work& work) {
+  std::cout << family.name << '\t' << kernel << '\t' << suffix(family, type) << '\t'
+            << work.additions << '\t' << work.multiplications << '\t' << work.depth << '\t'
+            << work.conversions << '\n';
+}
+
+void print_family_counts(const Family& family) {
+  for (const int number : kernels_of(family)) {
+    for (const FloatType type : kTypes) {
+      print_counts(family, kernel_name(family, number), type, family.generated->work(number, type));
+    }
+  }
 }
 
 void print_all_counts() {
-  print_counts_head();
-  for (const Family& family : kFamilies) {
-    for (int length = family.first_length; length <= family.last_length; ++length) {
-      for (const FloatType type : {FloatType::f32, FloatType::f64}) {
-        print_counts(family, length, type);
+  for (const Family& family : haldgen::registry::families()) {
+    if (family.planned) {
+      for (const int length : family.planned->lengths) {
+        for (const FloatType type : kTypes) {
+          print_counts(family, std::to_string(length), type, family.planned->work(length));
+        }
       }
+    } else if (family.generated) {
+      print_family_counts(family);
     }
   }
-  haldgen::generate::print_dct4_transforms();
 }
 
 void write_file(const std::string& path, const std::string& text) {
@@ -207,33 +128,32 @@ void write_file(const std::string& path, const std::string& text) {
 }
 
 void run(const std::vector<std::string>& args) {
-  if (args.size() == 1 && args[0] == "counts") return print_all_counts();
-  if (args.size() >= 2 && args[1] == "dct4") {
-    if (haldgen::generate::run_dct4(args, write_file)) return;
-    throw UsageError("arguments");
+  if (args.empty()) throw UsageError("no command");
+  const std::string& command = args[0];
+  if (command == "list" && args.size() == 1) return print_list();
+  if (command == "counts" && args.size() <= 2) {
+    print_counts_head();
+    return args.size() == 1 ? print_all_counts() : print_family_counts(generated_family(args[1]));
   }
   if (args.size() < 4) throw UsageError("arguments");
-  const std::string& command = args[0];
-  const Family& family = family_named(args[1]);
-  const int length = std::stoi(args[2]);
-  const FloatType type = float_type(family, args[3]);
-  if (command == "source" && args.size() == 5) {
-    return write_file(args[4], family.source(length, type, nullptr));
-  }
-  if (command == "source" && args.size() == 6) {
-    const Tuning choice = tuning(args[5]);
-    return write_file(args[4], family.source(length, type, &choice));
+  const Family& family = generated_family(args[1]);
+  const int number = kernel_named(family, args[2]);
+  const FloatType type = type_named(family, args[3]);
+  if (command == "source" && (args.size() == 5 || args.size() == 6)) {
+    const Tuning tuning =
+        args.size() == 5 ? Tuning() : Tuning(haldgen::family::parse_choice(args[5]));
+    return write_file(args[4], print(family.generated->source(number, type, tuning)));
   }
   if (args.size() != 4) throw UsageError("arguments");
   if (command == "counts") {
     print_counts_head();
-    print_counts(family, length, type);
+    print_counts(family, args[2], type, family.generated->work(number, type));
   } else if (command == "recipe") {
-    std::cout << family.recipe(length, type) << '\n';
+    std::cout << family.generated->algorithm(number, type) << '\n';
   } else if (command == "graph") {
-    std::cout << kernelgen::to_dot(family.graph(length, type));
+    std::cout << haldgen::kernelgen::to_dot(family.generated->graph(number, type));
   } else if (command == "code") {
-    std::cout << family.source(length, type, nullptr);
+    std::cout << print(family.generated->source(number, type, Tuning()));
   } else {
     throw UsageError("unknown command");
   }

@@ -1,11 +1,9 @@
 // Rows of the design table.
 #include "hartley/recipes.h"
 
-#include <stdexcept>
-#include <string>
 #include <utility>
-#include <vector>
 
+#include "kernelgen/design_table.h"
 #include "real_blocks/pieces.h"
 
 namespace haldgen::hartley {
@@ -14,29 +12,20 @@ namespace {
 // The table is written in these words.
 using namespace real_blocks;          // NOLINT(google-build-using-namespace)
 using namespace real_blocks::pieces;  // NOLINT(google-build-using-namespace)
+using kernelgen::DesignTable;
 using kernelgen::Into;
 using kernelgen::WideSums;
 
-struct Row {
-  int length;
-  Design design;
-};
-
-Row paired(int length, Recipe recipe, Into fold = Into::spectral, WideSums wide_sums = {}) {
-  return {length, {Structure::paired, totalled_by_power(std::move(recipe)), fold, wide_sums}};
+Design paired(Recipe recipe, Into fold = Into::foldable, WideSums wide_sums = {}) {
+  return {totalled_by_power(std::move(recipe)), Structure::paired, fold, wide_sums};
 }
 
-Row transposed(int length, Recipe recipe, Into fold = Into::spectral, WideSums wide_sums = {}) {
-  return {length, {Structure::transposed, totalled_by_power(std::move(recipe)), fold, wide_sums}};
+Design transposed(Recipe recipe, Into fold = Into::foldable, WideSums wide_sums = {}) {
+  return {totalled_by_power(std::move(recipe)), Structure::paired_transposed, fold, wide_sums};
 }
 
-Row turned(Row row, std::vector<kernelgen::Way> differences) {
-  row.design.turned = std::move(differences);
-  return row;
-}
-
-std::vector<Row> rows() {
-  constexpr auto spectral = Into::spectral;
+DesignTable<Design> designs() {
+  constexpr auto spectral = Into::foldable;
   constexpr auto all = Into::all;
   constexpr auto none = Into::none;
   const Recipe eight = power_of_two(8);
@@ -55,88 +44,87 @@ std::vector<Row> rows() {
       rader(59, coprime(twenty_nine_two_first, two), twenty_nine_two_first,
             alternated(shifted(1, twenty_nine_two_first)));
   return {
-      paired(2, two),
-      paired(3, three),
-      paired(4, four),
-      paired(5, five),
-      turned(paired(6, coprime(three, two)), {{1, 1}}),
-      paired(7, seven),
-      turned(paired(8, eight), {{3, 1}}),
-      paired(9, nine),
-      paired(10, coprime(five, two)),
-      paired(11, direct(11)),
-      turned(transposed(12, coprime(four, three)),
-             {{3, 1, 0}, {3, 1, 1, 1}, {1, 1, 1}, {1, 0, 1, 1}}),
-      paired(13, thirteen),
-      paired(14, coprime(seven, two)),
-      transposed(15, coprime(five, three)),
-      paired(16, sixteen),
-      paired(17, seventeen),
-      transposed(18, coprime(nine, two)),
-      paired(19, nineteen_relabelled, all, {2, -2}),
-      transposed(20, coprime(four, five)),
-      paired(21, coprime(seven, three)),
-      paired(22, coprime(two, direct(11))),
-      paired(23, twenty_three_direct),
-      paired(24, coprime(three, eight)),
-      transposed(25, twenty_five),
-      paired(26, coprime(thirteen_from_behind, two), all),
-      transposed(27, twenty_seven, spectral, {1, -1}),
-      transposed(28, coprime(seven, four)),
-      paired(29, twenty_nine),
-      transposed(30, coprime(coprime(two, five), three)),
-      transposed(31, thirty_one_five_first, none, {4, -4}),
-      transposed(32, thirty_two_halves),
-      transposed(33, coprime(rader_eleven, three)),
-      transposed(34, coprime(two, seventeen)),
-      transposed(35, coprime(seven, five)),
-      transposed(36, coprime(nine, four)),
-      transposed(37, thirty_seven_twisted, spectral, {2, -2}),
-      paired(38, coprime(nineteen_relabelled, two), all, {4, -4}),
-      paired(39, coprime(thirteen_from_behind, three), all),
-      transposed(40, coprime(eight, five)),
-      paired(41, forty_one),
-      transposed(42, coprime(coprime(seven, three), two)),
-      transposed(43, rader(43, coprime(three, coprime(two, seven)), coprime(seven, three),
-                           alternated(coprime(seven, three)))),
-      transposed(44, coprime(rader_eleven, four)),
-      transposed(45, coprime(nine, five)),
-      transposed(46, coprime(two, twenty_three_direct)),
-      paired(47,
-             rader(47, coprime(twenty_three_nested, two), twenty_three_direct,
-                   alternated(shifted(1, twenty_three_direct))),
-             spectral, {19, -5}),
-      transposed(48, coprime(three, sixteen_decimated)),
-      paired(49, cooley_tukey(seven, seven)),
-      paired(50, coprime(twenty_five, two)),
-      transposed(51, coprime(seventeen, three)),
-      paired(52, coprime(thirteen_from_behind, four), all),
-      paired(53, fifty_three, spectral, {6, -6}),
-      transposed(54, coprime(two, twenty_seven), spectral, {6, -6}),
-      transposed(55, coprime(rader_eleven, five)),
-      transposed(56, coprime(seven, eight)),
-      paired(57, coprime(nineteen_relabelled, three), all, {6, -6}),
-      paired(58, coprime(two, twenty_nine)),
-      paired(59, fifty_nine_two_first, spectral, {18, -6}),
-      transposed(60, coprime(coprime(five, three), four)),
-      paired(61, sixty_one_five_first, all, {8, -8}),
-      transposed(62,
-                 coprime(two, rader(31, coprime(two, coprime(three, five)), coprime(five, three),
-                                    alternated(coprime(five, three)))),
-                 none, {18, -13}),
-      paired(63, coprime(seven, nine)),
-      transposed(64, sixty_four_halves),
+      {2, paired(two)},
+      {3, paired(three)},
+      {4, paired(four)},
+      {5, paired(five)},
+      {6, turned(paired(coprime(three, two)), {{1, 1}})},
+      {7, paired(seven)},
+      {8, turned(paired(eight), {{3, 1}})},
+      {9, paired(nine)},
+      {10, paired(coprime(five, two))},
+      {11, paired(direct(11))},
+      {12, turned(transposed(coprime(four, three)),
+                  {{3, 1, 0}, {3, 1, 1, 1}, {1, 1, 1}, {1, 0, 1, 1}})},
+      {13, paired(thirteen)},
+      {14, paired(coprime(seven, two))},
+      {15, transposed(coprime(five, three))},
+      {16, paired(sixteen)},
+      {17, paired(seventeen)},
+      {18, transposed(coprime(nine, two))},
+      {19, paired(nineteen_relabelled, all, {2, -2})},
+      {20, transposed(coprime(four, five))},
+      {21, paired(coprime(seven, three))},
+      {22, paired(coprime(two, direct(11)))},
+      {23, paired(twenty_three_direct)},
+      {24, paired(coprime(three, eight))},
+      {25, transposed(twenty_five)},
+      {26, paired(coprime(thirteen_from_behind, two), all)},
+      {27, transposed(twenty_seven, spectral, {1, -1})},
+      {28, transposed(coprime(seven, four))},
+      {29, paired(twenty_nine)},
+      {30, transposed(coprime(coprime(two, five), three))},
+      {31, transposed(thirty_one_five_first, none, {4, -4})},
+      {32, transposed(thirty_two_halves)},
+      {33, transposed(coprime(rader_eleven, three))},
+      {34, transposed(coprime(two, seventeen))},
+      {35, transposed(coprime(seven, five))},
+      {36, transposed(coprime(nine, four))},
+      {37, transposed(thirty_seven_twisted, spectral, {2, -2})},
+      {38, paired(coprime(nineteen_relabelled, two), all, {4, -4})},
+      {39, paired(coprime(thirteen_from_behind, three), all)},
+      {40, transposed(coprime(eight, five))},
+      {41, paired(forty_one)},
+      {42, transposed(coprime(coprime(seven, three), two))},
+      {43, transposed(rader(43, coprime(three, coprime(two, seven)), coprime(seven, three),
+                            alternated(coprime(seven, three))))},
+      {44, transposed(coprime(rader_eleven, four))},
+      {45, transposed(coprime(nine, five))},
+      {46, transposed(coprime(two, twenty_three_direct))},
+      {47, paired(rader(47, coprime(twenty_three_nested, two), twenty_three_direct,
+                        alternated(shifted(1, twenty_three_direct))),
+                  spectral, {19, -5})},
+      {48, transposed(coprime(three, sixteen_decimated))},
+      {49, paired(cooley_tukey(seven, seven))},
+      {50, paired(coprime(twenty_five, two))},
+      {51, transposed(coprime(seventeen, three))},
+      {52, paired(coprime(thirteen_from_behind, four), all)},
+      {53, paired(fifty_three, spectral, {6, -6})},
+      {54, transposed(coprime(two, twenty_seven), spectral, {6, -6})},
+      {55, transposed(coprime(rader_eleven, five))},
+      {56, transposed(coprime(seven, eight))},
+      {57, paired(coprime(nineteen_relabelled, three), all, {6, -6})},
+      {58, paired(coprime(two, twenty_nine))},
+      {59, paired(fifty_nine_two_first, spectral, {18, -6})},
+      {60, transposed(coprime(coprime(five, three), four))},
+      {61, paired(sixty_one_five_first, all, {8, -8})},
+      {62, transposed(coprime(two, rader(31, coprime(two, coprime(three, five)),
+                                         coprime(five, three), alternated(coprime(five, three)))),
+                      none, {18, -13})},
+      {63, paired(coprime(seven, nine))},
+      {64, transposed(sixty_four_halves)},
   };
+}
+
+const DesignTable<Design>& table() {
+  static const DesignTable<Design> rows = designs();
+  return rows;
 }
 
 }  // namespace
 
-const Design& design_of(int length) {
-  static const std::vector<Row> table = rows();
-  for (const Row& row : table) {
-    if (row.length == length) return row.design;
-  }
-  throw std::out_of_range("no Hartley transform of length " + std::to_string(length));
-}
+const Design& design_of(int length) { return kernelgen::row_of(table(), length); }
+
+std::vector<int> lengths() { return kernelgen::lengths_of(table()); }
 
 }  // namespace haldgen::hartley

@@ -1,36 +1,18 @@
-// The design table of the Hartley transform: for each length the factorisation of the real DFT that
-// it is made of, and how.
+// The design table of the Hartley transform: one row for each length.
 #pragma once
 
 #include <vector>
 
-#include "kernelgen/fold.h"
-#include "kernelgen/orient.h"
-#include "kernelgen/precision.h"
-#include "real_blocks/recipe.h"
+#include "real_blocks/design.h"
 
 namespace haldgen::hartley {
 
-inline constexpr int kFirstLength = 2;
-inline constexpr int kLastLength = 64;
+using real_blocks::Design;
 
-/// H[k] = Re X[k] - Im X[k] and H[N-k] = Re X[k] + Im X[k], X the DFT.
-enum class Structure {
-  paired,      ///< the graph of the half spectrum, then these pairs
-  transposed,  ///< that graph with its edges reversed, since the transform is symmetric: pairs
-               ///< first
-};
-
-struct Design {
-  Structure structure;
-  real_blocks::Recipe recipe;
-  /// Which constants of the half spectrum's graph meet.
-  kernelgen::Into fold = kernelgen::Into::spectral;
-  kernelgen::WideSums wide_sums = {};
-  /// Differences that the formulas write the other way round than they come about.
-  std::vector<kernelgen::Way> turned = {};
-};
-
+/// Throws std::out_of_range if there is no such kernel.
 const Design& design_of(int length);
+
+/// The lengths of the table.
+std::vector<int> lengths();
 
 }  // namespace haldgen::hartley

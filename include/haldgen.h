@@ -3,7 +3,8 @@
  * Small numeric transforms, one function for each transform, length and element type.
  *
  * There is no planning, no set-up and no hidden state: each function is a kernel of its own, made
- * for its length, which can be called as soon as the library is loaded.
+ * for its length, which can be called as soon as the library is loaded. The exception is the
+ * DCT-IV, whose state is set up first.
  *
  * What holds for every transform below, unless its family says otherwise:
  * - Arrays are the caller's. src is only read. Any alignment of an element's own float type will
@@ -15,7 +16,7 @@
  * - The same input gives the same bits on every call and on every machine.
  * - A failure is only returned as a status, and then dst is not written.
  *
- * This file is written from frame/families.cc by haldgen-framegen; do not edit it.
+ * This file is written by haldgen-framegen; do not edit it.
  */
 #ifndef HALDGEN_H
 #define HALDGEN_H
@@ -1461,8 +1462,8 @@ int32_t haldgDFTInv_PermToR_64f(const double* src, double* dst, int32_t length, 
  *
  *     H[k] = s * sum over n of x[n] * (cos(2*pi*k*n/N) + sin(2*pi*k*n/N)),   k, n = 0..N-1
  *
- * (R. V. L. Hartley, Proc. IRE 30 (1942)). Applied twice, it gives N times the input for s = 1. The
- * length N is the number in the name.
+ * (R. V. L. Hartley, Proc. IRE 30 (1942)). Applied twice, it gives N times the input for s = 1.
+ * The length N is the number in the name.
  *
  * @param src     N real elements x[0..N-1]; only read.
  * @param dst     N real elements H[0..N-1].

@@ -61,9 +61,7 @@ Tally tally(const Program& program) {
       default:
         arithmetic = 0;
     }
-    for (const int operand : {in.a, in.b}) {
-      if (operand >= 0) depth[i] = std::max(depth[i], depth[static_cast<std::size_t>(operand)]);
-    }
+    for (const int operand : operands(in)) depth[i] = std::max(depth[i], depth[at(operand)]);
     depth[i] += arithmetic;
     total.depth = std::max(total.depth, depth[i]);
   }

@@ -14,7 +14,7 @@ struct Counts {
   friend bool operator==(const Counts&, const Counts&) = default;
 };
 
-/// Fillers and the final scaling are left out.
+/// Plain copies and the final scaling are left out.
 Counts count(const Graph& graph);
 
 /// What a scalar program executes, by the precision of each operation. In programs on 64-bit

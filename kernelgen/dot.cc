@@ -15,12 +15,12 @@ std::string to_dot(const Graph& graph) {
     const Statement& s = graph.node(index);
     const std::string name = "n" + std::to_string(index);
     std::string label = name;
-    if (s.input >= 0) label = "x[" + std::to_string(s.input) + "]";
-    if (s.filler) label += " filler";
-    if (s.carried_zero) label = "0";
+    if (s.input) label = "x[" + std::to_string(*s.input) + "]";
+    if (is_plain_copy(s)) label += " copy";
+    if (!s.input && s.terms.empty()) label = "0";
     text += "  " + name + " [label=\"" + label + "\"];\n";
     for (const Term& t : s.terms) {
-      std::string factor = kTurn[t.turn];
+      std::string factor = kTurn[at(t.turn)];
       if (t.constant != kNoConstant) {
         factor += " " + literal(to_double(graph.constant(t.constant)), FloatType::f64);
       }
@@ -31,7 +31,7 @@ std::string to_dot(const Graph& graph) {
     const Value v = graph.outputs()[k];
     const std::string name = "y" + std::to_string(k);
     text += "  " + name + " [label=\"X[" + std::to_string(k) + "]\"];\n  n" +
-            std::to_string(v.node) + " -> " + name + " [label=\"" + kTurn[v.turn] + "\"];\n";
+            std::to_string(v.node) + " -> " + name + " [label=\"" + kTurn[at(v.turn)] + "\"];\n";
   }
   return text + "}\n";
 }

@@ -7,13 +7,15 @@
 #pragma once
 
 #include "kernelgen/graph.h"
+#include "kernelgen/integers.h"
 
 namespace haldgen::kernelgen {
 
 /// How a multiplication by an eighth root of unity is formed.
 enum class EighthRoot {
-  sum_first,     ///< sum and difference of the parts, then two multiplications
-  full_product,  ///< four multiplications, like any other twiddle
+  sum_first,       ///< sum and difference of the parts, then two multiplications
+  products_first,  ///< two multiplications, then sum and difference
+  full_product,    ///< four multiplications, like any other root
 };
 
 struct Whole {
@@ -30,11 +32,11 @@ struct Parts {
 inline Whole operator+(Whole a, Whole b) { return {a.graph, a.graph->add(a.value, b.value)}; }
 inline Whole operator-(Whole a) { return {a.graph, -a.value}; }
 inline Whole operator-(Whole a, Whole b) { return a + (-b); }
-inline Whole turned(Whole a, int turns) { return {a.graph, turned(a.value, turns)}; }
+inline Whole turned(Whole a, Turn turn) { return {a.graph, turned(a.value, turn)}; }
 /// The same of a sum that its block writes down turned, part by part: where the sum's terms cancel,
 /// it makes another zero. Formal parts keep the signs of the sum.
-inline Whole written_turned(Whole a, int turns) {
-  const Value v = turned(a.value, turns);
+inline Whole written_turned(Whole a, Turn turn) {
+  const Value v = turned(a.value, turn);
   a.graph->node(v.node).written = v.turn;
   return {a.graph, v};
 }
@@ -43,7 +45,7 @@ inline Whole add_zero(Whole a) { return {a.graph, a.graph->add_zero(a.value)}; }
 inline Whole zero_like(Whole a) { return {a.graph, {}}; }
 inline Whole carried_zero(Whole a) { return {a.graph, a.graph->carried_zero()}; }
 /// The general product: four multiplications and two additions.
-inline Whole full_product(WideComplex w, Whole a, bool keep_trivial) {
+inline Whole full_product(WideComplex w, Whole a, bool keep_trivial = false) {
   return {a.graph, a.graph->twiddle(w, a.value, keep_trivial)};
 }
 
@@ -54,19 +56,21 @@ inline Parts operator+(Parts a, Parts b) {
 }
 inline Parts operator-(Parts a) { return {a.graph, -a.re, -a.im}; }
 inline Parts operator-(Parts a, Parts b) { return a + (-b); }
-inline Parts turned(Parts a, int turns) {
-  switch (turns & 3) {
-    case 1:
+inline Parts conj(Parts a) { return {a.graph, a.re, -a.im}; }
+inline Parts turned(Parts a, Turn turn) {
+  switch (turn) {
+    case Turn::quarter:
       return {a.graph, -a.im, a.re};
-    case 2:
+    case Turn::half:
       return -a;
-    case 3:
+    case Turn::three_quarters:
       return {a.graph, a.im, -a.re};
-    default:
-      return a;
+    case Turn::none:
+      break;
   }
+  return a;
 }
-inline Parts written_turned(Parts a, int turns) { return turned(a, turns); }
+inline Parts written_turned(Parts a, Turn turn) { return turned(a, turn); }
 inline Parts operator*(Wide c, Parts a) {
   return {a.graph, a.graph->multiply(c, a.re), a.graph->multiply(c, a.im)};
 }
@@ -77,11 +81,12 @@ inline Parts zero_like(Parts a) { return {a.graph, {}, {}}; }
 inline Parts carried_zero(Parts a) {
   return {a.graph, a.graph->carried_zero(), a.graph->carried_zero()};
 }
-/// w * a on formal parts. `apart` keeps the two products of an eighth root from meeting.
+/// w * a on formal parts. Where the parts of w are of one magnitude, `apart` makes two products of
+/// each part of a all the same.
 inline Parts product(WideComplex w, Parts a, bool apart) {
   Graph& g = *a.graph;
   if (is_negligible(w.im)) return w.re * a;
-  if (is_negligible(w.re)) return w.im * turned(a, 1);
+  if (is_negligible(w.re)) return w.im * turned(a, Turn::quarter);
   const Value re_re = g.multiply(w.re, a.re);
   const Value im_im = g.multiply(w.im, a.im, apart);
   const Value re = g.subtract(re_re, im_im);
@@ -89,21 +94,30 @@ inline Parts product(WideComplex w, Parts a, bool apart) {
   const Value im_re = g.multiply(w.im, a.re, apart);
   return {a.graph, re, g.add(re_im, im_re)};
 }
-inline Parts full_product(WideComplex w, Parts a, bool /*keep_trivial*/) {
+inline Parts full_product(WideComplex w, Parts a, bool /*keep_trivial*/ = false) {
   return product(w, a, true);
 }
 
-/// exp(-2 pi i k / n) * a.
-template <class Element>
-Element twiddle(Element a, int n, int k, EighthRoot eighth, bool keep_trivial = false) {
-  k = ((k % n) + n) % n;
-  if (4 * k % n == 0 && !keep_trivial) return turned(a, -(4 * k / n));
-  if (8 * k % n == 0 && (8 * k / n) % 2 == 1 && eighth == EighthRoot::sum_first) {
+/// exp(-2 pi i k / n) * a. Powers of i are free, eighth roots are formed as `eighth` says, and
+/// `product` writes a general w * a.
+template <class Element, class Product>
+Element twiddle(Element a, int n, int k, EighthRoot eighth, const Product& product) {
+  k = modulo(k, n);
+  if (4 * k % n == 0) return turned(a, -quarters(4 * k / n));
+  if (8 * k % n == 0 && eighth != EighthRoot::full_product) {
     // (1 - i) / sqrt 2, turned as the exponent asks.
-    const Element quarter = turned(a, -((8 * k / n) / 2));
-    return sqrt(Wide(0.5)) * (quarter + turned(quarter, 3));
+    const Element quarter = turned(a, -quarters((8 * k / n) / 2));
+    const Wide c = sqrt(Wide(0.5));
+    if (eighth == EighthRoot::sum_first)
+      return c * (quarter + turned(quarter, Turn::three_quarters));
+    const Element products = c * quarter;
+    return products + turned(products, Turn::three_quarters);
   }
-  return full_product(root(n, k), a, keep_trivial);
+  return product(root(n, k), a);
+}
+template <class Element>
+Element twiddle(Element a, int n, int k, EighthRoot eighth) {
+  return twiddle(a, n, k, eighth, [](WideComplex w, Element b) { return full_product(w, b); });
 }
 
 }  // namespace haldgen::kernelgen

@@ -1,5 +1,6 @@
 #include "kernelgen/emit.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "kernelgen/wide.h"
@@ -22,7 +23,7 @@ class Printer {
       : program_(program), subscripts_(subscripts) {}
 
   std::string run() {
-    if (!scalar() && program_.memory == Memory::arrays) define_scales();
+    if (!scalar() && has_scales()) define_scales();
     if (scalar()) define_two();
     for (std::size_t i = 0; i < program_.code.size(); ++i) print(static_cast<int>(i));
     return std::move(text_);
@@ -30,6 +31,10 @@ class Printer {
 
  private:
   bool scalar() const { return program_.lanes == 1; }
+  bool has_scales() const {
+    return std::any_of(program_.code.begin(), program_.code.end(),
+                       [](const Instruction& in) { return in.op == Op::scale; });
+  }
   bool f32() const { return program_.type == FloatType::f32; }
 
   void line(const std::string& content) { text_ += "    " + content + "\n"; }
@@ -80,9 +85,12 @@ class Printer {
 
   void define(int index, const std::string& expression) {
     const Instruction& in = program_.code[static_cast<std::size_t>(index)];
-    const char* type = "V";
-    if (scalar()) type = f32() && !(in.wide && in.op != Op::narrow) ? "float" : "double";
-    line(std::string("const ") + type + " " + name(index) + " = " + expression + ";");
+    std::string type = "V";
+    if (scalar()) {
+      const bool in32 = f32() && !(in.wide && in.op != Op::narrow);
+      type = type_name(in32 ? FloatType::f32 : FloatType::f64);
+    }
+    line("const " + type + " " + name(index) + " = " + expression + ";");
   }
 
   std::string constants(const Instruction& in) const {
@@ -180,6 +188,10 @@ std::string literal(double value, FloatType type) {
   return shortest(value);
 }
 
+std::string vector_name(const Program& program) {
+  return "lanes::Vector<Float, " + std::to_string(program.lanes) + ">";
+}
+
 std::string type_name(FloatType type) { return type == FloatType::f32 ? "float" : "double"; }
 
 std::string suffix(FloatType type) { return type == FloatType::f32 ? "32f" : "64f"; }
@@ -199,8 +211,8 @@ std::string describe(const Tally& t, FloatType type) {
 std::string scale_members(int length, Divides divides, FloatType type) {
   const Wide n(length);
   const auto member = [&](const char* name, Wide factor) {
-    const double rounded = type == FloatType::f32 ? double{to_float(factor)} : to_double(factor);
-    return std::string("  static constexpr Float ") + name + " = " + literal(rounded, type) + ";\n";
+    return std::string("  static constexpr Float ") + name + " = " +
+           literal(rounded(factor, type), type) + ";\n";
   };
   const Wide by_length = Wide(1.0) / n;
   return member("kFwdByN", divides == Divides::inverse ? Wide(1.0) : by_length) +

@@ -10,7 +10,7 @@ namespace haldgen::kernelgen {
 
 /// Statements of a function body over `src`, `dst` (pointers to floats) and `scale`, one per
 /// instruction; programs over slots call `io` instead. Vector programs speak the vocabulary of
-/// lanes.h and touch memory through a type `Access`; scalar programs are plain expressions.
+/// lanes/vectors.h and touch memory through a type `Access`; scalar programs are plain expressions.
 ///
 /// Scalar programs may reach source or destination through a function of the address, such as
 /// `Format::at`: the name of that function, or nothing.
@@ -22,6 +22,9 @@ std::string emit_body(const Program& program, const Subscripts& subscripts = {})
 
 /// Whether memory is touched in a way that an aligned and an unaligned path do differently.
 bool has_whole_vector_access(const Program& program);
+
+/// The type of a program's vectors, where `Float` is its float type.
+std::string vector_name(const Program& program);
 
 /// "float" or "double".
 std::string type_name(FloatType type);

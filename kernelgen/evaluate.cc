@@ -7,7 +7,7 @@ std::vector<WideComplex> evaluate(const Graph& graph, std::span<const WideComple
   for (const int index : live_nodes(graph)) {
     const Statement& statement = graph.node(index);
     WideComplex sum;
-    if (statement.input >= 0) sum = inputs[static_cast<std::size_t>(statement.input)];
+    if (statement.input) sum = inputs[at(*statement.input)];
     for (const Term& t : statement.terms) {
       const WideComplex operand = turned(values[static_cast<std::size_t>(t.node)], t.turn);
       sum = sum + (t.constant == kNoConstant ? operand : graph.constant(t.constant) * operand);

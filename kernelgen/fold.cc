@@ -27,7 +27,7 @@ Graph fold_products(const Graph& graph, Into into) {
     if (!is_product(s)) return kZeroNode;
     const int inner = s.terms[0].node;
     const Statement& t = graph.node(inner);
-    const bool wanted = into == Into::all || (into == Into::spectral && t.spectral);
+    const bool wanted = into == Into::all || (into == Into::foldable && t.foldable);
     return wanted && is_sum_of_products(t) && uses.single(inner) ? inner : kZeroNode;
   };
   std::vector<char> absorbed(graph.nodes().size(), 0);
@@ -37,7 +37,7 @@ Graph fold_products(const Graph& graph, Into into) {
   for (const int node : live) {
     if (absorbed[static_cast<std::size_t>(node)]) continue;
     Constant factor{1.0, 1.0};
-    int turn = 0;
+    Turn turn = Turn::none;
     int source = node;
     for (int inner = taken(source); inner != kZeroNode; inner = taken(source)) {
       const Term& product = graph.node(source).terms[0];
@@ -53,46 +53,12 @@ Graph fold_products(const Graph& graph, Into into) {
     std::vector<Term> terms;
     for (const Term& t : graph.node(source).terms) {
       Term folded = rewrite.carried(t, factor);
-      folded.turn = (folded.turn + turn) & 3;
+      folded.turn += turn;
       terms.push_back(folded);
     }
     rewrite.rebuild(node, std::move(terms));
   }
   return rewrite.finish();
-}
-
-Graph fold_doublings(const Graph& graph) {
-  const Uses uses(graph);
-  const std::vector<int> live = live_nodes(graph);
-  const auto doubled = [&](int node) {
-    const Statement& s = graph.node(node);
-    if (!is_product(s) || is_doubling(graph, s)) return kZeroNode;
-    const int inner = s.terms[0].node;
-    const bool taken = is_doubling(graph, graph.node(inner)) && uses.single(inner);
-    return taken ? inner : kZeroNode;
-  };
-  std::vector<char> absorbed(graph.nodes().size(), 0);
-  for (const int node : live) absorbed[static_cast<std::size_t>(doubled(node))] = 1;
-
-  Rewrite rewrite(graph);
-  for (const int node : live) {
-    if (absorbed[static_cast<std::size_t>(node)]) continue;
-    const int inner = doubled(node);
-    if (inner == kZeroNode) {
-      rewrite.copy(node);
-      continue;
-    }
-    const Term& product = graph.node(node).terms[0];
-    Term folded = rewrite.carried(graph.node(inner).terms[0], {graph.constant(product.constant),
-                                                               graph.literal(product.constant)});
-    folded.turn = (folded.turn + product.turn) & 3;
-    rewrite.rebuild(node, {folded});
-  }
-  return rewrite.finish();
-}
-
-bool is_doubling(const Graph& graph, const Statement& statement) {
-  return is_product(statement) && graph.literal(statement.terms[0].constant) == 2.0;
 }
 
 }  // namespace haldgen::kernelgen

@@ -7,18 +7,12 @@ namespace haldgen::kernelgen {
 
 enum class Into {
   all,       ///< any statement of products
-  spectral,  ///< only products with the spectrum of a convolution
+  foldable,  ///< those that are marked so
   none,
 };
 
 /// c * (a*x + b*y), where nothing else uses the sum, becomes (c*a)*x + (c*b)*y. The literal of the
 /// product is the product of the literals.
 Graph fold_products(const Graph& graph, Into into);
-
-/// c * (2*x), where nothing else uses the doubled value, becomes (2*c)*x.
-Graph fold_doublings(const Graph& graph);
-
-/// Whether a statement is an exact doubling.
-bool is_doubling(const Graph& graph, const Statement& statement);
 
 }  // namespace haldgen::kernelgen

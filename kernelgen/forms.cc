@@ -9,22 +9,24 @@
 #include <stdexcept>
 #include <utility>
 
+#include "kernelgen/integers.h"
+
 namespace haldgen::kernelgen {
 namespace {
 
 constexpr int kForms = 8;
 constexpr int kLowerings = 5;
 
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 int index_of(Form f) { return f.exchanged * 4 + f.negated; }
 Form form_of(int index) { return {index >> 2, index & 3}; }
 
 /// The form in which i^turn v must be held so that the lanes of i^turn v have the given form.
-Form turned_operand(Form form, int turn) {
-  Form result{form.exchanged ^ (turn & 1), 0};
+Form turned_operand(Form form, Turn turn) {
+  Form result{form.exchanged ^ (exchanges_parts(turn) ? 1 : 0), 0};
   for (int lane = 0; lane < 2; ++lane) {
     const int part = lane ^ form.exchanged;
-    const bool sign = turn == 2 || (turn == 1 && part == 0) || (turn == 3 && part == 1);
+    const bool sign = turn == Turn::half || (turn == Turn::quarter && part == 0) ||
+                      (turn == Turn::three_quarters && part == 1);
     result.negated |= (((form.negated >> lane) & 1) ^ (sign ? 1 : 0)) << lane;
   }
   return result;
@@ -82,7 +84,7 @@ struct Tables {
         for (int l = 0; l < kLowerings; ++l) {
           PackedNode node;
           node.kind = PackedKind::sum;
-          node.turn = turn;
+          node.turn = quarters(turn);
           const Demand d = demand_of(node, {form_of(f), static_cast<Lowering>(l)});
           sum_a[at(turn)][at(f)][at(l)] = static_cast<std::uint8_t>(index_of(d.a));
           sum_b[at(turn)][at(f)][at(l)] = static_cast<std::uint8_t>(index_of(d.b));

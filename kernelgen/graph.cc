@@ -32,22 +32,23 @@ Value Graph::record(Value v) {
   return v;
 }
 
-Value Graph::intern_statement(Statement statement) {
+Value Graph::intern_statement(std::vector<Term> terms, bool apart) {
   // Equal up to a turn, and for a plain sum of two up to the order of its terms, is equal: the key
   // is the statement with its first term unturned, nodes of a pair ascending.
-  std::vector<Term> terms = statement.terms;
+  Statement statement;
+  statement.terms = terms;
   const bool plain_pair = terms.size() == 2 && terms[0].constant == kNoConstant &&
                           terms[1].constant == kNoConstant && terms[1].node != kZeroNode;
   if (plain_pair && terms[1].node < terms[0].node) std::swap(terms[0], terms[1]);
-  const int turn = terms.front().turn;
-  for (Term& t : terms) t.turn = (t.turn - turn) & 3;
-  const auto [it, fresh] = index_.try_emplace({std::move(terms), statement.filler, statement.apart},
-                                              Value{static_cast<int>(nodes_.size()), turn});
+  const Turn turn = terms.front().turn;
+  for (Term& t : terms) t.turn = t.turn - turn;
+  const auto [it, fresh] =
+      index_.try_emplace({std::move(terms), apart}, Value{static_cast<int>(nodes_.size()), turn});
   if (fresh) {
     statement.rank = static_cast<int>(nodes_.size());
     nodes_.push_back(std::move(statement));
   }
-  return {it->second.node, (turn - it->second.turn) & 3};
+  return {it->second.node, turn - it->second.turn};
 }
 
 Value Graph::input(int index) {
@@ -58,14 +59,12 @@ Value Graph::input(int index) {
     load.rank = static_cast<int>(nodes_.size());
     nodes_.push_back(load);
   }
-  return {it->second, 0};
+  return {it->second};
 }
 
 Value Graph::carried_zero() {
-  Statement zero;
-  zero.carried_zero = true;
-  nodes_.push_back(zero);
-  return {static_cast<int>(nodes_.size()) - 1, 0};
+  nodes_.emplace_back();
+  return {static_cast<int>(nodes_.size()) - 1};
 }
 
 Value Graph::statement(std::vector<Term> terms) {
@@ -76,32 +75,30 @@ Value Graph::statement(std::vector<Term> terms) {
   }
   // The turn of a complex statement moves outward, so that equal sums meet. A real statement keeps
   // the signs it was written with, unless all are minus.
-  int outer = terms[0].turn;
+  Turn outer = terms[0].turn;
   if (field_ == Field::real) {
     for (const Term& t : terms) {
-      if (t.turn != 2) outer = 0;
+      if (!is_minus(t)) outer = Turn::none;
     }
   }
-  for (Term& t : terms) t.turn = (t.turn - outer) & 3;
+  for (Term& t : terms) t.turn = t.turn - outer;
 
-  Statement result;
-  result.terms = std::move(terms);
-  return record(turned(intern_statement(std::move(result)), outer));
+  return record(turned(intern_statement(std::move(terms)), outer));
 }
 
 Value Graph::add(Value a, Value b) {
   if (!is_zero(a) && a.node == b.node) {
     if (a.turn == b.turn) return multiply(2.0, a);
-    if (((a.turn - b.turn) & 3) == 2) return record({});
+    if (a.turn - b.turn == Turn::half) return record({});
   }
   return statement({{a.turn, kNoConstant, a.node}, {b.turn, kNoConstant, b.node}});
 }
 
 Value Graph::add_zero(Value a) {
   if (is_zero(a)) return record({});
-  Statement padded;
-  padded.terms = {{0, kNoConstant, a.node}, {0, kNoConstant, kZeroNode}};
-  return record(turned(intern_statement(std::move(padded)), a.turn));
+  const Value sum =
+      intern_statement({{Turn::none, kNoConstant, a.node}, {Turn::none, kNoConstant, kZeroNode}});
+  return record(turned(sum, a.turn));
 }
 
 Value Graph::multiply(Wide constant, Value a, bool apart) {
@@ -112,14 +109,12 @@ Value Graph::multiply(Wide constant, Value a, bool apart) {
     if (inner.terms.size() == 1 && inner.terms[0].constant != kNoConstant) {
       const Term product = inner.terms[0];
       const Wide folded = constant * this->constant(product.constant);
-      return multiply(folded, {product.node, (product.turn + a.turn) & 3}, apart);
+      return multiply(folded, {product.node, product.turn + a.turn}, apart);
     }
   }
   if (is_negligible(constant - 1.0)) return record(a);
-  Statement product;
-  product.terms = {{0, intern(constant), a.node}};
-  product.apart = apart;
-  return record(turned(intern_statement(std::move(product)), a.turn));
+  const Value product = intern_statement({{Turn::none, intern(constant), a.node}}, apart);
+  return record(turned(product, a.turn));
 }
 
 Value Graph::twiddle(WideComplex w, Value a, bool keep_trivial) {
@@ -128,21 +123,18 @@ Value Graph::twiddle(WideComplex w, Value a, bool keep_trivial) {
   const bool imaginary = is_negligible(w.re);
   if (real || imaginary) {
     const Wide part = real ? w.re : w.im;
-    const Value along = real ? a : turned(a, 1);
+    const Value along = real ? a : turned(a, Turn::quarter);
     if (!keep_trivial) return multiply(part, along);
-    Statement filler;
-    filler.filler = true;
-    filler.terms = {{part.hi < 0 ? (along.turn + 2) & 3 : along.turn, kNoConstant, along.node}};
-    return record(intern_statement(std::move(filler)));
+    const Value signed_along = part.hi < 0 ? -along : along;
+    return record(intern_statement({{signed_along.turn, kNoConstant, along.node}}));
   }
   // The sign stays inside: however a twiddle is signed, its value is unturned, so that twiddles in
   // the lanes of one vector meet the same additions.
   const auto product = [this](Wide part, Value operand) {
-    return Term{(operand.turn + (part.hi < 0 ? 2 : 0)) & 3, intern(abs(part)), operand.node};
+    if (part.hi < 0) operand = -operand;
+    return Term{operand.turn, intern(abs(part)), operand.node};
   };
-  Statement rotation;
-  rotation.terms = {product(w.re, a), product(w.im, turned(a, 1))};
-  return record(intern_statement(std::move(rotation)));
+  return record(intern_statement({product(w.re, a), product(w.im, turned(a, Turn::quarter))}));
 }
 
 void Graph::enter_column(int index, int count) {

@@ -1,9 +1,9 @@
 // The statement graph: what every kernel is before it is code.
 //
 // A node is an input or a statement, an ordered sum of terms. A term is an operand, optionally
-// multiplied by a real constant, and turned by a power of i. In a real graph the only turns are 0
-// and 2 (plus and minus). In a complex graph a node stands for a whole complex value, so one
-// statement is two real ones, and the turns 1 and 3 are exchanges of the parts with a change of
+// multiplied by a real constant, and turned by a power of i. In a real graph the only turns are
+// none and half (plus and minus). In a complex graph a node stands for a whole complex value, so
+// one statement is two real ones, and the other turns are exchanges of the parts with a change of
 // sign. Turns cost nothing: they travel with references (`Value`) until an instruction absorbs
 // them.
 //
@@ -12,8 +12,9 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <span>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "kernelgen/wide.h"
@@ -23,7 +24,7 @@ namespace haldgen::kernelgen {
 /// A reference to a node, times a power of i. Node 0 is the number zero.
 struct Value {
   int node = 0;
-  int turn = 0;
+  Turn turn = Turn::none;
 
   friend bool operator==(Value, Value) = default;
 };
@@ -31,8 +32,8 @@ struct Value {
 constexpr int kZeroNode = 0;
 
 inline bool is_zero(Value v) { return v.node == kZeroNode; }
-inline Value turned(Value v, int turns) { return {v.node, (v.turn + turns) & 3}; }
-inline Value operator-(Value v) { return turned(v, 2); }
+inline Value turned(Value v, Turn turn) { return {v.node, v.turn + turn}; }
+inline Value operator-(Value v) { return turned(v, Turn::half); }
 
 /// Index into the constants of a graph; 0 means "no constant".
 using ConstantId = int;
@@ -44,38 +45,40 @@ struct Constant {
 };
 
 struct Term {
-  int turn = 0;
+  Turn turn = Turn::none;
   ConstantId constant = kNoConstant;
   int node = 0;
 
   friend auto operator<=>(const Term&, const Term&) = default;
 };
 
+inline bool is_minus(const Term& t) { return t.turn == Turn::half; }
+
 enum class Field { real, complex };
 
 /// Where a statement is computed: in the element's own type, or in 64 bits and then narrowed once.
 enum class Precision { element, wide };
 
+/// An input, or an ordered sum of terms. A sum of none is a zero that is data. A sum of one term
+/// without a constant is at most a turn, yet it is executed: it keeps a lane busy beside one that
+/// multiplies, and counts for no operation.
 struct Statement {
   std::vector<Term> terms;
-  int input = -1;             ///< index of the input, or -1 for a computed statement
-  bool carried_zero = false;  ///< neither input nor sum: a zero that is treated as data
-  /// A product by 1 or 0 that only keeps a lane busy beside a lane with a real twiddle. It is
-  /// executed, but it is no work of the algorithm and is not counted.
-  bool filler = false;
-  /// Kept apart from an equal product: the two products of a full multiplication by an eighth root
-  /// have constants of one magnitude and are two all the same.
-  bool apart = false;
-  /// A product with the spectrum of a convolution, see `fold_products`.
-  bool spectral = false;
+  std::optional<int> input = {};  ///< its index
+  /// Whoever made the statement lets its constants take up another, see `fold_products`.
+  bool foldable = false;
   Precision precision = Precision::element;
   /// The power of i with which a sum is written down: where its terms cancel, the sign of the zero
   /// is that of i^written times this statement. See `written_turned`.
-  int written = 0;
+  Turn written = Turn::none;
   /// Where the node stood when its block was written: the order in which a transposed statement
   /// takes its terms, so that a block transposed twice reads as it did before.
   int rank = 0;
 };
+
+inline bool is_plain_copy(const Statement& s) {
+  return s.terms.size() == 1 && s.terms[0].constant == kNoConstant;
+}
 
 /// One column of a fan of equal blocks. Nodes are recorded per column in the order of their calls,
 /// so that columns can be laid side by side in the lanes of a vector.
@@ -103,9 +106,11 @@ class Graph {
   Value subtract(Value a, Value b) { return add(a, -b); }
   /// a + 0, executed: the addition that a vector instruction makes in a lane that holds zero.
   Value add_zero(Value a);
+  /// A product that is kept `apart` is shared only with others that are.
   Value multiply(Wide constant, Value a, bool apart = false);
   /// w * a as one statement of two products. Powers of i are free unless `keep_trivial`, which
-  /// makes them fillers. The products belong to the statement: none is shared with another.
+  /// makes statements of them, plain copies. The products belong to the statement: none is shared
+  /// with another.
   Value twiddle(WideComplex w, Value a, bool keep_trivial = false);
   /// The general statement. Terms of zero operands vanish.
   Value statement(std::vector<Term> terms);
@@ -141,14 +146,14 @@ class Graph {
 
  private:
   Value record(Value v);
-  Value intern_statement(Statement statement);
+  Value intern_statement(std::vector<Term> terms, bool apart = false);
 
   Field field_;
   bool folding_ = false;
   std::vector<Statement> nodes_;
   std::vector<Constant> constants_;
   std::multimap<double, ConstantId> constant_index_;
-  std::map<std::tuple<std::vector<Term>, bool, bool>, Value> index_;  ///< node and its key's turn
+  std::map<std::pair<std::vector<Term>, bool>, Value> index_;  ///< node and its key's turn
   std::map<int, int> inputs_;
   std::vector<Value> outputs_;
   std::vector<Value> kept_;

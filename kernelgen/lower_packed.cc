@@ -1,12 +1,11 @@
 #include <algorithm>
 #include <map>
 
+#include "kernelgen/integers.h"
 #include "kernelgen/lower.h"
 
 namespace haldgen::kernelgen {
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 class PackedLowering {
  public:
@@ -62,17 +61,12 @@ class PackedLowering {
     program_.code.push_back(instruction);
     return static_cast<int>(program_.code.size()) - 1;
   }
-  int emit(Op op, int a, int b = -1) {
+  int emit(Op op, int a, int b = kNoOperand) {
     Instruction instruction;
     instruction.op = op;
     instruction.a = a;
     instruction.b = b;
     return emit(instruction);
-  }
-
-  /// The number that a constant becomes in the element type.
-  double rounded(Wide value) const {
-    return program_.type == FloatType::f32 ? double{to_float(value)} : to_double(value);
   }
 
   int sign_change(int from, int negated) {
@@ -140,7 +134,7 @@ class PackedLowering {
         return load(n);
       case PackedKind::zero:
       case PackedKind::store:
-        return emit(Op::zero, -1);
+        return emit(Op::zero, kNoOperand);
       case PackedKind::sum: {
         const int a = held(n.a, d.a);
         const int b = held(n.b, d.b);
@@ -204,7 +198,8 @@ class PackedLowering {
     instruction.a = operand;
     for (int h = 0; h < graph_.halves; ++h) {
       for (int lane = 0; lane < 2; ++lane) {
-        instruction.constant[at(2 * h + lane)] = rounded(constant_of(lane, n.factor[at(h)]));
+        instruction.constant[at(2 * h + lane)] =
+            rounded(constant_of(lane, n.factor[at(h)]), program_.type);
       }
     }
     return emit(instruction);
@@ -213,17 +208,21 @@ class PackedLowering {
   // Neighbours that an aligned array of pairs holds in one aligned vector.
   bool whole_vector(const PackedNode& n) const {
     if (graph_.halves == 1) return true;
-    return graph_.access != Access::singles && n.element[0] >= 0 && n.element[0] % 2 == 0 &&
-           n.element[1] == n.element[0] + 1;
+    return graph_.access != Access::singles && n.element[0] && *n.element[0] % 2 == 0 &&
+           n.element[1] == *n.element[0] + 1;
+  }
+
+  static std::array<int, 2> addresses(const PackedNode& n) {
+    return {2 * n.element[0].value_or(0), 2 * n.element[1].value_or(0)};
   }
 
   int load(const PackedNode& n) {
     Instruction instruction;
-    instruction.address = {2 * n.element[0], 2 * n.element[1]};
+    instruction.address = addresses(n);
     if (whole_vector(n)) {
       instruction.op = Op::load;
     } else {
-      instruction.op = n.element[1] < 0 ? Op::load_single : Op::load_pair;
+      instruction.op = n.element[1] ? Op::load_pair : Op::load_single;
     }
     return emit(instruction);
   }
@@ -243,16 +242,16 @@ class PackedLowering {
     Instruction instruction;
     instruction.a =
         scale(held(n.a, demand_of(n, choice(node)).a), static_cast<int>(choice(node).lowering));
-    instruction.address = {2 * n.element[0], 2 * n.element[1]};
+    instruction.address = addresses(n);
     if (whole_vector(n)) {
       instruction.op = Op::store;
-    } else if (n.element[0] >= 0 && n.element[1] >= 0) {
+    } else if (n.element[0] && n.element[1]) {
       instruction.op = Op::store_pair;
-    } else if (n.element[0] >= 0) {
+    } else if (n.element[0]) {
       instruction.op = Op::store_single;
     } else {
       instruction.op = Op::store_upper;
-      instruction.address[0] = 2 * n.element[1];
+      instruction.address[0] = instruction.address[1];
     }
     emit(instruction);
   }

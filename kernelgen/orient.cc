@@ -1,16 +1,13 @@
 #include "kernelgen/orient.h"
 
 #include <algorithm>
-#include <stdexcept>
+#include <string>
 
+#include "kernelgen/integers.h"
 #include "kernelgen/rewrite.h"
 
 namespace haldgen::kernelgen {
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
-
-bool is_minus(const Term& t) { return t.turn == 2; }
 
 bool is_difference(const Statement& s) {
   return std::any_of(s.terms.begin(), s.terms.end(), is_minus) &&
@@ -27,8 +24,8 @@ Graph turned_around(const Graph& graph, const std::vector<int>& differences) {
     }
     std::vector<Term> terms;
     for (const Term& t : graph.node(node).terms) terms.push_back(rewrite.carried(t));
-    for (Term& t : terms) t.turn = (t.turn + 2) & 3;
-    rewrite.rebuild(node, std::move(terms), 2);
+    for (Term& t : terms) t.turn += Turn::half;
+    rewrite.rebuild(node, std::move(terms), Turn::half);
   }
   return rewrite.finish();
 }
@@ -36,7 +33,7 @@ Graph turned_around(const Graph& graph, const std::vector<int>& differences) {
 /// The first output with the wrong sign, or -1.
 int wrong_output(const Graph& graph, const std::vector<bool>& negated) {
   for (std::size_t k = 0; k < graph.outputs().size(); ++k) {
-    if ((graph.outputs()[k].turn == 2) != negated[k]) return static_cast<int>(k);
+    if ((graph.outputs()[k].turn == Turn::half) != negated[k]) return static_cast<int>(k);
   }
   return -1;
 }
@@ -73,16 +70,24 @@ Graph signed_outputs(const Graph& graph, const std::vector<bool>& negated) {
     if (inner == s.terms.end()) break;
     result = turned_around(result, {inner->node});
   }
-  throw std::logic_error("an output cannot be brought to its sign");
+  const int wrong = wrong_output(result, negated);
+  throw UnreachableSign(wrong, negated[at(wrong)]);
 }
 
 }  // namespace
+
+UnreachableSign::UnreachableSign(int which, bool minus)
+    : std::logic_error("output " + std::to_string(which) + " cannot carry a " +
+                       (minus ? "minus" : "plus") +
+                       ": no difference behind it can be turned around"),
+      output(which) {}
 
 Graph turn_differences(const Graph& graph, const std::vector<bool>& negated) {
   std::vector<int> behind;
   for (std::size_t k = 0; k < negated.size(); ++k) {
     const Value v = graph.outputs()[k];
-    if ((v.turn == 2) != negated[k] && is_difference(graph.node(v.node))) behind.push_back(v.node);
+    if ((v.turn == Turn::half) != negated[k] && is_difference(graph.node(v.node)))
+      behind.push_back(v.node);
   }
   return turned_around(graph, behind);
 }

@@ -1,36 +1,36 @@
 #include "kernelgen/packed.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <map>
 #include <stdexcept>
+
+#include "kernelgen/integers.h"
 
 namespace haldgen::kernelgen {
 namespace {
 
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
-
 /// What a statement does, apart from its operands and constants.
 struct Shape {
   PackedKind kind;
-  int turn = 0;
+  Turn turn = Turn::none;
 
   friend bool operator==(const Shape&, const Shape&) = default;
 };
 
 Shape shape_of(const Statement& s) {
-  if (s.input >= 0) return {PackedKind::load};
-  if (s.carried_zero) return {PackedKind::zero};
-  if (s.filler) return {PackedKind::rotate};
+  if (s.input) return {PackedKind::load};
+  if (s.terms.empty()) return {PackedKind::zero};
+  if (is_plain_copy(s)) return {PackedKind::rotate};
   if (s.terms.size() == 1) return {PackedKind::scale};
   const Term& first = s.terms[0];
   const Term& second = s.terms[1];
   if (s.terms.size() == 2) {
-    if (first.turn == 0 && first.constant == kNoConstant && second.constant == kNoConstant) {
+    if (first.turn == Turn::none && first.constant == kNoConstant &&
+        second.constant == kNoConstant) {
       return {PackedKind::sum, second.turn};
     }
     if (first.constant != kNoConstant && second.constant != kNoConstant &&
-        first.node == second.node && (first.turn + second.turn) % 2 == 1) {
+        first.node == second.node && exchanges_parts(first.turn + second.turn)) {
       return {PackedKind::rotate};
     }
   }
@@ -58,12 +58,13 @@ class Packer {
     users_.resize(graph.nodes().size());
     for (const int node : live_nodes(graph)) {
       live_[at(node)] = 1;
-      const int input = graph.node(node).input;
-      inputs_ = std::max(inputs_, input + 1);
-      if (input >= 0) input_nodes_.emplace(input, node);
+      if (const auto input = graph.node(node).input) {
+        inputs_ = std::max(inputs_, *input + 1);
+        input_nodes_.emplace(*input, node);
+      }
       for (const Term& t : graph.node(node).terms) users_[at(t.node)].push_back(node);
     }
-    partner_.assign(graph.nodes().size(), 0);
+    partner_.resize(graph.nodes().size());
     if (halves == 2) {
       pair_fans(graph.columns()[0]);
       for (int missing = 0; missing < leftovers; ++missing) pair_leftovers(missing);
@@ -77,6 +78,9 @@ class Packer {
   }
 
  private:
+  /// What the halves of a vector hold: nodes, or elements. An idle one holds nothing.
+  using Halves = std::array<std::optional<int>, 2>;
+
   /// Where a node lives.
   struct Seat {
     int vector = -1;
@@ -110,15 +114,15 @@ class Packer {
   }
 
   bool unpaired(int node) const {
-    return node != kZeroNode && live_[at(node)] && partner_[at(node)] == 0 &&
+    return node != kZeroNode && live_[at(node)] && partner_[at(node)].node == kZeroNode &&
            !graph_.node(node).terms.empty();
   }
 
   void pair_nodes(int a, int b) {
     if (a == b || !unpaired(a) || !unpaired(b)) return;
     if (shape_of(graph_.node(a)) != shape_of(graph_.node(b)) || entangled(a, b)) return;
-    partner_[at(a)] = b;
-    partner_[at(b)] = -a;  // second half
+    partner_[at(a)] = {b, 0};
+    partner_[at(b)] = {a, 1};
   }
 
   /// Whether one vector of both nodes would need itself, by way of other vectors.
@@ -141,7 +145,7 @@ class Packer {
       stack.pop_back();
       if (node == a || node == b) return true;
       visit_operands(node);
-      if (const int mate = partner_[at(node)]; mate != 0) visit(std::abs(mate));
+      if (const int mate = partner_[at(node)].node; mate != kZeroNode) visit(mate);
     }
     return false;
   }
@@ -155,13 +159,11 @@ class Packer {
     friend bool operator==(const Neighbor&, const Neighbor&) = default;
   };
   Neighbor neighbor(int node) const {
-    const int input = graph_.node(node).input;
-    if (input >= 0) {
-      const auto beside = input_nodes_.find(input ^ 1);
-      return beside == input_nodes_.end() ? Neighbor{} : Neighbor{beside->second, input % 2};
+    if (const auto input = graph_.node(node).input) {
+      const auto beside = input_nodes_.find(*input ^ 1);
+      return beside == input_nodes_.end() ? Neighbor{} : Neighbor{beside->second, *input % 2};
     }
-    const int mate = partner_[at(node)];
-    return {std::abs(mate), mate < 0 ? 1 : 0};
+    return partner_[at(node)];
   }
 
   /// How many operands of a and b stand side by side in the given order.
@@ -212,43 +214,41 @@ class Packer {
 
   void place(int node) {
     const Statement& statement = graph_.node(node);
-    if (statement.input >= 0 || seats_.count(node) != 0) return;
-    const int mate = partner_[at(node)];
-    if (mate < 0) return;  // placed with its first half
-    if (mate == 0) {
-      const std::array<int, 2> lanes{node, -1};
-      seats_[node] = {make(lanes), 0};
+    if (statement.input || seats_.count(node) != 0) return;
+    const Neighbor mate = partner_[at(node)];
+    if (mate.half == 1) return;  // placed with its first half
+    if (mate.node == kZeroNode) {
+      seats_[node] = {make({node, {}}), 0};
     } else {
-      for (const Term& t : graph_.node(mate).terms) require(t.node);
-      const std::array<int, 2> lanes{node, mate};
-      const int vector = make(lanes);
+      for (const Term& t : graph_.node(mate.node).terms) require(t.node);
+      const int vector = make({node, mate.node});
       seats_[node] = {vector, 0};
-      seats_[mate] = {vector, 1};
+      seats_[mate.node] = {vector, 1};
     }
   }
 
   /// Places an operand that comes later in the order of definition than its use's first half.
   void require(int node) {
-    if (node == kZeroNode || graph_.node(node).input >= 0 || seats_.count(node) != 0) return;
-    const int mate = partner_[at(node)];
-    const int first = mate < 0 ? -mate : node;
+    if (node == kZeroNode || graph_.node(node).input || seats_.count(node) != 0) return;
+    const Neighbor mate = partner_[at(node)];
+    const int first = mate.half == 1 ? mate.node : node;
     for (const Term& t : graph_.node(first).terms) require(t.node);
     place(first);
   }
 
-  int make(const std::array<int, 2>& lanes) {
-    const Statement& first = graph_.node(lanes[0]);
+  int make(const Halves& lanes) {
+    const Statement& first = graph_.node(*lanes[0]);
     const Shape shape = shape_of(first);
     PackedNode node;
     node.kind = shape.kind;
     node.turn = shape.turn;
     for (std::size_t h = 0; h < 2; ++h) {
-      node.written[h] = graph_.node(lanes[h] >= 0 ? lanes[h] : lanes[0]).written;
+      node.written[h] = graph_.node(lanes[h] ? *lanes[h] : *lanes[0]).written;
     }
     const auto operand = [&](std::size_t term) {
-      std::array<int, 2> nodes{-1, -1};
+      Halves nodes;
       for (std::size_t h = 0; h < 2; ++h) {
-        if (lanes[h] >= 0) nodes[h] = graph_.node(lanes[h]).terms[term].node;
+        if (lanes[h]) nodes[h] = graph_.node(*lanes[h]).terms[term].node;
       }
       return vector_of(nodes);
     };
@@ -258,45 +258,44 @@ class Packer {
     } else if (shape.kind != PackedKind::zero) {
       node.a = operand(0);
       for (std::size_t h = 0; h < 2; ++h) {
-        node.factor[h] = factor_of(graph_, graph_.node(lanes[h] >= 0 ? lanes[h] : lanes[0]));
+        node.factor[h] = factor_of(graph_, graph_.node(lanes[h].value_or(*lanes[0])));
       }
     }
     return emit(node);
   }
 
   /// The vector that holds these nodes in its halves.
-  int vector_of(const std::array<int, 2>& nodes) {
+  int vector_of(const Halves& nodes) {
     if (const auto found = vectors_.find(nodes); found != vectors_.end()) return found->second;
     const int vector = assemble(nodes);
     vectors_.emplace(nodes, vector);
     return vector;
   }
 
-  int assemble(const std::array<int, 2>& nodes) {
-    const auto input = [&](int node) { return node < 0 ? -1 : graph_.node(node).input; };
-    if (nodes[0] == kZeroNode && nodes[1] <= kZeroNode) return emit({});
-    const bool loads = input(nodes[0]) >= 0 && (nodes[1] < 0 || input(nodes[1]) >= 0);
-    if (loads) {
-      const int first = input(nodes[0]);
-      const int second = input(nodes[1]);
-      if (whole_pairs_ && second >= 0 && !(first % 2 == 0 && second == first + 1)) {
-        const Seat lower = seat_of_input(first);  // in this order: calls evaluate in none
-        const Seat upper = seat_of_input(second);
+  int assemble(const Halves& nodes) {
+    if (nodes[0] == kZeroNode && nodes[1].value_or(kZeroNode) == kZeroNode) return emit({});
+    const std::optional<int> lower_input = graph_.node(*nodes[0]).input;
+    const std::optional<int> upper_input = nodes[1] ? graph_.node(*nodes[1]).input : std::nullopt;
+    if (lower_input && (!nodes[1] || upper_input)) {
+      const bool neighbours = *lower_input % 2 == 0 && upper_input == *lower_input + 1;
+      if (whole_pairs_ && upper_input && !neighbours) {
+        const Seat lower = seat_of_input(*lower_input);  // in this order: calls evaluate in none
+        const Seat upper = seat_of_input(*upper_input);
         return gather(lower, upper);
       }
-      return load(first, second);
+      return load(*lower_input, upper_input);
     }
-    const Seat first = seat_of(nodes[0]);
-    if (nodes[1] < 0) {
+    const Seat first = seat_of(*nodes[0]);
+    if (!nodes[1]) {
       if (first.half == 0) return first.vector;
       return gather(first, first);
     }
-    const Seat second = seat_of(nodes[1]);
+    const Seat second = seat_of(*nodes[1]);
     if (first.vector == second.vector && first.half == 0 && second.half == 1) return first.vector;
     return gather(first, second);
   }
 
-  int load(int first, int second) {
+  int load(int first, std::optional<int> second) {
     const auto [it, fresh] = loads_.try_emplace({first, second}, -1);
     if (fresh) {
       PackedNode node;
@@ -310,7 +309,7 @@ class Packer {
   /// An input element within the whole vector of its pair; the last of an odd number stands alone.
   Seat seat_of_input(int element) {
     const int even = element - element % 2;
-    if (even + 1 >= inputs_) return {load(element, -1), 0};
+    if (even + 1 >= inputs_) return {load(element, {}), 0};
     return {load(even, even + 1), element % 2};
   }
 
@@ -324,7 +323,7 @@ class Packer {
   }
 
   Seat seat_of(int node) {
-    if (node == kZeroNode || graph_.node(node).input >= 0) return {vector_of({node, -1}), 0};
+    if (node == kZeroNode || graph_.node(node).input) return {vector_of({node, {}}), 0};
     require(node);
     return seats_.at(node);
   }
@@ -343,36 +342,36 @@ class Packer {
         stored[k + 1] = 1;
         if (packed_.access == Access::pairs_and_lone &&
             (is_lone(value.node) || is_lone(graph_.outputs()[k + 1].node))) {
-          store(seat, k, -1);
-          store(beside, k + 1, -1);
+          store(seat, k, {});
+          store(beside, k + 1, {});
           continue;
         }
         const bool joined = beside.vector == seat.vector && seat.half == 0 && beside.half == 1;
         store({joined ? seat.vector : gather(seat, beside), 0}, k, static_cast<int>(k) + 1);
         continue;
       }
-      int other = -1;
+      std::optional<int> other;
       if (packed_.halves == 2) other = output_beside(k, seat, stored);
-      if (other >= 0) stored[at(other)] = 1;
+      if (other) stored[at(*other)] = 1;
       store(seat, k, other);
     }
   }
 
   /// Whether the other half of a computed node's vector is idle.
-  bool is_lone(int node) const { return partner_[at(node)] == 0; }
+  bool is_lone(int node) const { return partner_[at(node)].node == kZeroNode; }
 
   /// A later output in the other half of the same vector, turned the same way.
-  int output_beside(std::size_t k, Seat seat, const std::vector<char>& stored) {
+  std::optional<int> output_beside(std::size_t k, Seat seat, const std::vector<char>& stored) {
     for (std::size_t other = k + 1; other < stored.size(); ++other) {
       const Value candidate = graph_.outputs()[other];
       if (stored[other] || candidate.turn != graph_.outputs()[k].turn) continue;
       const Seat beside = seat_of(candidate.node);
       if (beside.vector == seat.vector && beside.half != seat.half) return static_cast<int>(other);
     }
-    return -1;
+    return std::nullopt;
   }
 
-  void store(Seat seat, std::size_t element, int other) {
+  void store(Seat seat, std::size_t element, std::optional<int> other) {
     PackedNode node;
     node.kind = PackedKind::store;
     node.turn = graph_.outputs()[element].turn;
@@ -389,10 +388,10 @@ class Packer {
   std::vector<char> live_;
   std::vector<std::vector<int>> users_;
   std::map<int, int> input_nodes_;
-  std::vector<int> partner_;  ///< 0: none; positive: the second half; negative: minus the first
+  std::vector<Neighbor> partner_;
   std::map<int, Seat> seats_;
-  std::map<std::array<int, 2>, int> vectors_;
-  std::map<std::array<int, 2>, int> loads_;
+  std::map<Halves, int> vectors_;
+  std::map<Halves, int> loads_;
 };
 
 /// Vector instructions that the packed nodes come to, sign changes and exchanges aside.
@@ -403,7 +402,7 @@ int instructions(const PackedGraph& graph) {
       case PackedKind::zero:
         break;
       case PackedKind::load:  // filling the upper half from elsewhere is an instruction
-        total += node.element[1] >= 0 && node.element[1] != node.element[0] + 1 ? 1 : 0;
+        total += node.element[1] && *node.element[1] != *node.element[0] + 1 ? 1 : 0;
         break;
       case PackedKind::rotate:
         total += 3;

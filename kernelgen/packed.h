@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "kernelgen/graph.h"
@@ -26,11 +27,11 @@ struct PackedNode {
   PackedKind kind = PackedKind::zero;
   int a = -1;
   int b = -1;
-  int turn = 0;
+  Turn turn = Turn::none;
   std::array<int, 2> half{0, 0};
-  std::array<int, 2> element{-1, -1};  ///< -1: this half is idle
+  std::array<std::optional<int>, 2> element{};  ///< none: this half is idle
   std::array<WideComplex, 2> factor{};
-  std::array<int, 2> written{0, 0};  ///< as in the statements of the halves
+  std::array<Turn, 2> written{};  ///< as in the statements of the halves
 };
 
 /// How vectors of two elements touch memory.

@@ -6,13 +6,15 @@
 #include <utility>
 #include <vector>
 
-#include "kernelgen/fold.h"
+#include "kernelgen/integers.h"
 #include "kernelgen/rewrite.h"
 
 namespace haldgen::kernelgen {
 namespace {
 
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
+bool is_doubling(const Graph& graph, const Statement& s) {
+  return s.terms.size() == 1 && graph.literal(s.terms[0].constant) == 2.0;
+}
 
 /// A sum that may be wide: without constants, used by wide statements only.
 struct Candidate {

@@ -13,11 +13,10 @@ void interpret_as(const Program& program, const std::vector<Float>& source, Floa
                   std::vector<Float>& destination) {
   std::vector<Register> values(program.code.size());
   const auto lanes = static_cast<std::size_t>(program.lanes);
-  const auto at = [](int i) { return static_cast<std::size_t>(i); };
   for (std::size_t i = 0; i < program.code.size(); ++i) {
     const Instruction& in = program.code[i];
-    const Register a = in.a >= 0 ? values[at(in.a)] : Register{};
-    const Register b = in.b >= 0 ? values[at(in.b)] : Register{};
+    const Register a = in.a != kNoOperand ? values[at(in.a)] : Register{};
+    const Register b = in.b != kNoOperand ? values[at(in.b)] : Register{};
     Register& r = values[i];
     // One rounding to the type of the operation. Operands of 32 bits make exact doubles, and a sum
     // or product of two such, rounded to double and then to float, is correctly rounded to float
@@ -112,6 +111,25 @@ void interpret_as(const Program& program, const std::vector<Float>& source, Floa
 
 }  // namespace
 
+double rounded(Wide value, FloatType type) {
+  return type == FloatType::f32 ? double{to_float(value)} : to_double(value);
+}
+
+std::vector<int> operands(const Instruction& instruction) {
+  std::vector<int> present;
+  for (const int operand : {instruction.a, instruction.b}) {
+    if (operand != kNoOperand) present.push_back(operand);
+  }
+  return present;
+}
+
+Instruction relocated(Instruction instruction, std::span<const int> place) {
+  for (int* operand : {&instruction.a, &instruction.b}) {
+    if (*operand != kNoOperand) *operand = place[at(*operand)];
+  }
+  return instruction;
+}
+
 bool is_load(Op op) {
   return op == Op::load || op == Op::load_pair || op == Op::load_single || op == Op::zero;
 }
@@ -126,20 +144,15 @@ Program pruned(const Program& program) {
     const Instruction& in = program.code[i];
     if (!needed[i] && !is_store(in.op)) continue;
     needed[i] = 1;
-    for (const int operand : {in.a, in.b}) {
-      if (operand >= 0) needed[static_cast<std::size_t>(operand)] = 1;
-    }
+    for (const int operand : operands(in)) needed[at(operand)] = 1;
   }
   Program result = program;
   result.code.clear();
   std::vector<int> place(program.code.size(), -1);
   for (std::size_t i = 0; i < program.code.size(); ++i) {
     if (!needed[i]) continue;
-    Instruction in = program.code[i];
-    if (in.a >= 0) in.a = place[static_cast<std::size_t>(in.a)];
-    if (in.b >= 0) in.b = place[static_cast<std::size_t>(in.b)];
     place[i] = static_cast<int>(result.code.size());
-    result.code.push_back(in);
+    result.code.push_back(relocated(program.code[i], place));
   }
   return result;
 }

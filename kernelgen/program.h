@@ -4,8 +4,11 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
+
+#include "kernelgen/wide.h"
 
 namespace haldgen::kernelgen {
 
@@ -34,10 +37,12 @@ enum class Op {
   store_upper,   ///< upper half to the element at `address[0]`
 };
 
+constexpr int kNoOperand = -1;
+
 struct Instruction {
   Op op = Op::zero;
-  int a = -1;
-  int b = -1;
+  int a = kNoOperand;  ///< the instructions whose results it takes
+  int b = kNoOperand;
   std::array<double, 4> constant{};  ///< lanes, already rounded to the type of the operation
   std::array<int, 2> address{};      ///< in floats from the base
   std::array<int, 2> half{};
@@ -46,6 +51,9 @@ struct Instruction {
 };
 
 enum class FloatType { f32, f64 };
+
+/// The number of the type that a constant becomes.
+double rounded(Wide value, FloatType type);
 
 /// What the addresses of a program mean. Arrays: floats from the bases of `src` and `dst`, which
 /// may be one array. Slots: an accessor `io` knows where each whole vector lies, vector k being
@@ -58,6 +66,12 @@ struct Program {
   std::vector<Instruction> code;
   Memory memory = Memory::arrays;
 };
+
+/// Those operands that an instruction has.
+std::vector<int> operands(const Instruction& instruction);
+
+/// The instruction with operand i at place[i].
+Instruction relocated(Instruction instruction, std::span<const int> place);
 
 bool is_load(Op op);
 bool is_store(Op op);

@@ -21,7 +21,7 @@ Rewrite::Rewrite(const Graph& old) : old_(old), graph_(old.field()), values_(old
 
 Term Rewrite::carried(const Term& old) {
   const Value v = at(old.node);
-  return {(old.turn + v.turn) & 3, graph_.intern(old_, old.constant), v.node};
+  return {old.turn + v.turn, graph_.intern(old_, old.constant), v.node};
 }
 
 Term Rewrite::carried(const Term& old, Constant factor) {
@@ -31,14 +31,14 @@ Term Rewrite::carried(const Term& old, Constant factor) {
   return term;
 }
 
-void Rewrite::rebuild(int node, std::vector<Term> terms, int turns) {
+void Rewrite::rebuild(int node, std::vector<Term> terms, Turn turn) {
   const Statement& s = old_.node(node);
   const std::size_t before = graph_.nodes().size();
-  const Value result = s.input >= 0 ? graph_.input(s.input) : graph_.statement(std::move(terms));
-  values_[static_cast<std::size_t>(node)] = turned(result, turns);
+  const Value result = s.input ? graph_.input(*s.input) : graph_.statement(std::move(terms));
+  values_[static_cast<std::size_t>(node)] = turned(result, turn);
   if (graph_.nodes().size() == before) return;
   Statement& fresh = graph_.node(result.node);
-  fresh.spectral = s.spectral;
+  fresh.foldable = s.foldable;
   fresh.precision = s.precision;
   fresh.rank = s.rank;
 }

@@ -27,7 +27,7 @@ class Rewrite {
 
   /// The node in the new graph, as a statement of these terms of the new graph, turned. Inputs stay
   /// inputs.
-  void rebuild(int node, std::vector<Term> terms, int turns = 0);
+  void rebuild(int node, std::vector<Term> terms, Turn turn = Turn::none);
   /// The node as it was.
   void copy(int node);
 

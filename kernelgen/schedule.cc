@@ -5,10 +5,10 @@
 #include <set>
 #include <stdexcept>
 
+#include "kernelgen/integers.h"
+
 namespace haldgen::kernelgen {
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 /// Who needs what. In place a store overwrites an input, so every load of an array's place comes
 /// before the store to it: an edge that orders but holds no register.
@@ -19,12 +19,9 @@ struct Dependences {
     for (std::size_t i = 0; i < program.code.size(); ++i) {
       const Instruction& in = program.code[i];
       const int index = static_cast<int>(i);
-      for (const int operand : {in.a, in.b}) {
-        if (operand >= 0 && (operand != in.a || operand != in.b || operands[i].empty())) {
-          operands[i].push_back(operand);
-          users[at(operand)].push_back(index);
-        }
-      }
+      operands[i] = kernelgen::operands(in);
+      if (in.a == in.b && !operands[i].empty()) operands[i].pop_back();
+      for (const int operand : operands[i]) users[at(operand)].push_back(index);
       for (const int address : touched(program, in)) {
         if (program.memory == Memory::slots) continue;
         if (is_load(in.op)) loads[address].push_back(index);
@@ -303,10 +300,7 @@ Program permuted(const Program& program, const std::vector<int>& order) {
   std::vector<int> place(order.size());
   for (std::size_t i = 0; i < order.size(); ++i) {
     place[at(order[i])] = static_cast<int>(i);
-    Instruction in = program.code[at(order[i])];
-    if (in.a >= 0) in.a = place[at(in.a)];
-    if (in.b >= 0) in.b = place[at(in.b)];
-    result.code[i] = in;
+    result.code[i] = relocated(program.code[at(order[i])], place);
   }
   return result;
 }
@@ -340,54 +334,6 @@ Program scheduled(const Program& program, Ordering ordering, const Overlap& over
   for (std::size_t i = 0; i < halved.size(); ++i) rank[at(halved[i])] = static_cast<int>(i);
   return permuted(program,
                   ListSchedule(program, dependences, rank, cap).run(order == Order::critical));
-}
-
-int spill_traffic(const Program& program, int registers) {
-  std::vector<std::vector<int>> uses(program.code.size());
-  for (std::size_t i = 0; i < program.code.size(); ++i) {
-    for (const int operand : {program.code[i].a, program.code[i].b}) {
-      if (operand >= 0) uses[at(operand)].push_back(static_cast<int>(i));
-    }
-  }
-  int traffic = 0;
-  int now = 0;
-  std::set<int> held, stored;
-  const auto next_use = [&](int value) {
-    const auto& u = uses[at(value)];
-    const auto it = std::upper_bound(u.begin(), u.end(), now);
-    return it == u.end() ? 1 << 30 : *it;
-  };
-  const auto make_room = [&](const Instruction& in) {
-    while (static_cast<int>(held.size()) >= registers) {
-      int victim = -1, farthest = -1;
-      for (const int value : held) {
-        if (value == in.a || value == in.b) continue;
-        if (next_use(value) > farthest) {
-          farthest = next_use(value);
-          victim = value;
-        }
-      }
-      held.erase(victim);
-      const bool in_memory = is_load(program.code[at(victim)].op);
-      if (!in_memory && stored.insert(victim).second) ++traffic;
-    }
-  };
-  for (std::size_t i = 0; i < program.code.size(); ++i) {
-    const Instruction& in = program.code[i];
-    now = static_cast<int>(i) - 1;
-    for (const int operand : {in.a, in.b}) {
-      if (operand < 0 || held.count(operand) != 0) continue;
-      make_room(in);
-      held.insert(operand);
-      ++traffic;
-    }
-    now = static_cast<int>(i);
-    std::erase_if(held, [&](int value) { return next_use(value) == 1 << 30; });
-    if (is_store(in.op)) continue;
-    make_room({});
-    held.insert(static_cast<int>(i));
-  }
-  return traffic;
 }
 
 }  // namespace haldgen::kernelgen

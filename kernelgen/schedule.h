@@ -33,8 +33,4 @@ using Overlap = std::function<bool(int load, int store)>;
 Program scheduled(const Program& program, Ordering ordering,
                   const Overlap& overlap = std::equal_to<>());
 
-/// Values stored to and reloaded from the stack by an ideal register allocator with `registers`
-/// registers: a yardstick of orders, not what a compiler does.
-int spill_traffic(const Program& program, int registers);
-
 }  // namespace haldgen::kernelgen

@@ -24,7 +24,7 @@ std::vector<Value> transpose_into(Graph& into, const Graph& forward, std::span<c
     for (std::size_t i = 1; i < parts.size(); ++i) total = into.add(total, parts[i]);
     if (is_zero(total)) continue;
     const Statement& statement = forward.node(node);
-    if (statement.input >= 0) result[static_cast<std::size_t>(statement.input)] = total;
+    if (statement.input) result[at(*statement.input)] = total;
     for (const Term& t : statement.terms) {
       const Value v =
           t.constant == kNoConstant ? total : into.multiply(forward.constant(t.constant), total);
@@ -45,7 +45,7 @@ std::vector<Value> transpose_statements_into(Graph& into, const Graph& forward,
     if (edge.node == kZeroNode || is_zero(v)) return;
     const ConstantId constant = into.intern(forward, edge.constant);
     contributions[static_cast<std::size_t>(edge.node)].push_back(
-        {rank, {(v.turn + edge.turn) & 3, constant, v.node}});
+        {rank, {v.turn + edge.turn, constant, v.node}});
   };
   for (std::size_t i = 0; i < fed.size(); ++i) {
     const Value out = forward.outputs()[i];
@@ -64,7 +64,7 @@ std::vector<Value> transpose_statements_into(Graph& into, const Graph& forward,
     const Value total = into.statement(std::move(terms));
     const Statement& statement = forward.node(node);
     if (into.nodes().size() > before) into.node(total.node).rank = first_rank + statement.rank;
-    if (statement.input >= 0) result[static_cast<std::size_t>(statement.input)] = total;
+    if (statement.input) result[at(*statement.input)] = total;
     for (const Term& t : statement.terms) contribute(t, statement.rank, total);
   }
   return result;

@@ -144,17 +144,18 @@ WideComplex operator*(WideComplex a, WideComplex b) {
 WideComplex operator*(Wide a, WideComplex b) { return {a * b.re, a * b.im}; }
 WideComplex conj(WideComplex a) { return {a.re, -a.im}; }
 
-WideComplex turned(WideComplex a, int turns) {
-  switch (turns & 3) {
-    case 1:
+WideComplex turned(WideComplex a, Turn turn) {
+  switch (turn) {
+    case Turn::quarter:
       return {-a.im, a.re};
-    case 2:
+    case Turn::half:
       return {-a.re, -a.im};
-    case 3:
+    case Turn::three_quarters:
       return {a.im, -a.re};
-    default:
-      return a;
+    case Turn::none:
+      break;
   }
+  return a;
 }
 
 WideComplex root(std::int64_t n, std::int64_t k) { return {cos_turn(k, n), -sin_turn(k, n)}; }

@@ -7,6 +7,8 @@
 #include <complex>
 #include <cstdint>
 
+#include "kernelgen/turn.h"
+
 namespace haldgen::kernelgen {
 
 struct Wide {
@@ -45,8 +47,8 @@ WideComplex operator-(WideComplex a, WideComplex b);
 WideComplex operator*(WideComplex a, WideComplex b);
 WideComplex operator*(Wide a, WideComplex b);
 WideComplex conj(WideComplex a);
-/// i^turns * a, exactly.
-WideComplex turned(WideComplex a, int turns);
+/// The product by a power of i, exactly.
+WideComplex turned(WideComplex a, Turn turn);
 
 /// exp(-2 pi i k / n), the root of unity of the forward transform. Multiples of an eighth of the
 /// circle are exact in the parts that are 0, 1 or equal to each other.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "kernelgen/integers.h"
 #include "real_blocks/statements.h"
 
 namespace haldgen::real_blocks {
@@ -54,7 +55,7 @@ Bins direct_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   for (const int k : order) sums.push_back(g.add(x[at(k)], x[at(n - k)]));
   for (const int k : order) differences.push_back(g.subtract(x[at(k)], x[at(n - k)]));
   Reals totalled = sums;
-  if (recipe.total == Total::by_index) {
+  if (recipe.chosen<Direct>().total == Total::by_index) {
     for (std::size_t i = 0; i < order.size(); ++i) {
       totalled[at(std::min(order[i], n - order[i]) - 1)] = sums[i];
     }
@@ -110,8 +111,8 @@ Bins power_of_two_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     const Bins odd = real_bins(g, power_of_two(4), strided(x, 1, 2));
     bins[0] = {&g, g.add(even[0].re, odd[0].re), {}};
     bins[4] = {&g, g.subtract(even[0].re, odd[0].re), {}};
-    bins[2] = even[2] + turned(odd[2], 3);
-    const Bin turned_odd = rotated(odd[1], 1, 8, recipe.eighth);
+    bins[2] = even[2] + turned(odd[2], Turn::three_quarters);
+    const Bin turned_odd = rotated(odd[1], 1, 8, recipe.chosen<Twiddled>().eighth);
     place(bins, n, 1, even[1] + turned_odd);
     place(bins, n, 5, even[1] - turned_odd);
     return bins;
@@ -126,7 +127,7 @@ Bins power_of_two_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   for (int k = 1; k < n / 8; ++k) {
     Bins column = row(quarter, k);
     for (int r = 1; r < 4; ++r) {
-      column[at(r)] = rotated(column[at(r)], r * k, n, recipe.eighth);
+      column[at(r)] = rotated(column[at(r)], r * k, n, recipe.chosen<Twiddled>().eighth);
     }
     const Bins across = complex_bins(g, power_of_two(4), column);
     for (int l = 0; l < 4; ++l) place(bins, n, k + l * n / 4, across[at(l)]);
@@ -162,7 +163,7 @@ Bins coprime_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     const Bins across = real ? real_bins(g, block(recipe, 1), real_parts(row(columns, k1)))
                              : complex_bins(g, block(recipe, 1), row(columns, k1));
     for (std::size_t k2 = 0; k2 < across.size(); ++k2) {
-      place(bins, n, congruent(k1, a, static_cast<int>(k2), b), across[k2]);
+      place(bins, n, kernelgen::congruent(k1, a, static_cast<int>(k2), b), across[k2]);
     }
   }
   return bins;
@@ -187,17 +188,16 @@ Bins renamed(const Bins& bins, int n, int r) {
 }
 
 Bins permuted_bins(Graph& g, const Recipe& recipe, const Reals& x) {
+  const int r = recipe.chosen<Multiplied>().multiplier;
   Reals permuted;
-  for (int i = 0; i < recipe.length; ++i) {
-    permuted.push_back(x[at(recipe.multiplier * i % recipe.length)]);
-  }
-  return renamed(real_bins(g, block(recipe, 0), permuted), recipe.length, recipe.multiplier);
+  for (int i = 0; i < recipe.length; ++i) permuted.push_back(x[at(r * i % recipe.length)]);
+  return renamed(real_bins(g, block(recipe, 0), permuted), recipe.length, r);
 }
 
 /// Exponents and names of bins multiplied by r; r = 1 is the plain Cooley-Tukey step.
 Bins cooley_tukey_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int n = recipe.length;
-  const int r = recipe.multiplier;
+  const int r = recipe.method == Method::relabelled ? recipe.chosen<Multiplied>().multiplier : 1;
   const int a = block(recipe, 0).length;
   const int b = block(recipe, 1).length;
   std::vector<Bins> columns;
@@ -259,8 +259,8 @@ Bins complex_decimated(Graph& g, const Recipe& recipe, const Bins& x) {
 struct PartBins {
   Bins re;
   Bins im;
-  Bin upper(int k) const { return re[at(k)] + turned(im[at(k)], 1); }
-  Bin lower(int k) const { return conj(re[at(k)]) + turned(conj(im[at(k)]), 1); }
+  Bin upper(int k) const { return re[at(k)] + turned(im[at(k)], Turn::quarter); }
+  Bin lower(int k) const { return conj(re[at(k)]) + turned(conj(im[at(k)]), Turn::quarter); }
 };
 
 Reals parts_of(const Bins& x, Value Bin::*part) {
@@ -285,7 +285,8 @@ Bins twisted_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int n = recipe.length;
   Bins z;
   for (int q = 0; 2 * q < n; ++q) {
-    z.push_back(rotated({&g, x[at(q)], -x[at(q + n / 2)]}, q, 2 * n, recipe.eighth));
+    z.push_back(
+        rotated({&g, x[at(q)], -x[at(q + n / 2)]}, q, 2 * n, recipe.chosen<Twiddled>().eighth));
   }
   const Bins inner = complex_bins(g, block(recipe, 0), z);
   Bins bins = no_bins(n / 2);
@@ -313,7 +314,8 @@ Bins coprime_odd_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     const Bins across = k2 == 0 ? odd_bins(g, block(recipe, 1), real_parts(row(columns, 0)))
                                 : complex_odd_bins(g, block(recipe, 1), row(columns, k2));
     for (std::size_t i = 0; i < across.size(); ++i) {
-      place_odd(bins, n, congruent(2 * static_cast<int>(i) + 1, 2 * e, k2, q), across[i]);
+      place_odd(bins, n, kernelgen::congruent(2 * static_cast<int>(i) + 1, 2 * e, k2, q),
+                across[i]);
     }
   }
   return bins;
@@ -321,19 +323,20 @@ Bins coprime_odd_bins(Graph& g, const Recipe& recipe, const Reals& x) {
 
 Bins classes_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int n = recipe.length;
+  const bool from_behind = recipe.chosen<Classes>().from_behind;
   const int m = block(recipe, 0).length;
   const int p = block(recipe, 1).length;
   std::vector<Bins> columns;
   for (int q = 0; q < p; ++q) {
     Reals part = strided(x, q, p);
-    if (recipe.from_behind && q == 1) {
+    if (from_behind && q == 1) {
       // x[-1] = -x[n-1], since half the circle is a change of sign.
       part.insert(part.begin(), -part.back());
       part.pop_back();
     }
     columns.push_back(odd_bins(g, block(recipe, 0), part));
   }
-  const auto first_place = [&](int q) { return recipe.from_behind && q == 1 ? -1 : q; };
+  const auto first_place = [&](int q) { return from_behind && q == 1 ? -1 : q; };
   Bins bins = no_bins((n + 1) / 2);
   for (int j = 1; j <= m; j += 2) {
     Bins column = row(columns, j / 2);

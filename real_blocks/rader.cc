@@ -1,29 +1,13 @@
 // A prime length P as a convolution of length L = P - 1 over the powers of a primitive root, on
 // real data: the outputs g^p and g^(p + L/2) are conjugates, so the even bins of the product of
 // spectra give the real parts of half the outputs and the odd bins the imaginary parts.
-#include <stdexcept>
-
 #include "kernelgen/fold.h"
+#include "kernelgen/integers.h"
 #include "kernelgen/transpose.h"
 #include "real_blocks/statements.h"
 
 namespace haldgen::real_blocks {
 namespace {
-
-int power(int base, int exponent, int modulus) {
-  int result = 1;
-  for (int i = 0; i < exponent; ++i) result = result * base % modulus;
-  return result;
-}
-
-int smallest_primitive_root(int prime) {
-  for (int g = 2; g < prime; ++g) {
-    int order = 1;
-    for (int v = g; v != 1; v = v * g % prime) ++order;
-    if (order == prime - 1) return g;
-  }
-  throw std::logic_error("not a prime");
-}
 
 struct Convolution {
   int prime;
@@ -34,12 +18,12 @@ struct Convolution {
   int half() const { return length() / 2; }
   /// The output that is made in place p: root^-(p + shift).
   int output(int p) const {
-    return power(root, (length() - (p + shift) % length()) % length(), prime);
+    return kernelgen::power(root, kernelgen::modulo(-(p + shift), length()), prime);
   }
   /// Bin j of the spectrum of cosines (even j) or of -sines (odd j) at the outputs, which as a
   /// whole is real or imaginary symmetric: its two parts.
-  kernelgen::WideComplex spectrum(int j) const {
-    kernelgen::WideComplex sum;
+  WideComplex spectrum(int j) const {
+    WideComplex sum;
     for (int r = 0; r < length(); ++r) {
       const int k = output(r);
       const Wide cosine = kernelgen::cos_turn(k, prime);
@@ -65,12 +49,13 @@ Graph side_graph(const Recipe& recipe, bool odd) {
 
 Bins rader_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int prime = recipe.length;
-  const Convolution c{prime, smallest_primitive_root(prime), recipe.shift};
+  const Convolution c{prime, kernelgen::primitive_root(prime), recipe.chosen<Rader>().shift};
   const int m = c.half();
   const Wide length(c.length());
 
   Reals permuted;
-  for (int q = 0; q < c.length(); ++q) permuted.push_back(x[at(power(c.root, q, prime))]);
+  for (int q = 0; q < c.length(); ++q)
+    permuted.push_back(x[at(kernelgen::power(c.root, q, prime))]);
   const Bins a = real_bins(g, recipe.blocks[0], permuted);
 
   Bins bins(at(prime / 2 + 1), Bin{nullptr, {}, {}});
@@ -85,18 +70,13 @@ Bins rader_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   Reals even{mean}, odd;
   for (int j = 1; j < m; ++j) {
     const auto d = c.spectrum(j);
-    const Wide re = Wide(2.0) * d.re / length;
-    const Wide im = Wide(2.0) * d.im / length;
-    const Bin& bin = a[at(j)];
-    const Term re_re = term(g, re, bin.re), re_im = term(g, -im, bin.im);
-    const Value out_re = g.statement({re_re, re_im});
-    const Term im_im = term(g, re, bin.im), im_re = term(g, im, bin.re);
-    const Value out_im = g.statement({im_im, im_re});
-    g.node(out_re.node).spectral = true;
-    g.node(out_im.node).spectral = true;
+    const Bin out = product({Wide(2.0) * d.re / length, Wide(2.0) * d.im / length}, a[at(j)]);
+    // Products with the spectrum: of the constants behind them, some kernels fold only these.
+    g.node(out.re.node).foldable = true;
+    g.node(out.im.node).foldable = true;
     Reals& side = j % 2 == 0 ? even : odd;
-    side.push_back(out_re);
-    side.push_back(out_im);
+    side.push_back(out.re);
+    side.push_back(out.im);
   }
   (m % 2 == 0 ? even : odd).push_back(gauss);
 

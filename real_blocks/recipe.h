@@ -4,7 +4,10 @@
 #pragma once
 
 #include <string>
+#include <variant>
 #include <vector>
+
+#include "kernelgen/element.h"
 
 namespace haldgen::real_blocks {
 
@@ -30,11 +33,7 @@ enum class Method {
   classes,      ///< classes modulo p, twiddled, complex blocks of length p across them
 };
 
-/// How a multiplication by an eighth root of unity is formed.
-enum class EighthRoot {
-  sum_first,       ///< sum and difference of the parts, then two multiplications
-  products_first,  ///< two multiplications, then sum and difference
-};
+using kernelgen::EighthRoot;
 
 /// The order in which a direct block adds its sums x[k] + x[n-k] to x[0] for bin 0. The cosine and
 /// sine sums take the pairs by powers always; up to 7 points both orders are one.
@@ -43,15 +42,53 @@ enum class Total {
   by_power,  ///< k = the powers of a generator
 };
 
+// The choices that one method, or two of a kind, leave open.
+
+struct Direct {
+  Total total = Total::by_index;
+
+  friend bool operator==(const Direct&, const Direct&) = default;
+};
+
+/// Powers of two and twisted blocks.
+struct Twiddled {
+  EighthRoot eighth;
+
+  friend bool operator==(const Twiddled&, const Twiddled&) = default;
+};
+
+struct Rader {
+  int shift = 0;  ///< power of the root at which the outputs start
+
+  friend bool operator==(const Rader&, const Rader&) = default;
+};
+
+/// Permuted and relabelled blocks.
+struct Multiplied {
+  int multiplier;  ///< r, factor of the exponents
+
+  friend bool operator==(const Multiplied&, const Multiplied&) = default;
+};
+
+struct Classes {
+  bool from_behind = false;  ///< of two classes the second has the places -1, 1, 3, ..
+
+  friend bool operator==(const Classes&, const Classes&) = default;
+};
+
+using Choices = std::variant<std::monostate, Direct, Twiddled, Rader, Multiplied, Classes>;
+
 struct Recipe {
   Method method;
   int length;
   std::vector<Recipe> blocks = {};
-  EighthRoot eighth = EighthRoot::products_first;
-  Total total = Total::by_index;
-  int shift = 0;             ///< Rader: power of the root at which the outputs start
-  int multiplier = 1;        ///< permuted and relabelled: r, factor of the exponents
-  bool from_behind = false;  ///< classes of two: the second has the places -1, 1, 3, ..
+  Choices choices = {};
+
+  /// The choices of its method.
+  template <class Choice>
+  const Choice& chosen() const {
+    return std::get<Choice>(choices);
+  }
 
   friend bool operator==(const Recipe&, const Recipe&) = default;
 };

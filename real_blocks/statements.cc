@@ -4,6 +4,8 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "kernelgen/integers.h"
+
 namespace haldgen::real_blocks {
 
 double literal(Wide magnitude) {
@@ -19,37 +21,25 @@ double literal(Wide magnitude) {
 }
 
 Term term(Graph& graph, Wide constant, Value v) {
-  const bool minus = constant.hi < 0;
+  if (constant.hi < 0) v = -v;
   const Wide magnitude = abs(constant);
-  return {(v.turn + (minus ? 2 : 0)) & 3, graph.intern({magnitude, literal(magnitude)}), v.node};
+  return {v.turn, graph.intern({magnitude, literal(magnitude)}), v.node};
 }
 
 Value product(Graph& graph, Wide constant, Value v) {
   return graph.statement({term(graph, constant, v)});
 }
 
-Bin rotated(Bin a, int k, int n, EighthRoot eighth) {
+Bin product(WideComplex w, Bin a) {
   Graph& g = *a.graph;
-  k = ((k % n) + n) % n;
-  if (4 * k % n == 0) return turned(a, -(4 * k / n));
-  if (8 * k % n == 0) {
-    // (1 - i) / sqrt 2, turned as the exponent asks.
-    const Bin quarter = turned(a, -((8 * k / n) / 2));
-    const Wide c = sqrt(Wide(0.5));
-    const auto scaled = [&](Bin b) {
-      const Value re = product(g, c, b.re);
-      return Bin{&g, re, product(g, c, b.im)};
-    };
-    if (eighth == EighthRoot::sum_first) return scaled(quarter + turned(quarter, 3));
-    const Bin products = scaled(quarter);
-    return products + turned(products, 3);
-  }
-  const Wide c = kernelgen::cos_turn(k, n);
-  const Wide s = kernelgen::sin_turn(k, n);
-  const Term re_re = term(g, c, a.re), re_im = term(g, s, a.im);
+  const Term re_re = term(g, w.re, a.re), re_im = term(g, -w.im, a.im);
   const Value re = g.statement({re_re, re_im});
-  const Term im_im = term(g, c, a.im), im_re = term(g, -s, a.re);
+  const Term im_im = term(g, w.re, a.im), im_re = term(g, w.im, a.re);
   return {&g, re, g.statement({im_im, im_re})};
+}
+
+Bin rotated(Bin a, int k, int n, EighthRoot eighth) {
+  return twiddle(a, n, k, eighth, [](WideComplex w, Bin b) { return product(w, b); });
 }
 
 void place(Bins& bins, int n, int k, Bin bin) {
@@ -73,13 +63,6 @@ void place_odd(Bins& bins, int n, int j, Bin bin) {
   Bin& target = bins[at(j / 2)];
   if (target.graph != nullptr) throw std::logic_error("an odd bin twice");
   target = bin;
-}
-
-int congruent(int i, int a, int j, int b) {
-  for (int k = i; k < a * b; k += a) {
-    if (k % b == j) return k;
-  }
-  throw std::logic_error("factors are not coprime");
 }
 
 }  // namespace haldgen::real_blocks

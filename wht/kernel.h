@@ -3,12 +3,11 @@
 
 #include <cstdint>
 #include <numbers>
-#include <type_traits>
 
 #include "haldcore.h"
 #include "haldgen.h"
+#include "lanes/vectors.h"
 #include "wht/blocking.h"
-#include "wht/lanes.h"
 #include "wht/network.h"
 
 namespace haldgen::wht {
@@ -21,9 +20,8 @@ struct Kernel {
   static constexpr std::int32_t kBufferBytes = wht::kBufferBytes<Float>[kOrder - 1];
 
   /// Vectors from four of them on; smaller transforms are scalar.
-  using Vector = std::conditional_t<std::is_same_v<Float, float>, Float4, Double2>;
-  static constexpr bool kVectors = kBlocking.points() >= 4 * Vector::kLanes;
-  using Lanes = std::conditional_t<kVectors, Vector, Single<Float>>;
+  static constexpr bool kVectors = kBlocking.points() >= 4 * lanes::kLanes<Float>;
+  using Lanes = lanes::Lanes<Float, kVectors ? lanes::kLanes<Float> : 1>;
   using Value = typename Lanes::Value;
 
   /// The paths of a kernel whose chunk is one group of vectors are short and stand together.
@@ -35,8 +33,8 @@ struct Kernel {
                                    static_cast<Float>(1 << kOrder / 2);
 };
 
-/// The phases of a kernel on the path of one alignment of src and dst.
-template <class Kernel, Alignment kAlignment>
+/// The phases of a kernel on the path of one access to src and dst.
+template <class Kernel, class Access>
 struct Phases {
   using Float = typename Kernel::Float;
   using Lanes = typename Kernel::Lanes;
@@ -46,13 +44,13 @@ struct Phases {
 
   // The caller's arrays, and the work buffer.
   template <std::size_t kStride>
-  using From = Source<Lanes, kAlignment, kStride>;
+  using From = Source<Lanes, Access, kStride>;
   template <std::size_t kStride>
-  using To = ScaledSink<Lanes, kAlignment, kStride>;
+  using To = ScaledSink<Lanes, Access, kStride>;
   template <std::size_t kStride>
-  using Fetch = Source<Lanes, Alignment::vector, kStride>;
+  using Fetch = Source<Lanes, lanes::Aligned, kStride>;
   template <std::size_t kStride>
-  using Keep = Sink<Lanes, Alignment::vector, kStride>;
+  using Keep = Sink<Lanes, lanes::Aligned, kStride>;
 
   HALDGEN_INLINE static void in_registers(const Float* src, Float* dst, Value scale) {
     step<Contiguous, Lanes, kBlocking.chunk() / kLanes>(From<kLanes>{src}, To<kLanes>{dst, scale});
@@ -114,11 +112,11 @@ HALDGEN_INLINE bool choose_scale(std::int32_t flag, typename Kernel::Float& scal
   return true;
 }
 
-template <class Kernel, Alignment kAlignment>
+template <class Kernel, class Access>
 HALDGEN_INLINE std::int32_t checked(const typename Kernel::Float* src, typename Kernel::Float* dst,
                                     std::int32_t flag, std::uint8_t* buffer) {
   using Float = typename Kernel::Float;
-  using Path = Phases<Kernel, kAlignment>;
+  using Path = Phases<Kernel, Access>;
   if (src == nullptr || dst == nullptr) [[unlikely]]
     return haldStatusNullPointer;
   Float factor;
@@ -141,7 +139,7 @@ template <class Kernel>
 [[gnu::noinline]] std::int32_t unaligned(const typename Kernel::Float* src,
                                          typename Kernel::Float* dst, std::int32_t flag,
                                          std::uint8_t* buffer) {
-  return checked<Kernel, Alignment::none>(src, dst, flag, buffer);
+  return checked<Kernel, lanes::Anywhere>(src, dst, flag, buffer);
 }
 
 /// Choice of the path, null test, flag test, transform. A null pointer counts as aligned.
@@ -153,10 +151,10 @@ HALDGEN_INLINE std::int32_t run(const Float* src, Float* dst, std::int32_t flag,
     const auto bits = reinterpret_cast<std::uintptr_t>(src) | reinterpret_cast<std::uintptr_t>(dst);
     if (bits % sizeof(typename K::Value) != 0) [[unlikely]] {
       if constexpr (K::kPathsApart) return unaligned<K>(src, dst, flag, buffer);
-      return checked<K, Alignment::none>(src, dst, flag, buffer);
+      return checked<K, lanes::Anywhere>(src, dst, flag, buffer);
     }
   }
-  return checked<K, Alignment::vector>(src, dst, flag, buffer);
+  return checked<K, lanes::Aligned>(src, dst, flag, buffer);
 }
 
 }  // namespace haldgen::wht

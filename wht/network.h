@@ -4,15 +4,15 @@
 // and that order is chosen for the registers.
 //
 // A step runs some consecutive levels on elements that it fetches from one place and puts to
-// another. It is straight-line code: all loops over its values are unrolled by index sequences.
+// another. It is straight-line code: all loops over its values are unrolled by index sequences. It
+// computes on whole vectors or on single elements, as lanes::Lanes names them.
 #pragma once
 
 #include <algorithm>
 #include <cstddef>
 #include <utility>
 
-#include "frame/inline.h"
-#include "wht/lanes.h"
+#include "lanes/inline.h"
 
 namespace haldgen::wht {
 
@@ -98,30 +98,30 @@ struct Column {
 };
 
 /// Where a step takes its values from: number k lies kStride elements behind number k-1.
-template <class Lanes, Alignment kAlignment, std::size_t kStride>
+template <class Lanes, class Access, std::size_t kStride>
 struct Source {
   const typename Lanes::Float* base;
   HALDGEN_INLINE typename Lanes::Value get(std::size_t k) const {
-    return Lanes::template load<kAlignment>(base + k * kStride);
+    return Lanes::template load<Access>(base + k * kStride);
   }
 };
 
 /// Where it puts them.
-template <class Lanes, Alignment kAlignment, std::size_t kStride>
+template <class Lanes, class Access, std::size_t kStride>
 struct Sink {
   typename Lanes::Float* base;
   HALDGEN_INLINE void put(std::size_t k, typename Lanes::Value value) const {
-    Lanes::template store<kAlignment>(base + k * kStride, value);
+    Lanes::template store<Access>(base + k * kStride, value);
   }
 };
 
 /// The same behind the last level of all.
-template <class Lanes, Alignment kAlignment, std::size_t kStride>
+template <class Lanes, class Access, std::size_t kStride>
 struct ScaledSink {
   typename Lanes::Float* base;
   typename Lanes::Value scale;
   HALDGEN_INLINE void put(std::size_t k, typename Lanes::Value value) const {
-    Lanes::template store<kAlignment>(base + k * kStride, value * scale);
+    Lanes::template store<Access>(base + k * kStride, value * scale);
   }
 };
 

@@ -16,11 +16,12 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "frame/families.h"
 #include "haldgen.h"
 #include "kernelgen/wide.h"
+#include "registry/registry.h"
 
 namespace haldgen::accuracy {
 namespace {
@@ -52,17 +53,17 @@ struct Family {
   std::string_view name;
   std::string_view forward_word;
   std::string_view inverse_word;  ///< empty for none
-  std::array<frame::Element, 2> elements;
+  std::array<names::Element, 2> elements;
 };
 
 constexpr Family kFamilies[] = {
-    {"complex", "DFTFwd_CToC", "DFTInv_CToC", {frame::Element::c32, frame::Element::c64}},
-    {"hartley", "Hartley", "", {frame::Element::f32, frame::Element::f64}},
-    {"real", "DFTFwd_RToCCS", "DFTInv_CCSToR", {frame::Element::f32, frame::Element::f64}},
+    {"complex", "DFTFwd_CToC", "DFTInv_CToC", {names::Element::c32, names::Element::c64}},
+    {"hartley", "Hartley", "", {names::Element::f32, names::Element::f64}},
+    {"real", "DFTFwd_RToCCS", "DFTInv_CCSToR", {names::Element::f32, names::Element::f64}},
 };
 
 template <class Float>
-Kernel<Float> kernel(const frame::Export& entry) {
+Kernel<Float> kernel(const registry::Export& entry) {
   using Function = std::int32_t(const void*, void*, std::int32_t);
   auto* const function = reinterpret_cast<Function*>(dlsym(library(), entry.name.c_str()));
   if (function == nullptr) throw std::runtime_error("the library has no " + entry.name);
@@ -73,13 +74,13 @@ Kernel<Float> kernel(const frame::Export& entry) {
 }
 
 template <class Float>
-std::map<int, Pair<Float>> kernels(const Family& family, frame::Element element) {
+std::map<int, Pair<Float>> kernels(const Family& family, names::Element element) {
   std::map<int, Pair<Float>> pairs;
-  for (const frame::Export& entry : frame::live_exports()) {
+  for (const registry::Export& entry : registry::exports()) {
     if (entry.element != element || entry.size == 0) continue;
-    if (entry.family->word == family.forward_word) {
+    if (entry.word->word == family.forward_word) {
       pairs[entry.size].forward = kernel<Float>(entry);
-    } else if (entry.family->word == family.inverse_word) {
+    } else if (entry.word->word == family.inverse_word) {
       pairs[entry.size].inverse = kernel<Float>(entry);
     }
   }
@@ -112,17 +113,29 @@ class Random {
 
 using Elements = std::vector<WideComplex>;
 
-/// sum over n of x[n] * root^(+-k n) for k below `bins`.
-Elements dft(const Elements& x, bool inverse, std::size_t bins) {
-  const std::size_t size = x.size();
-  Elements roots;
-  for (std::size_t k = 0; k < size; ++k) {
+/// Those of this order, going clockwise or, for an inverse transform, the other way.
+const Elements& roots_of_unity(std::size_t size, bool inverse) {
+  static std::map<std::pair<std::size_t, bool>, Elements> known;
+  Elements& roots = known[{size, inverse}];
+  for (std::size_t k = roots.size(); k < size; ++k) {
     const auto power = static_cast<std::int64_t>(k);
     roots.push_back(kernelgen::root(static_cast<std::int64_t>(size), inverse ? -power : power));
   }
+  return roots;
+}
+
+/// sum over n of x[n] * root^(+-k n) for k below `bins`.
+Elements dft(const Elements& x, bool inverse, std::size_t bins) {
+  const std::size_t size = x.size();
+  const Elements& roots = roots_of_unity(size, inverse);
+  const bool real =
+      std::all_of(x.begin(), x.end(), [](WideComplex v) { return v.im == Wide(0.0); });
   Elements y(bins);
   for (std::size_t k = 0; k < bins; ++k) {
-    for (std::size_t n = 0; n < size; ++n) y[k] = y[k] + roots[n * k % size] * x[n];
+    for (std::size_t n = 0; n < size; ++n) {
+      const WideComplex& root = roots[n * k % size];
+      y[k] = y[k] + (real ? x[n].re * root : root * x[n]);
+    }
   }
   return y;
 }
@@ -260,11 +273,11 @@ std::string cells(const Kernel<Float>& kernel, std::string_view family, int leng
 }
 
 template <class Float>
-void print_table(const Family& family, frame::Element element) {
+void print_table(const Family& family, names::Element element) {
   constexpr std::string_view kColumns = "L2 | worst call | largest | L2/√ | worst/√ |";
   constexpr std::string_view kRule = "--:|--:|--:|--:|--:|";
   const bool both = !family.inverse_word.empty();
-  std::cout << "### " << frame::suffix(element) << "\n\n| N |" << (both ? " forward: " : " ")
+  std::cout << "### " << names::suffix(element) << "\n\n| N |" << (both ? " forward: " : " ")
             << kColumns;
   if (both) std::cout << " inverse: " << kColumns;
   std::cout << "\n|--:|" << kRule << (both ? kRule : "") << '\n';

@@ -18,7 +18,7 @@ struct Uninit {
 }  // namespace
 
 std::optional<Contestant> av_tx_contestant(const ComplexProblem& problem) {
-  const bool is_float = problem.element == frame::Element::c32;
+  const bool is_float = problem.element == names::Element::c32;
   const AVTXType type = is_float ? AV_TX_FLOAT_FFT : AV_TX_DOUBLE_FFT;
   const std::ptrdiff_t stride =
       is_float ? sizeof(std::complex<float>) : sizeof(std::complex<double>);

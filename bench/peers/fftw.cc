@@ -98,14 +98,14 @@ Contestant contestant(const std::string& name, Role role, const Library<Plan, Co
 }  // namespace
 
 std::optional<Contestant> fftw_contestant(const ComplexProblem& problem) {
-  if (problem.element == frame::Element::c32) {
+  if (problem.element == names::Element::c32) {
     return contestant("fftw", Role::peer, wide_float, problem);
   }
   return contestant("fftw", Role::peer, wide_double, problem);
 }
 
 std::optional<Contestant> narrow_fftw_contestant(const ComplexProblem& problem) {
-  if (problem.element == frame::Element::c32) {
+  if (problem.element == names::Element::c32) {
     return contestant("fftw128", Role::narrow_peer, narrow_float, problem);
   }
   return contestant("fftw128", Role::narrow_peer, narrow_double, problem);
@@ -116,7 +116,7 @@ std::string describe_fftw_plans(const ComplexProblem& problem) {
     return "fftw:\n" + Planned(wide, problem).describe() + "\nfftw128:\n" +
            Planned(narrow, problem).describe() + "\n";
   };
-  return problem.element == frame::Element::c32 ? both(wide_float, narrow_float)
+  return problem.element == names::Element::c32 ? both(wide_float, narrow_float)
                                                 : both(wide_double, narrow_double);
 }
 

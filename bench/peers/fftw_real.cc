@@ -119,12 +119,12 @@ Contestant contestant(const char* name, Role role, const Library<Real, Complex, 
 
 }  // namespace
 
-std::vector<Contestant> fftw_real_contestants(FftwReal kind, frame::Element element, int length) {
+std::vector<Contestant> fftw_real_contestants(FftwReal kind, names::Element element, int length) {
   const auto both = [&](const auto& wide, const auto& narrow) {
     return std::vector<Contestant>{contestant("fftw", Role::peer, wide, kind, length),
                                    contestant("fftw128", Role::narrow_peer, narrow, kind, length)};
   };
-  return element == frame::Element::f32 ? both(wide_float, narrow_float)
+  return element == names::Element::f32 ? both(wide_float, narrow_float)
                                         : both(wide_double, narrow_double);
 }
 

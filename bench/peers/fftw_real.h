@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "bench/core/contestant.h"
-#include "frame/families.h"
+#include "registry/registry.h"
 
 namespace haldgen::bench {
 
@@ -16,6 +16,6 @@ enum class FftwReal {
 };
 
 /// FFTW 3 planned with FFTW_PATIENT to keep its source: at full width, and held to 128 bits.
-std::vector<Contestant> fftw_real_contestants(FftwReal kind, frame::Element element, int length);
+std::vector<Contestant> fftw_real_contestants(FftwReal kind, names::Element element, int length);
 
 }  // namespace haldgen::bench

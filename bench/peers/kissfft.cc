@@ -11,7 +11,7 @@ namespace haldgen::bench {
 static_assert(std::is_same_v<kiss_fft_scalar, float>);
 
 std::optional<Contestant> kissfft_contestant(const ComplexProblem& problem) {
-  if (problem.element != frame::Element::c32) return std::nullopt;
+  if (problem.element != names::Element::c32) return std::nullopt;
   const int inverse = problem.direction == Direction::inverse ? 1 : 0;
   const std::shared_ptr<kiss_fft_state> plan(
       kiss_fft_alloc(problem.length, inverse, nullptr, nullptr),

@@ -19,7 +19,7 @@ namespace {
 /// Debian ships kissfft for float only; its real transform has even lengths.
 std::optional<Contestant> kissfft(const RealTransform& transform) {
   const bool has = transform.kind != RealKind::hartley &&
-                   transform.element == frame::Element::f32 && transform.length % 2 == 0;
+                   transform.element == names::Element::f32 && transform.length % 2 == 0;
   if (!has) return std::nullopt;
   const bool inverse = transform.kind == RealKind::inverse;
   const std::shared_ptr<kiss_fftr_state> plan(
@@ -57,7 +57,7 @@ struct Uninit {
 /// it computes is no DFT.
 std::optional<Contestant> av_tx(const RealTransform& transform) {
   if (transform.kind != RealKind::forward || transform.length % 4 != 0) return std::nullopt;
-  const bool is_float = transform.element == frame::Element::f32;
+  const bool is_float = transform.element == names::Element::f32;
   const AVTXType type = is_float ? AV_TX_FLOAT_RDFT : AV_TX_DOUBLE_RDFT;
   const float float_scale = 1;
   const double double_scale = 1;

@@ -24,13 +24,10 @@ Measurement measurement(const std::string& type, int length, double ours, double
            {vector_add_name, Role::calibration, {0.25}}}};
 }
 
-TEST(Statistics, MedianOfOddAndEvenCounts) {
+TEST(Statistics, MedianOfOddAndEvenCountsAndMinimum) {
   EXPECT_EQ(evaluate(Statistic::median, std::vector{5.0, 1.0, 3.0}), 3);
   EXPECT_EQ(evaluate(Statistic::median, std::vector{5.0, 1.0, 3.0, 4.0}), 3.5);
   EXPECT_EQ(evaluate(Statistic::median, std::vector{7.0}), 7);
-}
-
-TEST(Statistics, Minimum) {
   EXPECT_EQ(evaluate(Statistic::minimum, std::vector{5.0, 1.5, 3.0}), 1.5);
 }
 
@@ -71,13 +68,6 @@ TEST(Figures, NoBoundWithoutCounts) {
   EXPECT_EQ(Figures(source, Statistic::median).bound_ratio, std::nullopt);
 }
 
-TEST(Figures, NoRatioWithoutPeers) {
-  Measurement source = measurement("64fc", 8, 54, 20, 10);
-  source.series.resize(1);
-  EXPECT_EQ(Figures(source, Statistic::median).best_ratio, std::nullopt);
-  EXPECT_EQ(Figures(source, Statistic::median).best_peer, "");
-}
-
 std::string at(const Table& table, std::size_t row, const std::string& column) {
   for (std::size_t i = 0; i < table.header.size(); ++i) {
     if (table.header[i] == column) return table.rows.at(row).at(i);
@@ -96,13 +86,6 @@ TEST(FiguresTable, MarksAbsentContestants) {
   EXPECT_EQ(at(table, 1, "/best"), "1.500");
   EXPECT_EQ(at(table, 1, "/narrow"), "3.000");
   EXPECT_TRUE(figures_table(sources, Mode::ring, Statistic::median).rows.empty());
-}
-
-TEST(LongTable, HasARowPerStatistic) {
-  const Table table = long_table({measurement("32fc", 8, 30, 20, 10)});
-  ASSERT_EQ(table.rows.size(), 2U);
-  EXPECT_EQ(at(table, 0, "statistic"), "median");
-  EXPECT_EQ(at(table, 1, "statistic"), "minimum");
 }
 
 TEST(Summary, MeansAndWorstPerTypeAndTogether) {

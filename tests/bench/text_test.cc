@@ -26,11 +26,6 @@ TEST(OperationCounts, FindsColumnsByName) {
   EXPECT_EQ(read.of("Hartley", "32fc", 8), std::nullopt);
 }
 
-TEST(OperationCounts, HoldForAllFamiliesWithoutThatColumn) {
-  EXPECT_EQ(counts("add\ttype\tlength\n52\t32fc\t8\n").of("Any", "32fc", 8),
-            (OperationCounts::Counts{52, 0}));
-}
-
 TEST(OperationCounts, RefusesDamagedTables) {
   EXPECT_THROW(counts("length\ttype\n8\t32fc\n"), std::runtime_error);
   EXPECT_THROW(counts("length\ttype\tadd\n8\t32fc\n"), std::runtime_error);
@@ -52,12 +47,6 @@ TEST(Table, AlignsColumns) {
   std::ostringstream out;
   write_aligned(out, {{"a", "long"}, {{"123", "4"}}});
   EXPECT_EQ(out.str(), "  a  long\n123     4\n");
-}
-
-TEST(Table, SeparatesByTabs) {
-  std::ostringstream out;
-  write_tsv(out, {{"a", "b"}, {{"1", "2"}}});
-  EXPECT_EQ(out.str(), "a\tb\n1\t2\n");
 }
 
 TEST(Cell, RoundsOrMarksAbsence) {

@@ -1,6 +1,6 @@
 // That the comparison sees what it is there for: functions of the library are exchanged for ones
 // that give other bits now and then.
-#include "tests/bits/program.h"
+#include "bits/program.h"
 
 #include <gtest/gtest.h>
 #include <haldgen.h>
@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/bits/linked.h"
+#include "bits/linked.h"
 
 namespace haldgen::bits {
 namespace {
@@ -111,9 +111,10 @@ TEST(Bits, NamesWhatDiffersAndNothingElse) {
   const auto second = sums.find('\n') + 1;  // haldgDCT4_32f/1024 is first, /128 second
   sums[second - 2] = sums[second - 2] == '0' ? '1' : '0';
   sums[second] = 'H';
-  std::ofstream("tampered.tsv") << sums;
+  const std::string path = testing::TempDir() + "tampered.tsv";
+  std::ofstream(path) << sums;
 
-  const Outcome outcome = run_program(exchanged(), {"compare", "tampered.tsv"});
+  const Outcome outcome = run_program(exchanged(), {"compare", path});
   EXPECT_EQ(outcome.status, 1);
   expect_lines(
       outcome,
@@ -141,11 +142,12 @@ TEST(Bits, NamesWhatDiffersAndNothingElse) {
 
 // What has no one sum is not recorded.
 TEST(Bits, RecordsAllOrNothing) {
-  std::remove("exchanged.tsv");
-  const Outcome outcome = run_program(exchanged(), {"record", "exchanged.tsv"});
+  const std::string path = testing::TempDir() + "exchanged.tsv";
+  std::remove(path.c_str());
+  const Outcome outcome = run_program(exchanged(), {"record", path});
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.lines.back(), "nothing recorded: faults in 12");
-  EXPECT_FALSE(std::ifstream("exchanged.tsv"));
+  EXPECT_FALSE(std::ifstream(path));
 }
 
 TEST(Bits, AFileWithoutSumsIsNoSuccess) {

@@ -1,21 +1,18 @@
-// The built library, opened at run time.
+// The kernels of the library that tests are linked with.
 #include "tests/built/library.h"
 
-#include <dlfcn.h>
+#include "bits/linked.h"
 
 namespace haldgen::test {
 namespace {
 
 std::vector<BuiltKernel> load() {
-  void* const library = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) throw std::runtime_error(dlerror());
   std::vector<BuiltKernel> kernels;
-  for (const frame::Export& e : frame::live_exports()) {
-    if (e.family->signature != frame::Signature::transform) continue;
-    void* const symbol = dlsym(library, e.name.c_str());
-    if (symbol == nullptr) throw std::runtime_error(dlerror());
-    kernels.push_back(
-        {e.name, e.family, e.element, e.size, reinterpret_cast<KernelFunction>(symbol)});
+  for (const registry::Export& e : registry::exports()) {
+    if (e.word->signature != names::Signature::transform) continue;
+    const auto function = reinterpret_cast<KernelFunction>(bits::linked()(e.name));
+    if (function == nullptr) throw std::runtime_error("the library has no " + e.name);
+    kernels.push_back({e.name, e.word, e.element, e.size, function});
   }
   return kernels;
 }
@@ -32,6 +29,14 @@ KernelFunction built_kernel(const std::string& name) {
     if (kernel.name == name) return kernel.function;
   }
   throw std::out_of_range(name + " is not built");
+}
+
+std::set<int> lengths_of(std::string_view word) {
+  std::set<int> lengths;
+  for (const BuiltKernel& kernel : built_kernels()) {
+    if (kernel.word->word == word) lengths.insert(kernel.length);
+  }
+  return lengths;
 }
 
 }  // namespace haldgen::test

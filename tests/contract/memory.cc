@@ -29,16 +29,6 @@ void GuardedPages::allow(Access access) const {
   }
 }
 
-std::vector<Placement> placements(std::size_t float_size) {
-  std::vector<Placement> all;
-  for (const bool at_end : {false, true}) {
-    for (std::size_t distance = 0; distance < 64; distance += float_size) {
-      all.push_back({at_end, distance});
-    }
-  }
-  return all;
-}
-
 namespace fault_trap {
 namespace {
 

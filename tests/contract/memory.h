@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <span>
 #include <string>
-#include <vector>
 
 namespace haldgen::test {
 
@@ -42,10 +41,6 @@ struct Placement {
            " of its pages";
   }
 };
-
-/// Both ends of the pages, and from each all distances below 64 bytes that keep the alignment of a
-/// float of this size.
-std::vector<Placement> placements(std::size_t float_size);
 
 /// What faults() and its signal handler share.
 namespace fault_trap {

@@ -27,14 +27,28 @@ bool holds(std::span<const std::byte> bytes, std::size_t offset, const std::vect
          std::all_of(behind.begin(), behind.end(), is_canary);
 }
 
+// Both ends of the pages. Complex arrays need the alignment of a float; others may begin at any
+// byte.
+template <class Float>
+std::vector<Placement> placements(const Transform<Float>& transform) {
+  const bool real = transform.word->elements[0] == names::Element::f32;
+  std::vector<Placement> all;
+  for (const bool at_end : {false, true}) {
+    for (std::size_t distance = 0; distance < (real ? 16 : 64);
+         distance += real ? 1 : sizeof(Float)) {
+      all.push_back({at_end, distance});
+    }
+  }
+  return all;
+}
+
 // Puts floats at a place in pages that otherwise hold the canary; where they are.
 template <class Float>
 std::size_t put(const GuardedPages& pages, const Placement& place, std::size_t array_floats,
                 const std::vector<Float>& floats) {
   const std::size_t offset = place.offset(array_floats * sizeof(Float), pages.bytes().size());
   fill(pages.bytes());
-  std::copy_n(floats.data(), floats.size(),
-              reinterpret_cast<Float*>(pages.bytes().data() + offset));
+  std::ranges::copy(std::as_bytes(std::span(floats)), pages.bytes().data() + offset);
   return offset;
 }
 
@@ -44,11 +58,11 @@ void check_separate_arrays(const Transform<Float>& transform) {
   const std::vector<Float> expected = result(transform, input, haldScaleBySqrtN);
   const GuardedPages src(transform.src_floats * sizeof(Float) + 64);
   const GuardedPages dst(transform.dst_floats * sizeof(Float) + 64);
-  for (const Placement& from : placements(sizeof(Float))) {
+  for (const Placement& from : placements(transform)) {
     src.allow(GuardedPages::Access::write);
     const std::size_t read_at = put(src, from, input.size(), input);
     src.allow(GuardedPages::Access::read);
-    for (const Placement& to : placements(sizeof(Float))) {
+    for (const Placement& to : placements(transform)) {
       const std::size_t write_at = put<Float>(dst, to, expected.size(), {});
       const std::string where = transform.name + ", src " + from.text() + ", dst " + to.text();
       volatile std::int32_t status = 1;
@@ -71,7 +85,7 @@ void check_in_place(const Transform<Float>& transform) {
   // Behind a result that is shorter than the source, the source stays.
   for (std::size_t i = expected.size(); i < input.size(); ++i) expected.push_back(input[i]);
   const GuardedPages pages(expected.size() * sizeof(Float) + 64);
-  for (const Placement& place : placements(sizeof(Float))) {
+  for (const Placement& place : placements(transform)) {
     const std::size_t offset = put(pages, place, expected.size(), input);
     auto* array = reinterpret_cast<Float*>(pages.bytes().data() + offset);
     const std::string where = transform.name + " in place, " + place.text();

@@ -91,9 +91,7 @@ void check_sizes(const GeneralEntry<Float>& entry) {
   std::set<std::int32_t> bad = {INT_MIN, INT_MAX};
   for (std::int32_t size = -300; size <= 600; ++size) bad.insert(size);
   for (int bit = 10; bit < 31; ++bit) bad.insert({1 << bit, (1 << bit) + 2, -(1 << bit)});
-  for (int size = 0; size <= frame::max_size; ++size) {
-    if (entry.family->live.contains(size)) bad.erase(size);
-  }
+  for (const int size : entry.word->sizes) bad.erase(size);
   const ClosedArrays arrays(sizeof(Float));
   for (const std::int32_t size : bad) {
     for (const std::int32_t flag : {0, 3, -1, static_cast<int>(haldScaleNone)}) {

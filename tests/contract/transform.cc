@@ -1,73 +1,15 @@
-// Finds the live functions in the library and describes their arrays.
+// Finds the live functions and describes their arrays.
 #include "tests/contract/transform.h"
 
-#include <dlfcn.h>
-
-#include <cstddef>
-#include <stdexcept>
-#include <type_traits>
-
-#include "frame/arrays.h"
+#include "bits/calls.h"
+#include "bits/linked.h"
+#include "names/arrays.h"
 
 namespace haldgen::test {
 namespace {
 
-using frame::Element;
-using frame::Export;
-using frame::Signature;
-
-// The float type that arrays of an element type consist of.
-template <class Array>
-struct FloatOf {
-  using Type = Array;
-};
-template <>
-struct FloatOf<Cplx32> {
-  using Type = float;
-};
-template <>
-struct FloatOf<Cplx64> {
-  using Type = double;
-};
-
-void* library() {
-  static void* const handle = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-  if (handle == nullptr) throw std::runtime_error(dlerror());
-  return handle;
-}
-
-template <class Function>
-Function* resolve(const std::string& name) {
-  auto* function = reinterpret_cast<Function*>(dlsym(library(), name.c_str()));
-  if (function == nullptr) throw std::runtime_error("the library has no " + name);
-  return function;
-}
-
-template <class Float, class Array>
-void add_fixed(const Export& entry, Live<Float>& all) {
-  auto* function = resolve<std::int32_t(const Array*, Array*, std::int32_t)>(entry.name);
-  const frame::Arrays arrays = frame::arrays(*entry.family, entry.size);
-  all.fixed.push_back(
-      {entry.name, entry.family, entry.element, entry.size, arrays.points, arrays.src_floats,
-       arrays.dst_floats, [function](const Float* src, Float* dst, std::int32_t flag) {
-         return function(reinterpret_cast<const Array*>(src), reinterpret_cast<Array*>(dst), flag);
-       }});
-}
-
-template <class Float, class Call>
-void add_general_call(const Export& entry, const Call& call, Live<Float>& all) {
-  all.general.push_back({entry.name, entry.family, call});
-  for (int size = entry.family->sizes.first; size <= entry.family->sizes.last; ++size) {
-    if (!entry.family->live.contains(size)) continue;
-    const frame::Arrays arrays = frame::arrays(*entry.family, size);
-    all.through_general.push_back({entry.name + " at " + std::to_string(size), entry.family,
-                                   entry.element, size, arrays.points, arrays.src_floats,
-                                   arrays.dst_floats,
-                                   [call, size](const Float* src, Float* dst, std::int32_t flag) {
-                                     return call(src, dst, size, flag);
-                                   }});
-  }
-}
+using names::Element;
+using registry::Export;
 
 // A work area of the calling thread, 16-byte aligned, for any order.
 std::uint8_t* work_area() {
@@ -78,63 +20,47 @@ std::uint8_t* work_area() {
 
 // A buffered transform is called with a work area by its own name, and without one through its
 // general entry.
-template <class Float, class Array>
-void add_general(const Export& entry, Live<Float>& all) {
-  auto* function =
-      resolve<std::int32_t(const Array*, Array*, std::int32_t, std::int32_t)>(entry.name);
-  const auto call = [function](const Float* src, Float* dst, std::int32_t size, std::int32_t flag) {
-    return function(reinterpret_cast<const Array*>(src), reinterpret_cast<Array*>(dst), size, flag);
+template <class Array>
+auto call_of(const Export& entry, int size) {
+  using Float = typename bits::FloatOf<Array>::Type;
+  const bits::Address address = bits::linked()(entry.name);
+  if (address == nullptr) throw std::runtime_error("the library has no " + entry.name);
+  const bool general = is_general(*entry.word);
+  return [general, call = bits::flagged_call<Array>(address, entry.word->signature, size)](
+             const Float* src, Float* dst, std::int32_t flag) {
+    return call(reinterpret_cast<const Array*>(src), reinterpret_cast<Array*>(dst), flag,
+                general ? nullptr : work_area());
   };
-  add_general_call(entry, call, all);
 }
 
-template <class Float>
-void add_buffered_general(const Export& entry, Live<Float>& all) {
-  auto* function =
-      resolve<std::int32_t(const Float*, Float*, std::int32_t, std::int32_t, std::uint8_t*)>(
-          entry.name);
-  const auto call = [function](const Float* src, Float* dst, std::int32_t size, std::int32_t flag) {
-    return function(src, dst, size, flag, nullptr);
-  };
-  add_general_call(entry, call, all);
-}
-
-template <class Float>
-void add_buffered_fixed(const Export& entry, Live<Float>& all) {
-  auto* function =
-      resolve<std::int32_t(const Float*, Float*, std::int32_t, std::uint8_t*)>(entry.name);
-  const frame::Arrays arrays = frame::arrays(*entry.family, entry.size);
-  all.fixed.push_back({entry.name, entry.family, entry.element, entry.size, arrays.points,
-                       arrays.src_floats, arrays.dst_floats,
-                       [function](const Float* src, Float* dst, std::int32_t flag) {
-                         return function(src, dst, flag, work_area());
-                       }});
-}
-
-template <class Array, class Float = typename FloatOf<Array>::Type>
+template <class Array, class Float>
 void add(const Export& entry, Live<Float>& all) {
-  switch (entry.family->signature) {
-    case Signature::transform:
-      return add_fixed<Float, Array>(entry, all);
-    case Signature::sized_transform:
-      return add_general<Float, Array>(entry, all);
-    case Signature::buffered_transform:
-      if constexpr (std::is_same_v<Array, Float>) return add_buffered_fixed<Float>(entry, all);
-      break;
-    case Signature::sized_buffered_transform:
-      if constexpr (std::is_same_v<Array, Float>) return add_buffered_general<Float>(entry, all);
-      break;
-    default:
-      break;
+  const auto transform = [&entry](int size, const std::string& name) {
+    const names::Arrays arrays = names::arrays(*entry.word, size);
+    return Transform<Float>{
+        name,          entry.word,        entry.element,     size,
+        arrays.points, arrays.src_floats, arrays.dst_floats, call_of<Array>(entry, size)};
+  };
+  if (!is_general(*entry.word)) {
+    all.fixed.push_back(transform(entry.size, entry.name));
+    return;
   }
-  throw std::logic_error("no way to call " + entry.name);
+  all.general.push_back(
+      {entry.name, entry.word,
+       [&entry](const Float* src, Float* dst, std::int32_t size, std::int32_t flag) {
+         return call_of<Array>(entry, size)(src, dst, flag);
+       }});
+  for (const int size : entry.word->sizes) {
+    all.through_general.push_back(transform(size, entry.name + " at " + std::to_string(size)));
+  }
 }
 
 template <class Float, class Real, class Complex>
 Live<Float> find(Element real, Element complex) {
+  static const std::vector<Export> exports = registry::exports();
   Live<Float> all;
-  for (const Export& entry : frame::live_exports()) {
-    if (entry.family->scaling == frame::Scaling::none) continue;
+  for (const Export& entry : exports) {
+    if (entry.word->usage.scaling == names::Scaling::none) continue;
     if (entry.element == real) add<Real>(entry, all);
     if (entry.element == complex) add<Complex>(entry, all);
   }

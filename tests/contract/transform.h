@@ -1,21 +1,18 @@
-// The live transforms as callable objects, all alike: floats in, floats out, a flag. What differs
-// from family to family is described here and in reference.h, and nowhere else in the tests.
+// The live transforms as callable objects, all alike: floats in, floats out, a flag.
 #pragma once
 
 #include <gtest/gtest.h>
 #include <haldgen.h>
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <functional>
-#include <random>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "frame/families.h"
+#include "registry/registry.h"
+#include "tests/built/floats.h"
 #include "tests/contract/memory.h"
 
 namespace haldgen::test {
@@ -26,8 +23,8 @@ struct Transform {
   using Float = FloatType;
 
   std::string name;  ///< as failures print it
-  const frame::Family* family;
-  frame::Element element;
+  const names::Word* word;
+  names::Element element;
   int size;                ///< length or order
   int points;              ///< the N of the scales 1/N and 1/sqrt(N)
   std::size_t src_floats;  ///< floats that are read
@@ -41,13 +38,12 @@ struct GeneralEntry {
   using Float = FloatType;
 
   std::string name;
-  const frame::Family* family;
+  const names::Word* word;
   std::function<std::int32_t(const Float* src, Float* dst, std::int32_t size, std::int32_t flag)>
       call;
 };
 
-/// The live transforms on 32-bit or 64-bit floats. A live function that takes a scaling flag and is
-/// not described in transform.cc makes this throw.
+/// The live transforms on 32-bit or 64-bit floats.
 template <class Float>
 struct Live {
   std::vector<Transform<Float>> fixed;            ///< by their own names
@@ -81,25 +77,12 @@ void for_each_fixed(Visitor&& visit) {
 template <class Float>
 const Transform<Float>* sibling(const Transform<Float>& transform, std::string_view word) {
   for (const auto& other : live<Float>().fixed) {
-    if (other.family->word == word && other.size == transform.size &&
+    if (other.word->word == word && other.size == transform.size &&
         other.element == transform.element) {
       return &other;
     }
   }
   return nullptr;
-}
-
-inline constexpr std::array<std::int32_t, 4> flags = {haldScaleFwdByN, haldScaleInvByN,
-                                                      haldScaleBySqrtN, haldScaleNone};
-
-/// `count` floats, each uniform in [-1, 1).
-template <class Float>
-std::vector<Float> random_floats(std::size_t count, unsigned seed) {
-  std::mt19937 random(seed);
-  std::uniform_real_distribution<Float> uniform(-1, 1);
-  std::vector<Float> floats(count);
-  for (Float& value : floats) value = uniform(random);
-  return floats;
 }
 
 /// The result of one call on arrays of its own; a fault or another status than haldStatusOk throws.
@@ -115,16 +98,6 @@ std::vector<Float> result(const Transform<Float>& transform, const std::vector<F
   }
   if (status != haldStatusOk) throw std::runtime_error(transform.name + " refuses a valid call");
   return {dst.begin() + margin, dst.end() - margin};
-}
-
-/// Whether the floats are the same bit for bit: -0 differs from 0, a NaN equals itself.
-template <class Float>
-bool same_bits(const Float* a, const Float* b, std::size_t count) {
-  return std::memcmp(a, b, count * sizeof(Float)) == 0;
-}
-template <class Float>
-bool same_bits(const std::vector<Float>& a, const std::vector<Float>& b) {
-  return a.size() == b.size() && same_bits(a.data(), b.data(), a.size());
 }
 
 }  // namespace haldgen::test

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <random>
 
 #include "tests/contract/reference.h"
 #include "tests/contract/transform.h"
@@ -38,7 +39,7 @@ struct Error {
 template <class Float>
 Error error(const Transform<Float>& transform, const std::vector<Float>& src) {
   const std::vector<long double> exact = definition(
-      transform.family->word, transform.points, std::vector<long double>(src.begin(), src.end()));
+      transform.word->word, transform.points, std::vector<long double>(src.begin(), src.end()));
   const std::vector<Float> computed = result(transform, src);
   Error sums;
   for (std::size_t i = 0; i < exact.size(); ++i) {
@@ -57,15 +58,15 @@ std::vector<Float> spread_floats(std::size_t count, unsigned seed) {
   return floats;
 }
 
-template <class Float>
-std::vector<Float> impulse(std::size_t count, std::size_t at, Float value) {
-  std::vector<Float> floats(count);
-  floats[at] = value;
-  return floats;
+// Pack and Perm hold the bits of CCS.
+bool repeats_another(const names::Word& family) {
+  return family.word.find("Pack") != std::string_view::npos ||
+         family.word.find("Perm") != std::string_view::npos;
 }
 
 TEST(Value, RandomInputIsWithinTheErrorBounds) {
   for_each_fixed([]<class Float>(const Transform<Float>& transform) {
+    if (repeats_another(*transform.word)) return;
     long double worst = 0;
     Error all;
     for (unsigned seed = 10; seed < 30; ++seed) {
@@ -81,39 +82,23 @@ TEST(Value, RandomInputIsWithinTheErrorBounds) {
 
 TEST(Value, ImpulsesAreWithinTheErrorBound) {
   for_each_fixed([]<class Float>(const Transform<Float>& transform) {
-    for (std::size_t at = 0; at < transform.src_floats; ++at) {
-      const auto src = impulse<Float>(transform.src_floats, at, 1);
+    // Walsh-Hadamard transforms have no twiddles, and many points.
+    if (repeats_another(*transform.word) || transform.word->word == "WHT") return;
+    std::vector<Float> src(transform.src_floats);
+    for (std::size_t at = 0; at < src.size(); ++at) {
+      src[at] = 1;
       EXPECT_LE(error(transform, src).relative(transform), bound_of_one_call)
           << transform.name << ", impulse at float " << at;
+      src[at] = 0;
     }
   });
-}
-
-// No rounding depends on the exponent, far from overflow and underflow.
-TEST(Value, PowersOfTwoPassThrough) {
-  for_each_fixed([]<class Float>(const Transform<Float>& transform) {
-    const int reach = std::numeric_limits<Float>::max_exponent / 2;
-    const std::vector<Float> src = random_floats<Float>(transform.src_floats, 6);
-    const std::vector<Float> plain = result(transform, src);
-    for (const int exponent : {-reach, reach}) {
-      std::vector<Float> scaled = src;
-      std::vector<Float> expected = plain;
-      for (Float& value : scaled) value = std::ldexp(value, exponent);
-      for (Float& value : expected) value = std::ldexp(value, exponent);
-      EXPECT_TRUE(same_bits(result(transform, scaled), expected))
-          << transform.name << ", input scaled by 2^" << exponent;
-    }
-  });
-}
-
-bool is_complex_dft(const frame::Family& family) {
-  return family.word == "DFTFwd_CToC" || family.word == "DFTInv_CToC";
 }
 
 // Every output of a DFT depends on every input, so none may stay finite.
-TEST(Value, NonFiniteInputReachesEveryOutputOfTheComplexTransforms) {
+TEST(Value, NonFiniteInputReachesEveryBin) {
   for_each_fixed([]<class Float>(const Transform<Float>& transform) {
-    if (!is_complex_dft(*transform.family)) return;
+    const std::string_view word = transform.word->word;
+    if (!word.ends_with("CToC") && word != "DFTFwd_RToCCS") return;
     constexpr Float inf = std::numeric_limits<Float>::infinity();
     for (const Float value : {std::numeric_limits<Float>::quiet_NaN(), inf, -inf}) {
       for (std::size_t at = 0; at < transform.src_floats; ++at) {
@@ -130,26 +115,6 @@ TEST(Value, NonFiniteInputReachesEveryOutputOfTheComplexTransforms) {
       }
     }
   });
-}
-
-TEST(Value, UnitImpulseIsExactAtTheSmallestComplexLengths) {
-  int checked = 0;
-  for_each_fixed([&]<class Float>(const Transform<Float>& transform) {
-    if (!is_complex_dft(*transform.family) || transform.size > 5) return;
-    ++checked;
-    const std::vector<Float> src = impulse<Float>(transform.src_floats, 0, 1);
-    const std::int32_t by_n =
-        transform.family->scaling == frame::Scaling::forward ? haldScaleFwdByN : haldScaleInvByN;
-    const std::vector<Float> ones = result(transform, src, haldScaleNone);
-    const std::vector<Float> fractions = result(transform, src, by_n);
-    for (std::size_t k = 0; k < ones.size(); k += 2) {
-      EXPECT_EQ(ones[k], 1) << transform.name;
-      EXPECT_EQ(ones[k + 1], 0) << transform.name;
-      EXPECT_EQ(fractions[k], 1 / static_cast<Float>(transform.size)) << transform.name;
-      EXPECT_EQ(fractions[k + 1], 0) << transform.name;
-    }
-  });
-  EXPECT_GT(checked, 0);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The two stages of a planned transform: what lies between them, and what each does with classes
+// The stages of a planned transform: recombination at any radix, and what each does with classes
 // and marks that no plan has.
 #include "dct4/execution.h"
 
@@ -7,9 +7,9 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
-#include <random>
 
 #include "dct4/tables.h"
+#include "tests/built/floats.h"
 #include "tests/dct4/state.h"
 
 namespace haldgen::dct4 {
@@ -19,11 +19,7 @@ using test::OwnState;
 
 template <class Float>
 std::vector<Float> random_floats(int count) {
-  std::mt19937 random(1);
-  std::uniform_real_distribution<Float> uniform(-1, 1);
-  std::vector<Float> floats(static_cast<std::size_t>(count));
-  for (Float& value : floats) value = uniform(random);
-  return floats;
+  return haldgen::test::random_floats<Float>(static_cast<std::size_t>(count), 1);
 }
 
 template <class Float>
@@ -36,41 +32,6 @@ template <class Float>
 const Float* aligned(const std::vector<Float>& floats) {
   const auto beyond = reinterpret_cast<std::uintptr_t>(floats.data()) % 32;
   return floats.data() + (32 - beyond) % 32 / sizeof(Float);
-}
-
-/// Re and Im Z(j, b) by definition.
-template <class Float>
-std::pair<long double, long double> folded(const std::vector<Float>& x, int radix, int j, int b) {
-  const int m = static_cast<int>(x.size()) / radix;
-  long double re = 0, im = 0;
-  for (int t = -m / 2; t < m / 2; ++t) {
-    const int n = t >= 0 ? 2 * radix * t + j : 2 * radix * -t - 1 - j;
-    const long double angle = std::numbers::pi_v<long double> *
-                              static_cast<long double>(std::int64_t{t} * (2 * b + 1) % (2 * m)) / m;
-    re += x[static_cast<std::size_t>(n)] * std::cos(angle);
-    im += x[static_cast<std::size_t>(n)] * std::sin(angle);
-  }
-  return {re, im};
-}
-
-// Lengths with one pass, with one inner plan and with two.
-TYPED_TEST(Execution, FirstStageLeavesFoldsInBlocks) {
-  for (const int length : {64, 512, 2048, 4096, 16384, 131072}) {
-    OwnState<TypeParam> state(length);
-    const auto x = random_floats<TypeParam>(length);
-    ASSERT_EQ(fold_pass(*state.folds(), state.scratch(), x.data()), haldStatusOk);
-    const int radix = state->radix, blocks = length / (2 * radix);
-    const long double bound =
-        2 * std::sqrt(length / radix) * std::numeric_limits<TypeParam>::epsilon();
-    std::mt19937 random(2);
-    for (int sample = 0; sample < 100; ++sample) {
-      const int j = static_cast<int>(random() % static_cast<unsigned>(radix));
-      const int b = static_cast<int>(random() % static_cast<unsigned>(blocks));
-      const auto [re, im] = folded(x, radix, j, b);
-      EXPECT_LE(std::abs(state.scratch()[2 * radix * b + j] - re), bound) << length << " " << j;
-      EXPECT_LE(std::abs(state.scratch()[2 * radix * b + radix + j] - im), bound) << length;
-    }
-  }
 }
 
 /// A recombination of any radix r and any m; the rotations are those of this length.

@@ -7,10 +7,12 @@
 
 #include "dct4/walk.h"
 #include "kernelgen/evaluate.h"
+#include "kernelgen/integers.h"
 
 namespace haldgen::dct4 {
 namespace {
 
+using kernelgen::at;
 using kernelgen::Wide;
 using kernelgen::WideComplex;
 
@@ -31,8 +33,6 @@ WideComplex half_turn(std::int64_t numerator, std::int64_t denominator) {
 void expect_equal(Wide actual, Wide expected, const std::string& what) {
   EXPECT_LT(abs(actual - expected).hi, 1e-27) << what;
 }
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 TEST(Factorisation, FoldsAreTransformsWithOddFrequencies) {
   for (int m = 2; m <= 128; m *= 2) {
@@ -94,20 +94,6 @@ TEST(Factorisation, InnerStepsJoinFolds) {
         expect_equal(z[at(2 * p)].re, sum.re, what);
         expect_equal(z[at(2 * p + 1)].re, sum.im, what);
       }
-    }
-  }
-}
-
-TEST(Factorisation, FixedGraphsAreTheDefinition) {
-  for (int n = 2; n <= 32; n *= 2) {
-    const auto x = random_inputs(n, 4);
-    const auto y = evaluate(fixed_graph(n), x);
-    for (int k = 0; k < n; ++k) {
-      Wide sum;
-      for (int i = 0; i < n; ++i) {
-        sum += x[at(i)].re * half_turn(std::int64_t{2 * i + 1} * (2 * k + 1), 4 * n).re;
-      }
-      expect_equal(y[at(k)].re, sum, "length " + std::to_string(n) + ", k " + std::to_string(k));
     }
   }
 }

@@ -4,13 +4,22 @@
 #include <gtest/gtest.h>
 #include <haldgen.h>
 
-#include <cstring>
-#include <random>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "tests/built/floats.h"
+
 namespace haldgen::dct4::test {
+
+using haldgen::test::identical;
+
+template <class Float>
+std::vector<Float> random_floats(std::int32_t count, unsigned seed) {
+  return haldgen::test::random_floats<Float>(static_cast<std::size_t>(count), seed);
+}
+
+using FloatTypes = ::testing::Types<float, double>;
 
 template <class Float>
 struct Functions;
@@ -57,21 +66,5 @@ class State {
  private:
   Dct4State* state_ = nullptr;
 };
-
-template <class Float>
-std::vector<Float> random_floats(std::int32_t count, unsigned seed) {
-  std::mt19937 random(seed);
-  std::uniform_real_distribution<Float> uniform(-1, 1);
-  std::vector<Float> floats(static_cast<std::size_t>(count));
-  for (Float& value : floats) value = uniform(random);
-  return floats;
-}
-
-template <class Float>
-bool same_bits(const std::vector<Float>& a, const std::vector<Float>& b) {
-  return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(Float)) == 0;
-}
-
-using FloatTypes = ::testing::Types<float, double>;
 
 }  // namespace haldgen::dct4::test

@@ -85,14 +85,6 @@ TYPED_TEST(Plan, OfTheSmallestPlannedLength) {
   EXPECT_EQ(item_count(folds->ownedNodes.get()), 0);
 }
 
-TYPED_TEST(Plan, LargestWithoutAnInnerOne) {
-  OwnState<TypeParam> state(2048);
-  EXPECT_EQ(state->radix, 32);
-  EXPECT_EQ(state.recombination()->tableClass, 6);
-  EXPECT_EQ(state.folds()->foldClass, 6);
-  EXPECT_EQ(item_count(state.folds()->stageList.get()), 0);
-}
-
 /// The inner plans from the outside in, as radix and sub-length.
 template <class Float>
 std::vector<std::pair<int, int>> inner_levels(OwnState<Float>& state) {
@@ -133,16 +125,6 @@ TYPED_TEST(Plan, InnerPlansNest) {
   for (const auto& [length, levels] : expected) {
     OwnState<TypeParam> state(length);
     EXPECT_EQ(inner_levels(state), levels) << length;
-  }
-}
-
-TYPED_TEST(Plan, FixedLengthsHoldNothing) {
-  for (const int length : {2, 32}) {
-    OwnState<TypeParam> state(length);
-    EXPECT_EQ(state->sizeClass, length == 2 ? 1 : 5);
-    EXPECT_EQ(state->scratch.get(), nullptr);
-    EXPECT_EQ(item_count(state->ownedNodes.get()), 0);
-    EXPECT_EQ(state.position(), 224);
   }
 }
 

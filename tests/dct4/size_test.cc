@@ -4,34 +4,21 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <fstream>
 #include <set>
-#include <sstream>
+#include <string>
+
+#include "tests/kernels/table.h"
 
 namespace haldgen::dct4 {
 namespace {
 
 TEST(Sizes, EveryRowOfTheTable) {
-  std::ifstream file(SIZES_PATH);
-  std::string line;
-  std::getline(file, line);
-  ASSERT_EQ(line, "length\tbytes_32f\tbytes_64f");
-  int rows = 0;
-  while (std::getline(file, line)) {
-    ++rows;
-    std::istringstream columns(line);
-    int length = 0, bytes_32f = 0, bytes_64f = 0;
-    columns >> length >> bytes_32f >> bytes_64f;
-    EXPECT_EQ(state_size(length, 4), bytes_32f) << length;
-    EXPECT_EQ(state_size(length, 8), bytes_64f) << length;
-  }
-  EXPECT_EQ(rows, 12);
-}
-
-TEST(Sizes, FixedLengthsAllNeedTheSame) {
-  for (const int length : {2, 4, 8, 16, 32}) {
-    EXPECT_EQ(state_size(length, 4), 224) << length;
-    EXPECT_EQ(state_size(length, 8), 224) << length;
+  auto rows = haldgen::test::table(SIZES_PATH, "length\tbytes_32f\tbytes_64f");
+  EXPECT_EQ(rows.size(), 12U);
+  for (const char* length : {"2", "4", "8", "16", "32"}) rows[length] = "224\t224";
+  for (const auto& [length, bytes] : rows) {
+    const int n = std::stoi(length);
+    EXPECT_EQ(haldgen::test::row({*state_size(n, 4), *state_size(n, 8)}), bytes) << length;
   }
 }
 
@@ -52,27 +39,12 @@ TEST(Sizes, SumsWrapIn32Bits) {
 }
 
 TEST(Sizes, RadixByHalfLength) {
-  const auto radix = [](int v) { return pick_radix(v); };
   // At each threshold, just below it, and where the larger divisor does not divide.
-  EXPECT_EQ(radix(512), 32);
-  EXPECT_EQ(radix(511), 0);
-  EXPECT_EQ(radix(496), 16);
-  EXPECT_EQ(radix(528), 16);
-  EXPECT_EQ(radix(128), 16);
-  EXPECT_EQ(radix(112), 8);
-  EXPECT_EQ(radix(136), 8);
-  EXPECT_EQ(radix(32), 8);
-  EXPECT_EQ(radix(24), 4);
-  EXPECT_EQ(radix(36), 4);
-  EXPECT_EQ(radix(16), 4);
-  EXPECT_EQ(radix(12), 2);
-  EXPECT_EQ(radix(18), 2);
-  EXPECT_EQ(radix(4), 2);
-  EXPECT_EQ(radix(2), 0);
-  EXPECT_EQ(radix(17), 0);
-  EXPECT_EQ(radix(0), 0);
-  EXPECT_EQ(radix(-512), 0);
-  EXPECT_EQ(radix(INT_MIN / 2), 0);
+  const std::pair<int, int> expected[] = {
+      {512, 32}, {511, 0}, {496, 16}, {528, 16}, {128, 16},       {112, 8}, {136, 8},
+      {32, 8},   {24, 4},  {36, 4},   {16, 4},   {12, 2},         {18, 2},  {4, 2},
+      {2, 0},    {17, 0},  {0, 0},    {-512, 0}, {INT_MIN / 2, 0}};
+  for (const auto& [v, radix] : expected) EXPECT_EQ(pick_radix(v), radix) << v;
 }
 
 TEST(Sizes, AcceptedLengths) {

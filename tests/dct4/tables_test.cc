@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <numbers>
 #include <span>
 
 #include "dct4/passes.h"
@@ -81,39 +80,6 @@ TYPED_TEST(Tables, InnerRotationsFillWholeVectors) {
       }
     }
   }
-}
-
-TEST(TableValues, FirstVectorsAt64Points) {
-  OwnState<float> state(64);
-  const auto table = entries<float>(state.recombination()->table, 64);
-  const float expected[] = {0.99992472F,  0.99932235F,  0.99811810F,  0.99631262F,
-                            0.012271538F, 0.036807224F, 0.061320737F, 0.085797310F};
-  for (std::size_t i = 0; i < 8; ++i) EXPECT_FLOAT_EQ(table[i], expected[i]);
-  // Then come the cosines of the last j.
-  EXPECT_FLOAT_EQ(table[8], std::cos(15 * std::numbers::pi_v<float> / 256));
-}
-
-TEST(TableValues, WalkOfRadix32At2048Points) {
-  OwnState<double> state(2048);
-  const auto table = entries<double>(state.recombination()->table, 2048);
-  // Vectors of two: cosines and sines of j = 0, 31, 16.
-  EXPECT_DOUBLE_EQ(table[4], std::cos(63 * std::numbers::pi / 8192));
-  EXPECT_DOUBLE_EQ(table[6], std::sin(63 * std::numbers::pi / 8192));
-  EXPECT_DOUBLE_EQ(table[8], std::cos(33 * std::numbers::pi / 8192));
-  EXPECT_DOUBLE_EQ(table[11], std::sin(33 * 3 * std::numbers::pi / 8192));
-}
-
-// At powers of two the angles are exact. Elsewhere the rounding of an angle to 32 bits shows.
-TEST(TableValues, Angles32fAreRoundedFirst) {
-  OwnState<float> state(8193);
-  const auto table = entries<float>(state.recombination()->table, 8192);
-  int different = 0;
-  for (int b = 0; b < 4; ++b) {
-    const float exact =
-        static_cast<float>(std::sin((2 * b + 1) * std::numbers::pi_v<long double> / (4 * 8193.0L)));
-    different += table[static_cast<std::size_t>(4 + b)] != exact ? 1 : 0;
-  }
-  EXPECT_GT(different, 0);
 }
 
 }  // namespace

@@ -110,26 +110,11 @@ INSTANTIATE_TEST_SUITE_P(Cuttings, EveryFrame,
                                          Cutting{64, 16, 17}, Cutting{5, 3, 200}, Cutting{2, 1, 9},
                                          Cutting{32, 7, 500}));
 
-TEST(ShortTimeSpectrum, DoesNotDependOnTheBlocks) {
-  const std::vector<float> samples = uneven(5000);
-  const Frames whole = analyse(samples, 64, 16, 5000);
-  EXPECT_EQ(analyse(samples, 64, 16, 1), whole);
-  EXPECT_EQ(analyse(samples, 64, 16, 333), whole);
-}
-
 TEST(ShortTimeSpectrum, SineOfFullScaleHasPowerOne) {
   const Frames frames = analyse(sine(1000, 5.0 / 64), 64, 16, 1000);
   EXPECT_NEAR(frames[20][5], 1.0, 1e-5);
   EXPECT_NEAR(frames[21][5], 1.0, 1e-5);
   EXPECT_LT(frames[20][12], 1e-10);
-}
-
-TEST(ShortTimeSpectrum, RefusesLengthsThatTheLibraryRefuses) {
-  EXPECT_NO_THROW(require_length(64));
-  EXPECT_NO_THROW(require_length(2));
-  EXPECT_THROW(require_length(1), Failure);
-  EXPECT_THROW(require_length(65), Failure);
-  EXPECT_THROW(require_length(-64), Failure);
 }
 
 std::vector<float> decimated(const std::vector<float>& samples, int factor, std::size_t block) {
@@ -167,11 +152,6 @@ TEST(Decimator, RemovesWhatWouldFoldDown) {
   EXPECT_LT(largest_inside(decimated(sine(6000, 0.42), 3, 6000)), 1e-3);
 }
 
-TEST(Decimator, PassesEverythingUnchangedAtFactorOne) {
-  const std::vector<float> samples = uneven(1000);
-  EXPECT_EQ(decimated(samples, 1, 64), samples);
-}
-
 TEST(Decimator, FactorKeepsTheWantedBand) {
   EXPECT_EQ(decimation_factor(48000, 8000), 3);
   EXPECT_EQ(decimation_factor(44100, 8000), 2);
@@ -203,16 +183,6 @@ TEST(TimeGrid, SlicesFollowTime) {
   }
   EXPECT_GT(grid.slice(99, 100)[0], 700);
   EXPECT_GT(grid.peak(), 760);
-}
-
-TEST(TimeGrid, SlicesOfFewFramesRepeat) {
-  TimeGrid grid(1);
-  grid.add(std::vector<double>{1.0});
-  grid.add(std::vector<double>{2.0});
-  EXPECT_EQ(grid.slice(0, 10)[0], 1.0);
-  EXPECT_EQ(grid.slice(4, 10)[0], 1.0);
-  EXPECT_EQ(grid.slice(5, 10)[0], 2.0);
-  EXPECT_EQ(grid.slice(9, 10)[0], 2.0);
 }
 
 TEST(Colours, BrightnessRisesWithTheLevel) {

@@ -1,20 +1,29 @@
 #!/bin/sh
-# run.sh CMAKE BUILD_DIR SCRATCH_DIR CC GENERATOR
-# Installs, moves the installed tree, and builds and runs the consumer by way of the CMake package
-# and of pkg-config.
+# run.sh CMAKE SOURCE_DIR BUILD_DIR SCRATCH_DIR CC GENERATOR
+# Installs, moves the installed tree, and builds and runs programs by way of the CMake package and of
+# pkg-config.
 set -eu
-cmake=$1 build=$2 scratch=$3 cc=$4 generator=$5
-source=$(cd "$(dirname "$0")" && pwd)/consumer
+cmake=$1 source=$2 build=$3 scratch=$4 cc=$5 generator=$6
+consumer=$source/tests/install/consumer
 
 rm -rf "$scratch"
 "$cmake" --install "$build" --prefix "$scratch/made" >/dev/null
 mv "$scratch/made" "$scratch/moved"
 
 echo "CMake package:"
-"$cmake" -S "$source" -B "$scratch/build" -G "$generator" -DCMAKE_C_COMPILER="$cc" \
-  -DCMAKE_PREFIX_PATH="$scratch/moved" >/dev/null
+configure() {
+  "$cmake" -S "$consumer" -B "$scratch/$1" -G "$generator" -DCMAKE_C_COMPILER="$cc" \
+    -DCMAKE_PREFIX_PATH="$scratch/moved" -DWANTED="$2"
+}
+configure build 8.1 >/dev/null
 "$cmake" --build "$scratch/build" >/dev/null
 "$scratch/build/consumer"
+for other in 7.0 8.2; do
+  if configure "$other" "$other" >/dev/null 2>&1; then
+    echo "8.1 passes for $other"
+    exit 1
+  fi
+done
 
 echo "pkg-config:"
 PKG_CONFIG_PATH=$(dirname "$(find "$scratch/moved" -name haldgenp8.pc)")
@@ -22,7 +31,31 @@ export PKG_CONFIG_PATH
 libdir=$(pkg-config --variable=libdir haldgenp8)
 # The flags are lists of words.
 # shellcheck disable=SC2046
-"$cc" -o "$scratch/consumer" "$source/consumer.c" \
+"$cc" -o "$scratch/consumer" "$consumer/consumer.c" \
   $(pkg-config --cflags --libs haldgenp8 haldcore) -lm -Wl,-rpath,"$libdir"
 "$scratch/consumer"
-test "$(pkg-config --modversion haldgenp8)" = 8.1.0
+# Each of the two by itself, the first as the README says.
+awk '/^```c$/ { inside = 1; next } /^```/ { inside = 0 } inside' "$source/README.md" \
+  >"$scratch/program.c"
+echo '#include <haldcore.h>
+int main(void) { haldFree(haldMalloc(64)); return 0; }' >"$scratch/core.c"
+# shellcheck disable=SC2046
+"$cc" "$scratch/program.c" $(pkg-config --cflags --libs haldgenp8) -o "$scratch/program"
+LD_LIBRARY_PATH=$libdir "$scratch/program" >/dev/null
+# shellcheck disable=SC2046
+"$cc" "$scratch/core.c" $(pkg-config --cflags --libs haldcore) -o "$scratch/core"
+LD_LIBRARY_PATH=$libdir "$scratch/core"
+for package in haldgenp8 haldcore; do
+  test "$(pkg-config --modversion "$package")" = 8.1.0
+done
+test "$(pkg-config --print-requires-private haldgenp8)" = haldcore
+
+echo "Absolute library folder:"
+"$cmake" -S "$source" -B "$scratch/absolute" -G "$generator" -DHALDGEN_BUILD_TESTS=OFF \
+  -DHALDGEN_BUILD_EXAMPLES=OFF -DCMAKE_INSTALL_PREFIX=/prefix -DCMAKE_INSTALL_LIBDIR=/libraries \
+  >/dev/null
+for package in haldgenp8 haldcore; do
+  PKG_CONFIG_PATH=$scratch/absolute
+  test "$(pkg-config --variable=libdir "$package")" = /libraries
+  test "$(pkg-config --variable=includedir "$package")" = /prefix/include
+done

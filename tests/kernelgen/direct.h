@@ -1,6 +1,7 @@
 // The direct evaluation of a graph in the arithmetic of an element type.
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -8,12 +9,11 @@
 #include <vector>
 
 #include "kernelgen/graph.h"
+#include "kernelgen/integers.h"
 #include "kernelgen/lower.h"
 #include "kernelgen/rewrite.h"
 
 namespace haldgen::kernelgen::test {
-
-inline std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 template <class Float>
 struct Element {
@@ -22,17 +22,18 @@ struct Element {
 };
 
 template <class Float>
-Element<Float> turned(Element<Float> v, int turns) {
-  switch (turns & 3) {
-    case 1:
+Element<Float> turned(Element<Float> v, Turn turn) {
+  switch (turn) {
+    case Turn::quarter:
       return {-v.im, v.re};
-    case 2:
+    case Turn::half:
       return {-v.re, -v.im};
-    case 3:
+    case Turn::three_quarters:
       return {v.im, -v.re};
-    default:
-      return v;
+    case Turn::none:
+      break;
   }
+  return v;
 }
 
 template <class Float>
@@ -74,9 +75,9 @@ std::vector<Float> direct(const Graph& graph, const std::vector<Float>& source, 
   for (const int index : live_nodes(graph)) {
     const Statement& s = graph.node(index);
     Element<Float>& v = values[at(index)];
-    if (s.input >= 0) {
-      v = complex ? Element<Float>{source[at(2 * s.input)], source[at(2 * s.input + 1)]}
-                  : Element<Float>{source[at(s.input)], 0};
+    if (s.input) {
+      v = complex ? Element<Float>{source[at(2 * *s.input)], source[at(2 * *s.input + 1)]}
+                  : Element<Float>{source[at(*s.input)], 0};
     } else if (s.precision == Precision::wide) {
       const auto wide = sum_of<double>(graph, s, [&](int node) {
         return Element<double>{double{values[at(node)].re}, double{values[at(node)].im}};
@@ -92,7 +93,7 @@ std::vector<Float> direct(const Graph& graph, const std::vector<Float>& source, 
     const bool wide = graph.node(output.node).precision == Precision::wide;
     if (wide && scaled == Scaled::result && uses.by_statements[at(output.node)] == 0) {
       const double product = double{scale} * raw[at(output.node)];
-      result.push_back(static_cast<Float>(output.turn == 2 ? -product : product));
+      result.push_back(static_cast<Float>(output.turn == Turn::half ? -product : product));
       continue;
     }
     const auto v = turned<Float>(values[at(output.node)], output.turn);
@@ -118,7 +119,7 @@ bool same_bits(const std::vector<Float>& a, const std::vector<Float>& b) {
 /// Number of input elements (floats of a real graph).
 inline std::size_t inputs_of(const Graph& graph) {
   int count = 0;
-  for (const Statement& s : graph.nodes()) count = s.input >= count ? s.input + 1 : count;
+  for (const Statement& s : graph.nodes()) count = std::max(count, s.input.value_or(-1) + 1);
   return at(count);
 }
 

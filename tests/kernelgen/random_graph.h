@@ -45,7 +45,7 @@ inline std::vector<Value> random_work(Graph& graph, std::vector<Value> values, D
   const std::size_t inputs = values.size();
   const auto any = [&] {
     const Value v = values[at(dice.below(static_cast<int>(values.size())))];
-    return turned(v, dice.below(4));
+    return turned(v, quarters(dice.below(4)));
   };
   for (int i = 0; i < statements; ++i) {
     const Value a = any();
@@ -98,7 +98,7 @@ inline Graph random_complex_graph(std::uint32_t seed) {
   std::vector<Value> outputs;
   for (int k = 0; k < columns * rows; ++k) {
     const int from = static_cast<int>(values.size()) - 1 - k;
-    outputs.push_back(turned(values[at(from < 0 ? 0 : from)], dice.below(4)));
+    outputs.push_back(turned(values[at(from < 0 ? 0 : from)], quarters(dice.below(4))));
   }
   graph.set_outputs(outputs);
   return graph;
@@ -112,7 +112,7 @@ inline Graph random_real_graph(std::uint32_t seed) {
   for (int i = 0; i < 3 + dice.below(3); ++i) values.push_back(graph.input(i));
   const auto any = [&] {
     const Value v = values[at(dice.below(static_cast<int>(values.size())))];
-    return turned(v, 2 * dice.below(2));
+    return turned(v, quarters(2 * dice.below(2)));
   };
   for (int i = 0; i < 15; ++i) {
     const Value a = any();
@@ -128,7 +128,7 @@ inline Graph random_real_graph(std::uint32_t seed) {
   }
   std::vector<Value> outputs;
   for (std::size_t i = 0; i < 5; ++i) {
-    outputs.push_back(turned(values[values.size() - 1 - i], 2 * dice.below(2)));
+    outputs.push_back(turned(values[values.size() - 1 - i], quarters(2 * dice.below(2))));
   }
   graph.set_outputs(outputs);
   return graph;

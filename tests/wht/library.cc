@@ -1,50 +1,29 @@
-// The built library, opened at run time, and the allocator in its way.
+// The library's functions, and the allocator in their way.
 #include "tests/wht/library.h"
 
-#include <dlfcn.h>
 #include <haldcore.h>
 
 #include <memory>
-#include <stdexcept>
 
-#include "frame/families.h"
+#include "bits/calls.h"
+#include "bits/linked.h"
 #include "tests/contract/memory.h"
 
 namespace haldgen::wht::test {
 namespace {
 
-template <class Function>
-Function* resolve(const std::string& name) {
-  static void* const library = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) throw std::runtime_error(dlerror());
-  void* const symbol = dlsym(library, name.c_str());
-  if (symbol == nullptr) throw std::runtime_error(dlerror());
-  return reinterpret_cast<Function*>(symbol);
-}
-
 template <class Float>
-constexpr frame::Element kElement = sizeof(Float) == sizeof(float) ? frame::Element::f32
-                                                                   : frame::Element::f64;
-
-template <class Float>
-std::vector<Kernel<Float>> load() {
+std::vector<Kernel<Float>> load(names::Element element) {
   std::vector<Kernel<Float>> kernels;
-  for (int order = 1; order <= kOrders; ++order) {
-    const std::string name =
-        "haldgWHT_" + std::to_string(order) + "_" + std::string(suffix(kElement<Float>));
-    kernels.push_back(
-        {name, order,
-         resolve<std::int32_t(const Float*, Float*, std::int32_t, std::uint8_t*)>(name)});
-  }
-  const std::string name = "haldgWHT_" + std::string(suffix(kElement<Float>));
-  auto* general =
-      resolve<std::int32_t(const Float*, Float*, std::int32_t, std::int32_t, std::uint8_t*)>(name);
-  for (int order = 1; order <= kOrders; ++order) {
-    kernels.push_back(
-        {name + " at " + std::to_string(order), order,
-         [general, order](const Float* src, Float* dst, std::int32_t flag, std::uint8_t* buffer) {
-           return general(src, dst, order, flag, buffer);
-         }});
+  for (const registry::Export& e : registry::exports()) {
+    if (e.word->word != "WHT" || e.element != element) continue;
+    const std::vector<int> orders =
+        e.size != 0 ? std::vector{e.size} : std::vector(e.word->sizes.begin(), e.word->sizes.end());
+    for (const int order : orders) {
+      kernels.push_back(
+          {e.name + " at " + std::to_string(order), order,
+           bits::flagged_call<Float>(bits::linked()(e.name), e.word->signature, order)});
+    }
   }
   return kernels;
 }
@@ -66,18 +45,16 @@ struct Watch {
   std::vector<std::int32_t> requests;
   std::vector<std::unique_ptr<Piece>> lent;
   bool strange = false;  ///< something came back that was not lent
+  bool exhausted = false;
 
   void* lend(std::int32_t size) {
     requests.push_back(size);
+    if (exhausted) return nullptr;
     return lent.emplace_back(std::make_unique<Piece>(static_cast<std::size_t>(size)))->start();
   }
   void take_back(void* memory) {
-    for (auto piece = lent.begin(); piece != lent.end(); ++piece) {
-      if ((*piece)->start() != memory) continue;
-      lent.erase(piece);
-      return;
-    }
-    strange = true;
+    const auto same = [memory](const auto& piece) { return piece->start() == memory; };
+    if (std::erase_if(lent, same) == 0) strange = true;
   }
 };
 
@@ -90,26 +67,18 @@ Watch& watch() {
 
 template <>
 const std::vector<Kernel<float>>& kernels() {
-  static const auto all = load<float>();
+  static const auto all = load<float>(names::Element::f32);
   return all;
 }
 template <>
 const std::vector<Kernel<double>>& kernels() {
-  static const auto all = load<double>();
+  static const auto all = load<double>(names::Element::f64);
   return all;
-}
-
-template <>
-Query<float> buffer_query<float>() {
-  return resolve<std::int32_t(std::int32_t, std::uint32_t*)>("haldgWHTGetBufferSize_32f");
-}
-template <>
-Query<double> buffer_query<double>() {
-  return resolve<std::int32_t(std::int32_t, std::uint32_t*)>("haldgWHTGetBufferSize_64f");
 }
 
 namespace allocator {
 void reset() { watch() = {}; }
+void exhaust() { watch().exhausted = true; }
 const std::vector<std::int32_t>& requests() { return watch().requests; }
 bool settled() { return watch().lent.empty() && !watch().strange; }
 }  // namespace allocator

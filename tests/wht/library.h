@@ -13,17 +13,15 @@
 #include <string>
 #include <vector>
 
-#include "tests/built/library.h"
+#include "tests/built/floats.h"
 
 namespace haldgen::wht::test {
 
+using haldgen::test::flags;
 using haldgen::test::identical;
 using haldgen::test::random_floats;
 
-inline constexpr int kOrders = 13;
 inline constexpr int kLastWithoutBuffer = 7;
-inline constexpr std::array<std::int32_t, 4> kFlags = {haldScaleFwdByN, haldScaleInvByN,
-                                                       haldScaleBySqrtN, haldScaleNone};
 
 /// One way to call one kernel: by its own name, or through the general entry.
 template <class FloatType>
@@ -39,7 +37,7 @@ struct Kernel {
   bool needs_buffer() const { return order > kLastWithoutBuffer; }
 };
 
-/// The kernels of all orders by their own names, then through the general entry.
+/// The kernels of all orders by their own names, and through the general entry.
 template <class Float>
 const std::vector<Kernel<Float>>& kernels();
 
@@ -49,11 +47,6 @@ void for_each_kernel(Visitor&& visit) {
   for (const auto& kernel : kernels<float>()) visit(kernel);
   for (const auto& kernel : kernels<double>()) visit(kernel);
 }
-
-template <class Float>
-using Query = std::int32_t (*)(std::int32_t order, std::uint32_t* size);
-template <class Float>
-Query<Float> buffer_query();
 
 /// Size of the work buffer as published.
 template <class Float>
@@ -91,26 +84,12 @@ Float nearest_scale(int order, std::int32_t flag) {
   return std::ldexp(root, -(order / 2));
 }
 
-/// A work buffer of the published size, at a multiple of 16 bytes but of no more, full of NaNs.
-class WorkBuffer {
- public:
-  explicit WorkBuffer(std::size_t bytes) : storage_(bytes / sizeof(Line) + 2) {
-    const bool odd = reinterpret_cast<std::uintptr_t>(storage_.data()) % 32 != 0;
-    start_ = storage_[odd ? 0 : 1].data();
-    std::memset(start_, 0xFF, bytes);
-  }
-  std::uint8_t* data() { return start_; }
-
- private:
-  struct alignas(16) Line : std::array<std::uint8_t, 16> {};
-  std::vector<Line> storage_;
-  std::uint8_t* start_;
-};
-
 /// What the library asked of haldMalloc and haldFree, which this program brings itself. The memory
 /// that it hands out ends at an inaccessible page and begins full of NaNs.
 namespace allocator {
 void reset();
+/// From now on there is no memory.
+void exhaust();
 const std::vector<std::int32_t>& requests();
 /// Whether everything handed out has come back, each piece once, and nothing else.
 bool settled();

@@ -1,0 +1,19 @@
+// The library that a program is linked with, as a source of functions.
+#pragma once
+
+#include <algorithm>
+
+#include "bits/sums.h"
+#include "frame/linked_functions.h"
+
+namespace haldgen::bits {
+
+inline Find linked() {
+  return [](const std::string& name) -> Address {
+    const auto all = frame::linked_functions();
+    const auto found = std::ranges::lower_bound(all, name, {}, &frame::LinkedFunction::name);
+    return found != all.end() && found->name == name ? found->address : nullptr;
+  };
+}
+
+}  // namespace haldgen::bits

@@ -1,0 +1,18 @@
+// haldgen-bits as a function, so that a test can give it other functions than the library's.
+#pragma once
+
+#include <iosfwd>
+#include <span>
+#include <string>
+
+#include "bits/sums.h"
+
+namespace haldgen::bits {
+
+/// Runs `compare FILE` or `record FILE`, the arguments of the command line without the program's
+/// name. Returns its exit status: 0; 1 if sums differ or there are faults; 2 if it could not do as
+/// it was told.
+int run(const Find& find, std::span<const std::string> arguments, std::ostream& out,
+        std::ostream& errors);
+
+}  // namespace haldgen::bits

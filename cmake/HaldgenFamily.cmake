@@ -1,0 +1,73 @@
+# Families of transforms: a folder each, listed in registry/families.inc with their sizes.
+#   haldgen_family_folders       the folders, in the order of the list
+#   haldgen_sizes_of(VARIABLE FUNCTION)   the sizes in the line of a function
+set(haldgen_family_list ${PROJECT_SOURCE_DIR}/registry/families.inc)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${haldgen_family_list})
+file(STRINGS ${haldgen_family_list} lines REGEX "^HALDGEN_FAMILY")
+set(haldgen_family_folders)
+foreach(line IN LISTS lines)
+  if(NOT line MATCHES "^HALDGEN_FAMILY\\(([a-z0-9_]+), ([a-z0-9_]+), ([0-9., ]*)\\)$")
+    message(FATAL_ERROR "${haldgen_family_list}: not understood: ${line}")
+  endif()
+  list(APPEND haldgen_family_folders ${CMAKE_MATCH_1})
+  set(haldgen_sizes_text_${CMAKE_MATCH_2} "${CMAKE_MATCH_3}")
+endforeach()
+list(REMOVE_DUPLICATES haldgen_family_folders)
+
+function(haldgen_sizes_of variable function)
+  set(sizes)
+  string(REGEX MATCHALL "[0-9.]+" parts "${haldgen_sizes_text_${function}}")
+  foreach(part IN LISTS parts)
+    if(part MATCHES "^([0-9]+)\\.\\.([0-9]+)$")
+      foreach(size RANGE ${CMAKE_MATCH_1} ${CMAKE_MATCH_2})
+        list(APPEND sizes ${size})
+      endforeach()
+    else()
+      list(APPEND sizes ${part})
+    endif()
+  endforeach()
+  set(${variable} ${sizes} PARENT_SCOPE)
+endfunction()
+
+# What runs during the build: how the family's kernels come about.
+#   haldgen_family_design(FOLDER SOURCE... [LIBS LIBRARY...])
+function(haldgen_family_design folder)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBS")
+  set(target haldgen_${folder}_design)
+  add_library(${target} STATIC ${arg_UNPARSED_ARGUMENTS})
+  target_link_libraries(${target} PUBLIC haldgen_family ${arg_LIBS})
+  haldgen_warnings(${target})
+  haldgen_build_tool(${target})
+endfunction()
+
+# Sources that haldgen-generate writes, one for each kernel and element type so that a build
+# parallelises, in <binary dir>/generated. A kernel that is missing fails the link of the library.
+#   haldgen_generated_sources(VARIABLE FAMILY KERNELS kernel... TYPES type...)
+set(HALDGEN_TUNING "" CACHE STRING
+    "Tuning of all kernels, such as critical:16:0, to measure with; empty for the table")
+function(haldgen_generated_sources variable family)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "KERNELS;TYPES")
+  set(folder ${CMAKE_CURRENT_BINARY_DIR}/generated)
+  file(MAKE_DIRECTORY ${folder})
+  set(sources ${${variable}})
+  foreach(kernel IN LISTS arg_KERNELS)
+    foreach(type IN LISTS arg_TYPES)
+      set(source ${folder}/${family}_${kernel}_${type}.cc)
+      add_custom_command(
+        OUTPUT ${source}
+        COMMAND haldgen-generate source ${family} ${kernel} ${type} ${source} ${HALDGEN_TUNING}
+        DEPENDS haldgen-generate
+        VERBATIM)
+      list(APPEND sources ${source})
+    endforeach()
+  endforeach()
+  set(${variable} ${sources} PARENT_SCOPE)
+endfunction()
+
+# What is compiled into the library.
+function(haldgen_family_kernels folder)
+  add_library(haldgen_${folder} OBJECT ${ARGN})
+  target_include_directories(haldgen_${folder} PRIVATE
+    ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/haldcore)
+  haldgen_kernels(haldgen_${folder})
+endfunction()

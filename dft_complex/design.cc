@@ -1,0 +1,69 @@
+#include "dft_complex/design.h"
+
+#include <stdexcept>
+
+#include "kernelgen/lower.h"
+#include "kernelgen/parts.h"
+#include "kernelgen/precision.h"
+
+namespace haldgen::dft_complex {
+namespace {
+
+using kernelgen::FloatType;
+using kernelgen::Graph;
+using kernelgen::Program;
+
+/// Sweeps of the choice of forms; more find next to nothing better.
+constexpr int kFormSweeps = 150;
+
+Program reversed(Program program, int length) {
+  for (auto& in : program.code) {
+    if (!kernelgen::is_store(in.op)) continue;
+    if (in.op == kernelgen::Op::store) throw std::logic_error("neighbours cannot be reversed");
+    for (int& address : in.address) address = 2 * ((length - address / 2) % length);
+  }
+  return program;
+}
+
+Program mirrored(Program program) {
+  for (auto& in : program.code) {
+    if (kernelgen::is_load(in.op) || kernelgen::is_store(in.op)) in.address[0] ^= 1;
+  }
+  return program;
+}
+
+Programs scalar_programs(const Design& design, FloatType type) {
+  if (design.inverse != Inverse::mirror) {
+    throw std::logic_error("a scalar kernel has its mirror as its inverse");
+  }
+  Graph parts = kernelgen::gather_statements(kernelgen::split_parts(graph_of(design)));
+  if (design.products == Products::wide) kernelgen::widen_products(parts);
+  const Program forward = kernelgen::lower_real(parts, {type});
+  return {forward, mirrored(forward)};
+}
+
+Programs packed_programs(const Design& design, FloatType type, int seed) {
+  if (design.products != Products::narrow) {
+    throw std::logic_error("a packed kernel has narrow products");
+  }
+  const bool pairs = type == FloatType::f32;
+  const auto packed = kernelgen::pack(expand(design.recipe, pairs), pairs ? 2 : 1, design.access);
+  const auto forms = kernelgen::choose_forms(packed, kFormSweeps, seed, design.signs);
+  const Program forward = kernelgen::lower_packed(packed, forms, type);
+  if (design.inverse == Inverse::reversal) {
+    return {forward, reversed(forward, design.recipe.length)};
+  }
+  const auto mirrored = kernelgen::choose_mirrored_forms(packed, forms, kFormSweeps, seed);
+  return {forward, kernelgen::lower_packed(packed, mirrored, type)};
+}
+
+}  // namespace
+
+Graph graph_of(const Design& design) { return expand(design.recipe, false); }
+
+Programs programs_of(const Design& design, FloatType type, int seed) {
+  return design.execution == Execution::scalar ? scalar_programs(design, type)
+                                               : packed_programs(design, type, seed);
+}
+
+}  // namespace haldgen::dft_complex

@@ -1,0 +1,79 @@
+// The complex DFT as a family: both directions of a length and type share a source.
+#include "family/family.h"
+
+#include <stdexcept>
+
+#include "dft_complex/recipes.h"
+#include "dft_complex/text.h"
+#include "kernelgen/count.h"
+
+namespace haldgen::dft_complex {
+namespace {
+
+using family::FloatType;
+using kernelgen::Divides;
+using names::Element;
+using names::Layout;
+using names::Scaling;
+
+constexpr auto kForward = "DFTFwd_CToC";
+constexpr auto kInverse = "DFTInv_CToC";
+
+std::string algorithm(int length, FloatType type) {
+  return to_string(design_of(length, type).recipe);
+}
+
+kernelgen::Graph graph(int length, FloatType type) { return graph_of(design_of(length, type)); }
+
+family::Work work(int length, FloatType type) {
+  const kernelgen::Counts counts = count(graph(length, type));
+  return {counts.additions, counts.multiplications, counts.depth, 0};
+}
+
+family::Source source(int length, FloatType type, const family::Tuning& tuning) {
+  const Element element = family::complex_element(type);
+  const std::string forward = names::export_name(kForward, element, length);
+  const std::string inverse = names::export_name(kInverse, element, length);
+  const family::Choice there = tuning.of(forward);
+  const family::Choice back = tuning.of(inverse);
+  if (there.seed != back.seed) throw std::logic_error("two seeds for the forms of " + forward);
+  const Programs programs = programs_of(design_of(length, type), type, there.seed);
+  const family::Work counts = work(length, type);
+
+  family::Source source;
+  source.title = "Complex DFT of length " + std::to_string(length);
+  source.type = type;
+  source.algorithm = algorithm(length, type);
+  source.operations = "//   " + std::to_string(counts.additions) + " additions, " +
+                      std::to_string(counts.multiplications) + " multiplications, depth " +
+                      std::to_string(counts.depth) + ", and the scale\n";
+  source.command = "complex " + std::to_string(length) + " " + std::string(names::suffix(element));
+  source.includes = {"family/contract.h"};
+  source.scope = "dft_complex";
+  source.kernels = {
+      transform_kernel({"Forward", length, Divides::forward, element},
+                       scheduled(programs.forward, there.ordering), there),
+      transform_kernel({"Inverse", length, Divides::inverse, element},
+                       scheduled(programs.inverse, back.ordering), back),
+  };
+  source.functions = {family::transform_function(forward, element, "Forward"),
+                      family::transform_function(inverse, element, "Inverse")};
+  return source;
+}
+
+}  // namespace
+
+family::Family complex(const names::Sizes& lengths) {
+  family::Family result{"complex",
+                        "complex DFT, forward and inverse",
+                        lengths,
+                        {},
+                        family::Generated{algorithm, graph, work, source}};
+  add_transform(result, kForward, names::kComplex,
+                {Scaling::forward, Layout::complex, Layout::complex}, text("Forward", "-"));
+  add_transform(result, kInverse, names::kComplex,
+                {Scaling::inverse, Layout::complex, Layout::complex}, text("Inverse", "+"));
+  return result;
+}
+
+}  // namespace haldgen::dft_complex

@@ -1,0 +1,127 @@
+// The real DFT as two families, one for each direction: the kernels of all packed formats share a
+// source.
+#include "family/family.h"
+
+#include "dft_real/recipes.h"
+#include "dft_real/text.h"
+
+namespace haldgen::dft_real {
+namespace {
+
+using family::FloatType;
+using names::Element;
+using names::Layout;
+using names::Scaling;
+
+std::string transform_word(Direction direction, Packing packing) {
+  return direction == Direction::forward ? "DFTFwd_RTo" + word(packing)
+                                         : "DFTInv_" + word(packing) + "ToR";
+}
+
+/// The enumerator of a packing.
+std::string packing_name(Packing packing) {
+  switch (packing) {
+    case Packing::ccs:
+      return "ccs";
+    case Packing::pack:
+      return "pack";
+    case Packing::perm:
+      return "perm";
+  }
+  return "";
+}
+
+/// Whether a load and a store meet in any format when the kernel works in place.
+kernelgen::Overlap overlap_of(int length, Direction direction) {
+  return [=](int load, int store) {
+    const int sample = direction == Direction::forward ? load : store;
+    const int value = direction == Direction::forward ? store : load;
+    for (const Packing packing : kPackings) {
+      if (position(packing, length, value) == sample) return true;
+    }
+    return false;
+  };
+}
+
+template <Direction kDirection>
+struct Family {
+  static constexpr bool kForward = kDirection == Direction::forward;
+  static constexpr auto kName = kForward ? "real-forward" : "real-inverse";
+  static constexpr auto kTitle =
+      kForward ? "real DFT to CCS, Pack and Perm" : "inverse real DFT from CCS, Pack and Perm";
+
+  static std::string algorithm(int length, FloatType /*type*/) {
+    return to_string(design_of(length, kDirection).recipe);
+  }
+
+  static kernelgen::Graph graph(int length, FloatType /*type*/) {
+    return graph_of(design_of(length, kDirection));
+  }
+
+  static family::Work work(int length, FloatType type) {
+    return family::work_of(program_of(design_of(length, kDirection), type));
+  }
+
+  static family::Source source(int length, FloatType type, const family::Tuning& tuning) {
+    const Element element = family::real_element(type);
+    const auto exported = [&](Packing packing) {
+      return names::export_name(transform_word(kDirection, packing), element, length);
+    };
+    const family::Choice choice = tuning.of(exported(kPackings[0]));
+    const kernelgen::Program program = scheduled(program_of(design_of(length, kDirection), type),
+                                                 choice.ordering, overlap_of(length, kDirection));
+
+    family::Source source;
+    source.title = std::string(kForward ? "Forward" : "Inverse") + " real DFT of length " +
+                   std::to_string(length);
+    source.type = type;
+    source.algorithm = algorithm(length, type) + (kForward ? "" : ", transposed");
+    source.operations = kernelgen::describe(kernelgen::tally(program), type);
+    source.command = std::string(kName) + " " + std::to_string(length) + " " +
+                     std::string(names::suffix(element));
+    source.includes = {"dft_real/packing.h", "family/contract.h"};
+    source.scope = "dft_real";
+    family::Transform transform{
+        "Kernel", length, kForward ? kernelgen::Divides::forward : kernelgen::Divides::inverse,
+        element};
+    transform.memory = "Format";
+    if (kForward) {
+      transform.subscripts = {"", "Format::at"};
+      transform.epilogue = "    Format::clear(dst);\n";
+    } else {
+      transform.subscripts = {"Format::at", ""};
+    }
+    source.kernels = {transform_kernel(transform, program, choice)};
+    for (const Packing packing : kPackings) {
+      source.functions.push_back(
+          family::transform_function(exported(packing), element,
+                                     "Kernel, Format<Packing::" + packing_name(packing) + ", " +
+                                         std::to_string(length) + ">"));
+    }
+    return source;
+  }
+
+  static family::Family make(const names::Sizes& lengths) {
+    family::Family result{
+        kName, kTitle, lengths, {}, family::Generated{algorithm, graph, work, source}};
+    for (const Packing packing : kPackings) {
+      const Layout spectrum = packing == Packing::ccs ? Layout::ccs : Layout::real;
+      const names::Usage usage = kForward ? names::Usage{Scaling::forward, Layout::real, spectrum}
+                                          : names::Usage{Scaling::inverse, spectrum, Layout::real};
+      add_transform(result, transform_word(kDirection, packing), names::kReal, usage,
+                    kForward ? forward_text(packing) : inverse_text(packing));
+    }
+    return result;
+  }
+};
+
+}  // namespace
+
+family::Family real_forward(const names::Sizes& lengths) {
+  return Family<Direction::forward>::make(lengths);
+}
+family::Family real_inverse(const names::Sizes& lengths) {
+  return Family<Direction::inverse>::make(lengths);
+}
+
+}  // namespace haldgen::dft_real

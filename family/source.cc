@@ -1,0 +1,79 @@
+#include "family/source.h"
+
+namespace haldgen::family {
+namespace {
+
+std::string struct_of(const Kernel& kernel) {
+  std::string text = kernel.remark.empty() ? "" : "// " + kernel.remark + "\n";
+  text += "struct " + kernel.name + " {\n" + kernel.members + "\n  " + kernel.function + " {\n";
+  return text + kernel.body + "  }\n};\n\n";
+}
+
+}  // namespace
+
+std::string print(const Source& source) {
+  const std::string space = "namespace haldgen::" + source.scope;
+  std::string text = "// " + source.title + ", ";
+  text += source.type == FloatType::f32 ? "32" : "64";
+  text += "-bit elements. Generated; do not edit.\n";
+  if (!source.algorithm.empty()) text += "//   algorithm: " + source.algorithm + "\n";
+  text += source.operations;
+  text += "//   haldgen-generate code " + source.command + "\n";
+  for (const std::string& include : source.includes) text += "#include \"" + include + "\"\n";
+  text += "\n" + space + " {\n";
+  if (!source.kernels.empty()) {
+    text += "namespace {\n\n";
+    for (const Kernel& kernel : source.kernels) text += struct_of(kernel);
+    text += "}  // namespace\n";
+  }
+  for (const std::string& function : source.functions) text += "\n" + function;
+  return text + "\n}  // " + space + "\n";
+}
+
+names::Element real_element(FloatType type) {
+  return type == FloatType::f32 ? names::Element::f32 : names::Element::f64;
+}
+
+names::Element complex_element(FloatType type) {
+  return type == FloatType::f32 ? names::Element::c32 : names::Element::c64;
+}
+
+std::string ordered_by(const Choice& choice, bool has_forms) {
+  std::string text = "Instructions by " + std::string(name_of(choice.ordering.order));
+  if (choice.ordering.cap != 0) {
+    text += ", for " + std::to_string(choice.ordering.cap) + " live values";
+  }
+  if (has_forms) text += "; forms by seed " + std::to_string(choice.seed);
+  return text + ".";
+}
+
+Kernel transform_kernel(const Transform& transform, const kernelgen::Program& program,
+                        const Choice& choice) {
+  const bool vectors = program.lanes > 1;
+  Kernel kernel;
+  kernel.name = transform.name;
+  kernel.remark = ordered_by(choice, vectors);
+  kernel.members = "  using Float = " + kernelgen::type_name(program.type) + ";\n";
+  kernel.members += "  using Element = " + std::string(c_type(transform.element)) + ";\n";
+  if (vectors) {
+    kernel.members += "  using V = " + kernelgen::vector_name(program) + ";\n";
+  }
+  kernel.members += std::string("  static constexpr bool kPathsDiffer = ") +
+                    (kernelgen::has_whole_vector_access(program) ? "true" : "false") + ";\n" +
+                    kernelgen::scale_members(transform.length, transform.divides, program.type);
+  kernel.function =
+      "template <class " + transform.memory +
+      ">\n  HALDGEN_INLINE static void transform(const Float* src, Float* dst, Float scale)";
+  kernel.body = emit_body(program, transform.subscripts) + transform.epilogue;
+  return kernel;
+}
+
+std::string transform_function(const std::string& exported_name, names::Element element,
+                               const std::string& kernel) {
+  return "extern \"C\" " +
+         declaration(names::Signature::transform, element,
+                     names::implementation_symbol(exported_name)) +
+         " {\n  return family::run<" + kernel + ">(src, dst, flag);\n}\n";
+}
+
+}  // namespace haldgen::family

@@ -1,0 +1,64 @@
+// Source files of generated kernels: one printer for all families.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "family/tuning.h"
+#include "kernelgen/emit.h"
+#include "kernelgen/program.h"
+#include "names/names.h"
+
+namespace haldgen::family {
+
+using kernelgen::FloatType;
+
+/// A struct with one function, printed as it stands.
+struct Kernel {
+  std::string name;
+  std::string remark;    ///< a comment of one line
+  std::string members;   ///< lines before the function
+  std::string function;  ///< its head
+  std::string body;      ///< its statements
+};
+
+struct Source {
+  std::string title;                ///< "Complex DFT of length 13"
+  FloatType type = FloatType::f32;  ///< of the elements
+  std::string algorithm;            ///< how the graph comes about
+  std::string operations;           ///< its counts
+  std::string command;              ///< arguments of haldgen-generate: "complex 13 32fc"
+  std::vector<std::string> includes;
+  std::string scope;  ///< namespace in haldgen
+  std::vector<Kernel> kernels;
+  std::vector<std::string> functions;  ///< definitions of what the library links
+};
+
+std::string print(const Source& source);
+
+/// Element types of arrays with parts of this type.
+names::Element real_element(FloatType type);
+names::Element complex_element(FloatType type);
+
+/// How a program under the common contract (contract.h) is printed.
+struct Transform {
+  std::string name;  ///< of its struct
+  int length = 0;
+  kernelgen::Divides divides = kernelgen::Divides::both;
+  names::Element element = names::Element::none;
+  std::string memory = "Access";  ///< what the function calls its template parameter
+  kernelgen::Subscripts subscripts = {};
+  std::string epilogue = {};  ///< statements behind the program
+};
+Kernel transform_kernel(const Transform& transform, const kernelgen::Program& program,
+                        const Choice& choice);
+
+/// Definition of the function behind an exported name, which runs a kernel: "Forward", or "Kernel,
+/// Format<..>".
+std::string transform_function(const std::string& exported_name, names::Element element,
+                               const std::string& kernel);
+
+/// The remark on a kernel's tuning.
+std::string ordered_by(const Choice& choice, bool has_forms);
+
+}  // namespace haldgen::family

@@ -1,0 +1,42 @@
+// The frozen tuning of each kernel, so that a build gives the same code everywhere: one table for
+// all families, tuning.inc. script/tune measures and writes its rows.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "kernelgen/schedule.h"
+
+namespace haldgen::family {
+
+/// What a kernel's graph leaves open: the order of its instructions, and which of many choices of
+/// forms of like cost it has. None of it changes a bit of a result, but for the signs of zeros of
+/// packed kernels, in which both directions agree.
+struct Choice {
+  kernelgen::Ordering ordering;
+  int seed = 0;
+};
+
+/// Such as "critical:15:1".
+std::string to_string(const Choice& choice);
+
+/// ORDER, ORDER:CAP or ORDER:CAP:SEED; throws if it is none.
+Choice parse_choice(const std::string& text);
+
+/// The choices of all kernels.
+class Tuning {
+ public:
+  /// Those of the table.
+  Tuning() = default;
+  /// The same choice everywhere, to measure with.
+  explicit Tuning(const Choice& everywhere) : everywhere_(everywhere) {}
+
+  /// By the exported name of the kernel, or of the first of those that share it.
+  Choice of(std::string_view exported_name) const;
+
+ private:
+  std::optional<Choice> everywhere_;
+};
+
+}  // namespace haldgen::family

@@ -1,0 +1,21 @@
+// The Walsh-Hadamard transform as a family: its sizes are orders, its kernels are templates.
+#include "family/family.h"
+
+#include "wht/text.h"
+
+namespace haldgen::wht {
+
+family::Family wht(const names::Sizes& orders) {
+  using names::Layout;
+  using names::Signature;
+  const names::Usage usage{names::Scaling::directionless, Layout::real, Layout::real};
+  family::Family result{"wht", "Walsh-Hadamard transform, by order", orders, {}};
+  result.words = {
+      {"WHT", Signature::buffered_transform, names::kReal, orders, usage, kFixedText},
+      {"WHT", Signature::sized_buffered_transform, names::kReal, orders, usage, kGeneralText},
+      {"WHTGetBufferSize", Signature::order_query, names::kReal, {}, {}, kQueryText},
+  };
+  return result;
+}
+
+}  // namespace haldgen::wht
