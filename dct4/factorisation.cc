@@ -5,6 +5,7 @@
 
 #include "dct4/walk.h"
 #include "kernelgen/integers.h"
+#include "kernelgen/stage.h"
 #include "kernelgen/transpose.h"
 
 namespace haldgen::dct4 {
@@ -14,6 +15,7 @@ using kernelgen::at;
 using kernelgen::Field;
 using kernelgen::Graph;
 using kernelgen::Parts;
+using kernelgen::Stage;
 using kernelgen::Turn;
 using kernelgen::Value;
 using kernelgen::Wide;
@@ -62,8 +64,10 @@ std::vector<Parts> fold_by(Graph& graph, const Sequence& s, int radix, Division 
   const int m = s.length();
   const int quarter = m / (2 * radix);  // outputs of a part
   std::vector<std::vector<Parts>> parts;
+  Stage stage(graph, "folds of " + std::to_string(m / radix));
   for (int a = 0; a < radix; ++a) parts.push_back(fold(graph, every(s, radix, a), division));
   std::vector<Parts> z(at(m / 2));
+  stage.next("step of radix " + std::to_string(radix));
   for (int b = 0; b < quarter; ++b) {
     std::vector<Parts> row;
     for (int a = 0; a < radix; ++a) {
@@ -183,12 +187,14 @@ Graph recombine_graph(int radix, int length, int block) {
   Graph graph(Field::real);
   for (int k = 0; k < 2 * radix; ++k) graph.input(k);
   const std::vector<WideComplex> rotations = block_rotations(radix, length, block);
+  Stage stage(graph, "rotations");
   std::vector<Parts> terms(at(radix));
   for (int s = 0; s < radix; ++s) {
     const int j = walk_index(radix, s);
     const Parts z{&graph, graph.input(j), graph.input(radix + j)};
     terms[at(j)] = full_product(rotations[at(s)], z);
   }
+  stage.next("recombination");
   graph.set_outputs(recombine(graph, terms));
   return graph;
 }
@@ -198,10 +204,12 @@ Graph inner_recombine_graph(int radix, int length, int block) {
   for (int k = 0; k < 2 * radix; ++k) graph.input(k);
   const std::vector<WideComplex> rotations = inner_block_rotations(radix, length, block);
   std::vector<Parts> row;
+  Stage stage(graph, "rotations");
   for (int a = 0; a < radix; ++a) {
     const Parts e{&graph, graph.input(2 * a), graph.input(2 * a + 1)};
     row.push_back(a == 0 ? e : full_product(rotations[at(a - 1)], e));
   }
+  stage.next("DFT of length " + std::to_string(radix));
   const std::vector<Parts> sums = dft(row);
   std::vector<Value> outputs;
   for (int p = 0; p < radix; ++p)
@@ -217,6 +225,7 @@ Graph fixed_graph(int length) {
   const int radix = length == 2 ? 1 : length == 16 ? 4 : 2;
   const int m = length / radix;
   std::vector<std::vector<Parts>> z;  // by j and b
+  Stage stage(graph, "folds of " + std::to_string(m));
   for (int j = 0; j < radix; ++j) {
     Sequence s;
     for (int t = 0; t < m / 2; ++t) s.ahead.push_back(x[at(2 * radix * t + j)]);
@@ -226,6 +235,7 @@ Graph fixed_graph(int length) {
   std::vector<Value> y(at(length));
   for (int b = 0; b < m / 2; ++b) {
     std::vector<Parts> terms;
+    stage.next("rotations");
     for (int j = 0; j < radix; ++j) {
       const int angle = (2 * j + 1) * (2 * b + 1);  // in units of pi / 4N
       const Parts folded = z[at(j)][at(b)];
@@ -233,6 +243,7 @@ Graph fixed_graph(int length) {
                           ? lifted(graph, folded.re, -folded.im, angle, 4 * length)
                           : full_product(half_turn(angle, 4 * std::int64_t{length}), folded));
     }
+    stage.next("recombination");
     const std::vector<Value> sums = recombine(graph, terms);
     for (int l = 0; l < radix; ++l) {
       y[at(b + m * l)] = sums[at(l)];

@@ -82,17 +82,22 @@ family::Source source(int index, FloatType type, const family::Tuning& tuning) {
   source.includes = {"dct4/passes.h"};
   source.scope = "dct4";
   const std::string remark = family::ordered_by(choice, false);
+  // Angles of a fixed length are multiples of 2 pi over 8 of it.
+  const auto constants = named_constants(program, kernelgen::ConstantNames({8 * kernel.size}));
   if (kernel.part == Part::fixed) {
     source.functions = {"// " + remark + "\nvoid " + name(kernel) + "(const " + float_name +
-                        "* src, " + float_name + "* dst) {\n" + emit_body(program) + "}\n"};
+                        "* src, " + float_name + "* dst) {\n" + emit_constants(constants, "    ") +
+                        emit_body(program, {}, constants) + "}\n"};
     return source;
   }
   const Pass pass = pass_of(kernel.part);
-  source.kernels = {
-      {"Body", remark,
-       "  using Float = " + float_name + ";\n  using V = " + kernelgen::vector_name(program) +
-           ";\n  static constexpr int kSize = " + std::to_string(kernel.size) + ";\n",
-       "template <class Io>\n  static inline void run(const Io& io)", emit_body(program)}};
+  source.kernels = {{"Body", remark,
+                     "  using Float = " + float_name +
+                         ";\n  using V = " + kernelgen::vector_name(program) +
+                         ";\n  static constexpr int kSize = " + std::to_string(kernel.size) +
+                         ";\n" + emit_constants(constants, "  static "),
+                     "template <class Io>\n  static inline void run(const Io& io)",
+                     emit_body(program, {}, constants)}};
   source.functions = {"void " + name(kernel) + "(const " + pass.run + "<" + float_name +
                       ">& run) {\n  " + pass.function + "<Body>(run);\n}\n"};
   return source;

@@ -7,20 +7,33 @@
 #include "dft_complex/blocks.h"
 #include "dft_complex/recipe.h"
 #include "kernelgen/integers.h"
+#include "kernelgen/stage.h"
 #include "kernelgen/transpose.h"
 
 namespace haldgen::dft_complex {
 namespace {
 
 using kernelgen::at;
+using kernelgen::columns_of;
 using kernelgen::Field;
 using kernelgen::Graph;
+using kernelgen::kDifferences;
+using kernelgen::kEvenBins;
+using kernelgen::kOddBins;
+using kernelgen::kProducts;
+using kernelgen::kSpectrum;
+using kernelgen::kTwiddles;
 using kernelgen::modulo;
 using kernelgen::Parts;
+using kernelgen::rows_of;
+using kernelgen::Stage;
 using kernelgen::Turn;
 using kernelgen::Value;
 using kernelgen::Whole;
 using kernelgen::WideComplex;
+
+constexpr auto kBack = "from the spectrum";
+constexpr auto kChirp = "products by the chirp";
 
 /// Sets folding of constants for a region and restores it.
 class Folding {
@@ -162,6 +175,7 @@ class Expander {
     const int second = r.second.front().length;
     const int n = first * second;
     std::vector<Elements<E>> middle;
+    Stage stage(graph_, columns_of(first));
     for (int b = 0; b < second; ++b) {
       graph_.enter_column(b, second);
       Elements<E> in;
@@ -170,6 +184,7 @@ class Expander {
       graph_.leave_column();
     }
     Elements<E> y(x);
+    stage.next(rows_of(second));
     for (int k1 = 0; k1 < first; ++k1) {
       graph_.enter_column(k1, first);
       Elements<E> in;
@@ -204,11 +219,14 @@ class Expander {
     }
     const bool fill = paired_ && !graph_.inside_pair();
     std::vector<Elements<E>> middle;
+    Stage stage(graph_, columns_of(first));
     for (int s = 0; s < second; ++s) {
+      stage.next(columns_of(first));
       graph_.enter_column(s, second);
       Elements<E> in;
       for (int a = 0; a < first; ++a) in.push_back(x[at(modulo(places[at(s)] + second * a, n))]);
       Elements<E> out = run(column(r.first, modulo(places[at(s)], second)), in);
+      stage.next(kTwiddles);
       if (!c.late_twiddles) {
         for (int k = 0; k < first; ++k) {
           E& v = out[at(modulo(bins[at(k)], first))];
@@ -223,11 +241,13 @@ class Expander {
       graph_.enter_column(k, first);
       const int bin = bins[at(k)];
       Elements<E> in(at(second), zero_like(x[0]));
+      stage.next(kTwiddles);
       for (int s = 0; s < second; ++s) {
         const E& v = middle[at(s)][at(modulo(bin, first))];
         in[at(modulo(places[at(s)], second))] =
             c.late_twiddles ? rotated(r, v, places, s, bins, k, fill) : v;
       }
+      stage.next(rows_of(second));
       const Elements<E> out = run(column(r.second, modulo(bin, first)), in);
       for (int t = 0; t < second; ++t) y[at(modulo(bin + first * t, n))] = out[at(t)];
       graph_.leave_column();
@@ -272,7 +292,9 @@ class Expander {
     const int half = length / 2;
     Elements<E> a;
     for (const int k : order.read) a.push_back(x[at(k)]);
+    Stage stage(graph_, kSpectrum);
     const Elements<E> spectrum = run(r.first.front(), a);
+    stage.next(kProducts);
     Elements<E> y(x);
     y[0] = x[0] + spectrum[0];
     Elements<E> p;
@@ -286,6 +308,7 @@ class Expander {
       const int mate = choices.mate == 0 ? half : choices.mate;
       p[at(mate)] = add_zero(p[at(mate)]);
     }
+    stage.next(kBack);
     const Elements<E> back = inverse(r.second.front(), p);
     for (int l = 0; l < length; ++l) y[at(order.write[at(l)])] = back[at(l)];
     return y;
@@ -314,6 +337,7 @@ class Expander {
 
     std::vector<std::vector<Value>> q(at(2 * half + 2));  // real and imaginary part of each bin
     std::vector<Value> y0(lane_count);
+    Stage stage(graph_, kSpectrum);
     {
       const Folding region(graph_, choices.fold_there);
       std::vector<std::vector<Parts>> bins;
@@ -322,6 +346,7 @@ class Expander {
         for (const int k : order.read) a.push_back(lanes(x[at(k)])[lane]);
         bins.push_back(real_bins(graph_, r.first.front(), a));
       }
+      stage.next(kProducts);
       for (std::size_t lane = 0; lane < lane_count; ++lane) {
         y0[lane] = graph_.add(lanes(x[0])[lane], bins[lane][0].re);
       }
@@ -345,6 +370,7 @@ class Expander {
       q[at(2 * m)] = quarter_turned(q[at(2 * m)]);
       q[at(2 * m + 1)] = quarter_turned(q[at(2 * m + 1)]);
     }
+    stage.next(kBack);
     const Graph back = transposable(r.second.front(), choices.fold_back);
     std::vector<std::vector<Value>> result(at(order.length));
     for (std::size_t lane = 0; lane < lane_count; ++lane) {
@@ -399,10 +425,13 @@ class Expander {
   Elements<E> four_odd_steps(const Recipe& r, const Elements<E>& x) {
     const Recipe& block = r.first.front();
     const int m = block.length;
+    Stage stage(graph_, kDifferences);
     const auto [sums, differences] = at_half_distance(x);
+    stage.next(kEvenBins);
     const Elements<E> even = run(coprime(dft_complex::butterfly(2), block), sums);
     Elements<E> y(x);
     for (int k = 0; k < 2 * m; ++k) y[at(2 * k)] = even[at(k)];
+    stage.next(kOddBins);
     Elements<E> in_b, in_d;
     for (int l = 0; l < m; ++l) {
       in_b.push_back(turned(differences[at(2 * l)], kernelgen::quarters(2 * l)));
@@ -421,10 +450,13 @@ class Expander {
   }
 
   Elements<E> halves_steps(const Recipe& r, const Elements<E>& x) {
+    Stage stage(graph_, kDifferences);
     const auto [sums, differences] = at_half_distance(x);
+    stage.next(kEvenBins);
     const Elements<E> even = run(r.first.front(), sums);
     Elements<E> y(x);
     for (std::size_t k = 0; k < even.size(); ++k) y[2 * k] = even[k];
+    stage.next(kOddBins);
     for (const auto& [bin, value] : odd_half(r.second.front(), differences)) y[at(bin)] = value;
     return y;
   }
@@ -475,11 +507,14 @@ class Expander {
       wrapped[at(n)] = conj(chirp[at(n)]);
       wrapped[at(modulo(-n, m))] = wrapped[at(n)];
     }
+    Stage stage(graph_, kChirp);
     Elements<E> u{x[0]};
     for (int n = 1; n < p; ++n) u.push_back(full_product(chirp[at(n)], x[at(n)]));
     for (int n = p; n < choices.carried; ++n) u.push_back(carried_zero(x[0]));
     u.resize(at(m), zero_like(x[0]));
+    stage.next(kSpectrum);
     const Elements<E> spectrum = run(r.first.front(), u);
+    stage.next(kProducts);
     Elements<E> convolved;
     for (int k = 0; k < m; ++k) {
       WideComplex sum;
@@ -490,7 +525,9 @@ class Expander {
       if (k == 0 && choices.zero_lanes != 0) v = add_zero(v);
       convolved.push_back(v);
     }
+    stage.next(kBack);
     const Elements<E> v = inverse(r.second.front(), convolved);
+    stage.next(kChirp);
     Elements<E> y{v[0]};
     for (int k = 1; k < p; ++k) y.push_back(full_product(chirp[at(k)], v[at(k)]));
     for (int k = p; k < choices.computed; ++k) {

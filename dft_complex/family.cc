@@ -50,12 +50,15 @@ family::Source source(int length, FloatType type, const family::Tuning& tuning) 
   source.command = "complex " + std::to_string(length) + " " + std::string(names::suffix(element));
   source.includes = {"family/contract.h"};
   source.scope = "dft_complex";
-  source.kernels = {
-      transform_kernel({"Forward", length, Divides::forward, element},
-                       scheduled(programs.forward, there.ordering), there),
-      transform_kernel({"Inverse", length, Divides::inverse, element},
-                       scheduled(programs.inverse, back.ordering), back),
-  };
+  family::Transform transform{"Forward", length, Divides::forward, element};
+  const Recipe& recipe = design_of(length, type).recipe;
+  if (recipe.method == Method::bluestein) transform.convolution = recipe.first.front().length;
+  source.kernels.push_back(
+      transform_kernel(transform, scheduled(programs.forward, there.ordering), there));
+  transform.name = "Inverse";
+  transform.divides = Divides::inverse;
+  source.kernels.push_back(
+      transform_kernel(transform, scheduled(programs.inverse, back.ordering), back));
   source.functions = {family::transform_function(forward, element, "Forward"),
                       family::transform_function(inverse, element, "Inverse")};
   return source;

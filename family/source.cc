@@ -64,7 +64,11 @@ Kernel transform_kernel(const Transform& transform, const kernelgen::Program& pr
   kernel.function =
       "template <class " + transform.memory +
       ">\n  HALDGEN_INLINE static void transform(const Float* src, Float* dst, Float scale)";
-  kernel.body = emit_body(program, transform.subscripts) + transform.epilogue;
+  std::vector<int> lengths{transform.length};
+  if (transform.convolution) lengths.push_back(*transform.convolution);
+  const auto constants = named_constants(program, kernelgen::ConstantNames(lengths));
+  kernel.members += emit_constants(constants, "  static ");
+  kernel.body = emit_body(program, transform.subscripts, constants) + transform.epilogue;
   return kernel;
 }
 

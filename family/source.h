@@ -1,6 +1,7 @@
 // Source files of generated kernels: one printer for all families.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -49,6 +50,8 @@ struct Transform {
   std::string memory = "Access";  ///< what the function calls its template parameter
   kernelgen::Subscripts subscripts = {};
   std::string epilogue = {};  ///< statements behind the program
+  /// The length of a convolution inside, where it does not follow from the transform's.
+  std::optional<int> convolution = {};
 };
 Kernel transform_kernel(const Transform& transform, const kernelgen::Program& program,
                         const Choice& choice);

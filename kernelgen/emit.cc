@@ -19,13 +19,19 @@ std::string shortest(Float value) {
 
 class Printer {
  public:
-  Printer(const Program& program, const Subscripts& subscripts)
-      : program_(program), subscripts_(subscripts) {}
+  Printer(const Program& program, const Subscripts& subscripts,
+          const std::vector<NamedConstant>& constants)
+      : program_(program), subscripts_(subscripts), constants_(constants) {}
 
   std::string run() {
     if (!scalar() && has_scales()) define_scales();
     if (scalar()) define_two();
-    for (std::size_t i = 0; i < program_.code.size(); ++i) print(static_cast<int>(i));
+    find_stages();
+    for (std::size_t i = 0; i < program_.code.size(); ++i) {
+      if (!marks_[i].above.empty()) line("// " + marks_[i].above);
+      print(static_cast<int>(i));
+      if (!marks_[i].behind.empty()) text_.insert(text_.size() - 1, "  // " + marks_[i].behind);
+    }
     return std::move(text_);
   }
 
@@ -36,6 +42,41 @@ class Printer {
                        [](const Instruction& in) { return in.op == Op::scale; });
   }
   bool f32() const { return program_.type == FloatType::f32; }
+
+  /// Comments that say which stage an instruction belongs to: that of the comment behind it, else
+  /// of the last one above. Order puts stages into one another, so one that stays for a moment only
+  /// does not get a line of its own. Loads belong to what needs them.
+  struct Mark {
+    std::string above = {};
+    std::string behind = {};
+  };
+
+  void find_stages() {
+    constexpr std::size_t kMoment = 3;
+    const std::size_t count = program_.code.size();
+    std::vector<std::string> stage(count + 1);
+    for (std::size_t i = count; i-- > 0;) {
+      const Instruction& in = program_.code[i];
+      stage[i] = is_load(in.op) ? stage[i + 1] : in.stage;
+    }
+    marks_.resize(count);
+    std::string above;
+    for (std::size_t first = 0, last = 0; first < count; first = last) {
+      while (last < count && stage[last] == stage[first]) ++last;
+      if (stage[first] == above) continue;
+      const std::string text = stage[first].empty() ? "butterfly" : stage[first];
+      if (last - first > kMoment) {
+        marks_[first].above = text;
+        above = stage[first];
+        continue;
+      }
+      for (std::size_t i = first; i < last; ++i) {
+        const Op op = program_.code[i].op;
+        const bool says_itself = is_load(op) || is_store(op) || op == Op::scale;
+        if (!says_itself) marks_[i].behind = text;
+      }
+    }
+  }
 
   void line(const std::string& content) { text_ += "    " + content + "\n"; }
 
@@ -93,14 +134,18 @@ class Printer {
     line("const " + type + " " + name(index) + " = " + expression + ";");
   }
 
+  std::string constant(double number, FloatType type) const {
+    const NamedConstant* named = find(constants_, number, type);
+    if (named == nullptr) return literal(number, type);
+    return (number == named->value ? "" : "-") + named->name;
+  }
+
   std::string constants(const Instruction& in) const {
-    if (scalar()) {
-      return literal(in.constant[0], f32() && !in.wide ? FloatType::f32 : FloatType::f64);
-    }
+    if (scalar()) return constant(in.constant[0], in.wide ? FloatType::f64 : program_.type);
     std::string text = "V{";
     for (int l = 0; l < program_.lanes; ++l) {
       text +=
-          (l > 0 ? ", " : "") + literal(in.constant[static_cast<std::size_t>(l)], program_.type);
+          (l > 0 ? ", " : "") + constant(in.constant[static_cast<std::size_t>(l)], program_.type);
     }
     return text + "}";
   }
@@ -178,7 +223,9 @@ class Printer {
 
   const Program& program_;
   const Subscripts& subscripts_;
+  const std::vector<NamedConstant>& constants_;
   std::string text_;
+  std::vector<Mark> marks_;
 };
 
 }  // namespace
@@ -220,8 +267,20 @@ std::string scale_members(int length, Divides divides, FloatType type) {
          member("kBySqrtN", Wide(1.0) / sqrt(n));
 }
 
-std::string emit_body(const Program& program, const Subscripts& subscripts) {
-  return Printer(program, subscripts).run();
+std::string emit_body(const Program& program, const Subscripts& subscripts,
+                      const std::vector<NamedConstant>& constants) {
+  return Printer(program, subscripts, constants).run();
+}
+
+std::string emit_constants(const std::vector<NamedConstant>& constants, const std::string& before) {
+  if (constants.empty()) return "";
+  std::string text = before.substr(0, before.find_first_not_of(' '));
+  text += "// cos_1_5 is cos(2 pi 1/5), and so on.\n";
+  for (const NamedConstant& c : constants) {
+    text += before + "constexpr " + type_name(c.type) + " " + c.name + " = " +
+            literal(c.value, c.type) + ";\n";
+  }
+  return text;
 }
 
 bool has_whole_vector_access(const Program& program) {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "kernelgen/constant_names.h"
 #include "kernelgen/count.h"
 #include "kernelgen/program.h"
 
@@ -18,7 +20,12 @@ struct Subscripts {
   std::string source;
   std::string destination;
 };
-std::string emit_body(const Program& program, const Subscripts& subscripts = {});
+/// Constants are printed by these names, others as literals.
+std::string emit_body(const Program& program, const Subscripts& subscripts = {},
+                      const std::vector<NamedConstant>& constants = {});
+
+/// Definitions of the constants, a line each, behind `before`: an indentation, perhaps "static ".
+std::string emit_constants(const std::vector<NamedConstant>& constants, const std::string& before);
 
 /// Whether memory is touched in a way that an aligned and an unaligned path do differently.
 bool has_whole_vector_access(const Program& program);

@@ -46,6 +46,7 @@ Value Graph::intern_statement(std::vector<Term> terms, bool apart) {
       index_.try_emplace({std::move(terms), apart}, Value{static_cast<int>(nodes_.size()), turn});
   if (fresh) {
     statement.rank = static_cast<int>(nodes_.size());
+    statement.stage = stage_;
     nodes_.push_back(std::move(statement));
   }
   return {it->second.node, turn - it->second.turn};

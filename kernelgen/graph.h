@@ -14,6 +14,7 @@
 #include <map>
 #include <optional>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -74,6 +75,8 @@ struct Statement {
   /// Where the node stood when its block was written: the order in which a transposed statement
   /// takes its terms, so that a block transposed twice reads as it did before.
   int rank = 0;
+  /// The step of the algorithm that it was first written for; only comments say it.
+  std::string stage = {};
 };
 
 inline bool is_plain_copy(const Statement& s) {
@@ -136,6 +139,10 @@ class Graph {
   /// The id in this graph of a constant of another one.
   ConstantId intern(const Graph& other, ConstantId id);
 
+  /// What new statements are written for, see `Stage`.
+  const std::string& stage() const { return stage_; }
+  void set_stage(std::string stage) { stage_ = std::move(stage); }
+
   /// Opens column `index` of a fan of `count` equal blocks; closed by leave_column.
   void enter_column(int index, int count);
   void leave_column();
@@ -150,6 +157,7 @@ class Graph {
 
   Field field_;
   bool folding_ = false;
+  std::string stage_;
   std::vector<Statement> nodes_;
   std::vector<Constant> constants_;
   std::multimap<double, ConstantId> constant_index_;

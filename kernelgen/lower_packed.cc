@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 #include "kernelgen/integers.h"
@@ -22,6 +23,7 @@ class PackedLowering {
   Program run() {
     for (std::size_t i = 0; i < graph_.nodes.size(); ++i) {
       const int node = static_cast<int>(i);
+      stage_ = graph_.nodes[i].stage;
       if (graph_.nodes[i].kind == PackedKind::store) {
         store(node);
       } else {
@@ -58,6 +60,7 @@ class PackedLowering {
   }
 
   int emit(Instruction instruction) {
+    instruction.stage = stage_;
     program_.code.push_back(instruction);
     return static_cast<int>(program_.code.size()) - 1;
   }
@@ -198,8 +201,10 @@ class PackedLowering {
     instruction.a = operand;
     for (int h = 0; h < graph_.halves; ++h) {
       for (int lane = 0; lane < 2; ++lane) {
-        instruction.constant[at(2 * h + lane)] =
-            rounded(constant_of(lane, n.factor[at(h)]), program_.type);
+        const Wide exact = constant_of(lane, n.factor[at(h)]);
+        const double number = rounded(exact, program_.type);
+        program_.exact.emplace(std::abs(number), abs(exact));
+        instruction.constant[at(2 * h + lane)] = number;
       }
     }
     return emit(instruction);
@@ -259,6 +264,7 @@ class PackedLowering {
   const PackedGraph& graph_;
   const std::vector<Choice>& choices_;
   Program program_;
+  std::string stage_;
   std::vector<std::vector<Form>> demanded_;
   std::vector<int> orders_;  ///< bit p: some use takes lane order p with any signs
   std::vector<std::map<Form, int>> held_;

@@ -5,6 +5,7 @@
 #include "kernelgen/integers.h"
 #include "kernelgen/lower.h"
 #include "kernelgen/rewrite.h"
+#include "kernelgen/stage.h"
 
 namespace haldgen::kernelgen {
 namespace {
@@ -26,6 +27,7 @@ class RealLowering {
   Program run() {
     if (target_.transposed) load_transposed();
     for (const int node : live_nodes(graph_)) make(node);
+    stage_ = target_.scaled == Scaled::nothing ? "stores" : kStores;
     for (std::size_t k = 0; k < graph_.outputs().size(); ++k) {
       store(static_cast<int>(k), graph_.outputs()[k]);
     }
@@ -40,7 +42,8 @@ class RealLowering {
     std::optional<int> wide;    ///< in 64 bits, widened or never narrowed
   };
 
-  int emit(const Instruction& instruction) {
+  int emit(Instruction instruction) {
+    instruction.stage = stage_;
     program_.code.push_back(instruction);
     return static_cast<int>(program_.code.size()) - 1;
   }
@@ -82,6 +85,7 @@ class RealLowering {
   }
 
   void load_transposed() {
+    stage_ = "transposed loads";
     const int side = std::min(input_count_, program_.lanes);
     if (input_count_ % side != 0 || (side < program_.lanes && 2 * side != program_.lanes)) {
       throw std::logic_error("sequences fill no squares of vectors");
@@ -118,6 +122,7 @@ class RealLowering {
     const bool in64 = wide || program_.type == FloatType::f64;
     const double factor_literal =
         in64 ? graph_.literal(t.constant) : rounded(graph_.constant(t.constant), FloatType::f32);
+    program_.exact.emplace(factor_literal, graph_.constant(t.constant));
     Instruction multiply;
     multiply.op = Op::multiply;
     multiply.a = factor;
@@ -153,6 +158,7 @@ class RealLowering {
   void make(int node) {
     const Statement& s = graph_.node(node);
     Held& held = held_[at(node)];
+    stage_ = s.stage;
     if (s.input) {
       held.narrow = target_.transposed ? loaded_[at(*s.input)] : load(*s.input);
       return;
@@ -190,6 +196,7 @@ class RealLowering {
   const Target& target_;
   const Uses uses_;
   Program program_;
+  std::string stage_;
   int input_count_ = 0;
   std::vector<Held> held_;
   std::vector<int> loaded_;   ///< the inputs, where they are transposed

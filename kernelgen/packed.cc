@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "kernelgen/integers.h"
+#include "kernelgen/stage.h"
 
 namespace haldgen::kernelgen {
 namespace {
@@ -208,6 +209,7 @@ class Packer {
   }
 
   int emit(PackedNode node) {
+    node.stage = stage_;
     packed_.nodes.push_back(node);
     return static_cast<int>(packed_.nodes.size()) - 1;
   }
@@ -238,6 +240,7 @@ class Packer {
 
   int make(const Halves& lanes) {
     const Statement& first = graph_.node(*lanes[0]);
+    stage_ = first.stage;
     const Shape shape = shape_of(first);
     PackedNode node;
     node.kind = shape.kind;
@@ -261,6 +264,7 @@ class Packer {
         node.factor[h] = factor_of(graph_, graph_.node(lanes[h].value_or(*lanes[0])));
       }
     }
+    stage_ = first.stage;
     return emit(node);
   }
 
@@ -329,6 +333,7 @@ class Packer {
   }
 
   void store_outputs() {
+    stage_ = kStores;
     const std::size_t count = graph_.outputs().size();
     std::vector<char> stored(count, 0);
     for (std::size_t k = 0; k < count; ++k) {
@@ -384,6 +389,7 @@ class Packer {
   const Graph& graph_;
   bool whole_pairs_;
   PackedGraph packed_;
+  std::string stage_;
   int inputs_ = 0;  ///< elements that the source has for certain
   std::vector<char> live_;
   std::vector<std::vector<int>> users_;

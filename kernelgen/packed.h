@@ -7,6 +7,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "kernelgen/graph.h"
@@ -32,6 +33,7 @@ struct PackedNode {
   std::array<std::optional<int>, 2> element{};  ///< none: this half is idle
   std::array<WideComplex, 2> factor{};
   std::array<Turn, 2> written{};  ///< as in the statements of the halves
+  std::string stage = {};         ///< of the statement that it is, or is first needed by
 };
 
 /// How vectors of two elements touch memory.

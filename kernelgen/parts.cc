@@ -3,6 +3,7 @@
 #include "kernelgen/element.h"
 #include "kernelgen/integers.h"
 #include "kernelgen/rewrite.h"
+#include "kernelgen/stage.h"
 
 namespace haldgen::kernelgen {
 
@@ -23,6 +24,7 @@ Graph split_parts(const Graph& graph) {
       re.push_back({operand.re.turn, constant, operand.re.node});
       im.push_back({operand.im.turn, constant, operand.im.node});
     }
+    const Stage stage(result, s.stage);
     const Parts written{&result, result.statement(re), result.statement(im)};
     parts[at(node)] = turned(written, -s.written);
   }

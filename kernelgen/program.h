@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <span>
 #include <string>
 #include <vector>
@@ -47,7 +48,8 @@ struct Instruction {
   std::array<int, 2> address{};      ///< in floats from the base
   std::array<int, 2> half{};
   std::array<int, 2> cross{};
-  bool wide = false;  ///< scalar programs of 32-bit elements: a 64-bit operation
+  bool wide = false;       ///< scalar programs of 32-bit elements: a 64-bit operation
+  std::string stage = {};  ///< of the statement that it belongs to; none: whichever needs it
 };
 
 enum class FloatType { f32, f64 };
@@ -65,6 +67,8 @@ struct Program {
   int lanes = 1;  ///< floats in a vector; 1 for scalar programs
   std::vector<Instruction> code;
   Memory memory = Memory::arrays;
+  /// The values of which the magnitudes of its constants are roundings.
+  std::map<double, Wide> exact = {};
 };
 
 /// Those operands that an instruction has.

@@ -41,6 +41,7 @@ void Rewrite::rebuild(int node, std::vector<Term> terms, Turn turn) {
   fresh.foldable = s.foldable;
   fresh.precision = s.precision;
   fresh.rank = s.rank;
+  fresh.stage = s.stage;
 }
 
 void Rewrite::copy(int node) {

@@ -6,6 +6,7 @@
 
 #include "kernelgen/lower.h"
 #include "kernelgen/orient.h"
+#include "kernelgen/stage.h"
 #include "kernelgen/transpose.h"
 #include "real_blocks/expand.h"
 #include "real_blocks/statements.h"
@@ -38,6 +39,7 @@ Marks all_imaginary_parts(int length) {
 
 /// Differences and sums of the parts of each bin in place of the parts.
 void pair_outputs(Graph& graph, int length) {
+  const kernelgen::Stage stage(graph, "pairs of parts");
   const Reals parts(graph.outputs().begin(), graph.outputs().end());
   Reals outputs(at(length));
   std::size_t next = 0;
@@ -71,12 +73,14 @@ Graph transposed(const Graph& graph, int length) {
 /// of the forward graph, fed with doubled values.
 Graph transposed_from_bins(const Graph& spectrum, int length) {
   Graph result(kernelgen::Field::real);
+  kernelgen::Stage stage(result, "doubled bins");
   Reals fed;
   for (int i = 0; i < length; ++i) {
     const bool single = i == 0 || (length % 2 == 0 && i == length - 1);
     const Value value = result.input(i);
     fed.push_back(single ? value : result.multiply(2.0, value));
   }
+  stage.next("");
   result.set_outputs(kernelgen::transpose_statements_into(result, spectrum, fed, length));
   return kernelgen::fold_products(result, Into::all);
 }

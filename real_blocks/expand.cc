@@ -4,10 +4,19 @@
 #include <stdexcept>
 
 #include "kernelgen/integers.h"
+#include "kernelgen/stage.h"
 #include "real_blocks/statements.h"
 
 namespace haldgen::real_blocks {
 namespace {
+
+using kernelgen::columns_of;
+using kernelgen::kDifferences;
+using kernelgen::kEvenBins;
+using kernelgen::kOddBins;
+using kernelgen::kTwiddles;
+using kernelgen::rows_of;
+using kernelgen::Stage;
 
 const Recipe& block(const Recipe& recipe, int i) { return recipe.blocks[at(i)]; }
 
@@ -106,9 +115,11 @@ Bins power_of_two_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     bins[1] = {&g, re, -g.subtract(x[1], x[3])};
     return bins;
   }
+  Stage stage(g, columns_of(n == 8 ? 4 : n / 4));
   if (n == 8) {
     const Bins even = real_bins(g, power_of_two(4), strided(x, 0, 2));
     const Bins odd = real_bins(g, power_of_two(4), strided(x, 1, 2));
+    stage.next(rows_of(2));
     bins[0] = {&g, g.add(even[0].re, odd[0].re), {}};
     bins[4] = {&g, g.subtract(even[0].re, odd[0].re), {}};
     bins[2] = even[2] + turned(odd[2], Turn::three_quarters);
@@ -121,14 +132,17 @@ Bins power_of_two_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   for (int r = 0; r < 4; ++r) {
     quarter.push_back(real_bins(g, power_of_two(n / 4), strided(x, r, 4)));
   }
+  stage.next(rows_of(4));
   const Bins outer = real_bins(g, power_of_two(4), real_parts(row(quarter, 0)));
   for (int l = 0; l <= 2; ++l) place(bins, n, l * n / 4, outer[at(l)]);
   place_middle(g, bins, n, real_parts(row(quarter, n / 8)));
   for (int k = 1; k < n / 8; ++k) {
     Bins column = row(quarter, k);
+    stage.next(kTwiddles);
     for (int r = 1; r < 4; ++r) {
       column[at(r)] = rotated(column[at(r)], r * k, n, recipe.chosen<Twiddled>().eighth);
     }
+    stage.next(rows_of(4));
     const Bins across = complex_bins(g, power_of_two(4), column);
     for (int l = 0; l < 4; ++l) place(bins, n, k + l * n / 4, across[at(l)]);
   }
@@ -136,11 +150,14 @@ Bins power_of_two_bins(Graph& g, const Recipe& recipe, const Reals& x) {
 }
 
 Bins halves_bins(Graph& g, const Recipe& recipe, const Reals& x) {
+  Stage stage(g, kDifferences);
   const int half = recipe.length / 2;
   Reals sums, differences;
   for (int i = 0; i < half; ++i) sums.push_back(g.add(x[at(i)], x[at(i + half)]));
   for (int i = 0; i < half; ++i) differences.push_back(g.subtract(x[at(i)], x[at(i + half)]));
+  stage.next(kEvenBins);
   const Bins even = real_bins(g, block(recipe, 0), sums);
+  stage.next(kOddBins);
   const Bins odd = odd_bins(g, block(recipe, 1), differences);
   Bins bins;
   for (int k = 0; k <= half; ++k) bins.push_back(k % 2 == 0 ? even[at(k / 2)] : odd[at(k / 2)]);
@@ -152,12 +169,14 @@ Bins coprime_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int a = block(recipe, 0).length;
   const int b = block(recipe, 1).length;
   std::vector<Bins> columns;
+  Stage stage(g, columns_of(a));
   for (int column = 0; column < b; ++column) {
     Reals part;
     for (int i = 0; i < a; ++i) part.push_back(x[at((b * i + a * column) % n)]);
     columns.push_back(real_bins(g, block(recipe, 0), part));
   }
   Bins bins = no_bins(n / 2 + 1);
+  stage.next(rows_of(b));
   for (int k1 = 0; 2 * k1 <= a; ++k1) {
     const bool real = k1 == 0 || 2 * k1 == a;
     const Bins across = real ? real_bins(g, block(recipe, 1), real_parts(row(columns, k1)))
@@ -201,6 +220,7 @@ Bins cooley_tukey_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int a = block(recipe, 0).length;
   const int b = block(recipe, 1).length;
   std::vector<Bins> columns;
+  Stage stage(g, columns_of(a));
   for (int q = 0; q < b; ++q) {
     columns.push_back(renamed(real_bins(g, block(recipe, 0), strided(x, q, b)), a, r));
   }
@@ -208,9 +228,13 @@ Bins cooley_tukey_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   for (int k1 = 0; 2 * k1 <= a; ++k1) {
     Bins across;
     if (k1 == 0) {
+      stage.next(rows_of(b));
       across = renamed(real_bins(g, block(recipe, 1), real_parts(row(columns, 0))), b, r);
     } else {
-      const Bins all = complex_bins(g, block(recipe, 1), twiddled(row(columns, k1), r * k1, n));
+      stage.next(kTwiddles);
+      const Bins turned = twiddled(row(columns, k1), r * k1, n);
+      stage.next(rows_of(b));
+      const Bins all = complex_bins(g, block(recipe, 1), turned);
       for (int k2 = 0; k2 < b; ++k2) across.push_back(all[at(r * k2 % b)]);
     }
     for (std::size_t k2 = 0; k2 < across.size(); ++k2) {
@@ -225,6 +249,7 @@ Bins complex_cooley_tukey(Graph& g, const Recipe& recipe, const Bins& x) {
   const int a = block(recipe, 0).length;
   const int b = block(recipe, 1).length;
   std::vector<Bins> columns;
+  Stage stage(g, columns_of(a));
   for (int q = 0; q < b; ++q) {
     Bins part;
     for (int i = q; i < n; i += b) part.push_back(x[at(i)]);
@@ -232,7 +257,10 @@ Bins complex_cooley_tukey(Graph& g, const Recipe& recipe, const Bins& x) {
   }
   Bins bins = no_bins(n);
   for (int k1 = 0; k1 < a; ++k1) {
-    const Bins across = complex_bins(g, block(recipe, 1), twiddled(row(columns, k1), k1, n));
+    stage.next(kTwiddles);
+    const Bins turned = twiddled(row(columns, k1), k1, n);
+    stage.next(rows_of(b));
+    const Bins across = complex_bins(g, block(recipe, 1), turned);
     for (int k2 = 0; k2 < b; ++k2) bins[at(k1 + a * k2)] = across[at(k2)];
   }
   return bins;
@@ -240,13 +268,16 @@ Bins complex_cooley_tukey(Graph& g, const Recipe& recipe, const Bins& x) {
 
 Bins complex_decimated(Graph& g, const Recipe& recipe, const Bins& x) {
   const int half = recipe.length / 2;
+  Stage stage(g, kDifferences);
   Bins sums, differences;
   for (int i = 0; i < half; ++i) sums.push_back(x[at(i)] + x[at(i + half)]);
   for (int i = 0; i < half; ++i) {
     differences.push_back(
         rotated(x[at(i)] - x[at(i + half)], i, recipe.length, EighthRoot::sum_first));
   }
+  stage.next(kEvenBins);
   const Bins even = complex_bins(g, block(recipe, 0), sums);
+  stage.next(kOddBins);
   const Bins odd = complex_bins(g, block(recipe, 0), differences);
   Bins bins;
   for (int k = 0; k < recipe.length; ++k) {
@@ -284,10 +315,12 @@ Bins alternated_bins(Graph& g, const Recipe& recipe, const Reals& x) {
 Bins twisted_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int n = recipe.length;
   Bins z;
+  Stage stage(g, kTwiddles);
   for (int q = 0; 2 * q < n; ++q) {
     z.push_back(
         rotated({&g, x[at(q)], -x[at(q + n / 2)]}, q, 2 * n, recipe.chosen<Twiddled>().eighth));
   }
+  stage.next(columns_of(n / 2));
   const Bins inner = complex_bins(g, block(recipe, 0), z);
   Bins bins = no_bins(n / 2);
   for (std::size_t l = 0; l < inner.size(); ++l) {
@@ -301,6 +334,7 @@ Bins coprime_odd_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int q = block(recipe, 0).length;
   const int e = block(recipe, 1).length;
   std::vector<Bins> columns;
+  Stage stage(g, columns_of(q));
   for (int n1 = 0; n1 < e; ++n1) {
     Reals part;
     for (int n2 = 0; n2 < q; ++n2) {
@@ -310,6 +344,7 @@ Bins coprime_odd_bins(Graph& g, const Recipe& recipe, const Reals& x) {
     columns.push_back(real_bins(g, block(recipe, 0), part));
   }
   Bins bins = no_bins((n + 1) / 2);
+  stage.next(rows_of(e));
   for (int k2 = 0; 2 * k2 <= q; ++k2) {
     const Bins across = k2 == 0 ? odd_bins(g, block(recipe, 1), real_parts(row(columns, 0)))
                                 : complex_odd_bins(g, block(recipe, 1), row(columns, k2));
@@ -327,6 +362,7 @@ Bins classes_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int m = block(recipe, 0).length;
   const int p = block(recipe, 1).length;
   std::vector<Bins> columns;
+  Stage stage(g, columns_of(m));
   for (int q = 0; q < p; ++q) {
     Reals part = strided(x, q, p);
     if (from_behind && q == 1) {
@@ -346,15 +382,18 @@ Bins classes_bins(Graph& g, const Recipe& recipe, const Reals& x) {
       for (int q = 0; q < p; ++q) {
         if (first_place(q) < 0) parts[at(q)] = -parts[at(q)];
       }
+      stage.next(rows_of(p));
       const Bins across = odd_bins(g, block(recipe, 2), parts);
       for (std::size_t i = 0; i < across.size(); ++i) {
         place_odd(bins, n, (2 * static_cast<int>(i) + 1) * m, across[i]);
       }
       continue;
     }
+    stage.next(kTwiddles);
     for (int q = 0; q < p; ++q) {
       column[at(q)] = rotated(column[at(q)], first_place(q) * j, 2 * n, EighthRoot::sum_first);
     }
+    stage.next(rows_of(p));
     const Bins across = complex_bins(g, block(recipe, 1), column);
     for (int l = 0; l < p; ++l) place_odd(bins, n, j + 2 * m * l, across[at(l)]);
   }

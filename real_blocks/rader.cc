@@ -3,6 +3,7 @@
 // spectra give the real parts of half the outputs and the odd bins the imaginary parts.
 #include "kernelgen/fold.h"
 #include "kernelgen/integers.h"
+#include "kernelgen/stage.h"
 #include "kernelgen/transpose.h"
 #include "real_blocks/statements.h"
 
@@ -56,7 +57,9 @@ Bins rader_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   Reals permuted;
   for (int q = 0; q < c.length(); ++q)
     permuted.push_back(x[at(kernelgen::power(c.root, q, prime))]);
+  kernelgen::Stage stage(g, kernelgen::kSpectrum);
   const Bins a = real_bins(g, recipe.blocks[0], permuted);
+  stage.next(kernelgen::kProducts);
 
   Bins bins(at(prime / 2 + 1), Bin{nullptr, {}, {}});
   bins[0] = {&g, g.add(x[0], a[0].re), {}};
@@ -83,7 +86,9 @@ Bins rader_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const auto back = [&](const Recipe& block, const Reals& fed, bool is_odd) {
     return kernelgen::transpose_statements_into(g, side_graph(block, is_odd), fed, m);
   };
+  stage.next("even side: real parts");
   const Reals re = back(recipe.blocks[1], even, false);
+  stage.next("odd side: imaginary parts");
   const Reals im = back(recipe.blocks[2], odd, true);
   for (int p = 0; p < m; ++p) place(bins, prime, c.output(p), {&g, re[at(p)], im[at(p)]});
   return bins;

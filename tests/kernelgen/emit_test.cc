@@ -58,6 +58,34 @@ TEST(Emit, ScalarStatementsOfMixedPrecision) {
             "    scalar::store(dst + 1, v5);\n");
 }
 
+TEST(Emit, StagesAreMarked) {
+  Program program{FloatType::f64, 1, {make(Op::load, -1, -1)}};
+  const auto add = [&](Op op, const char* stage) {
+    program.code.push_back(make(op, 0, 0));
+    program.code.back().stage = stage;
+  };
+  for (int i = 0; i < 4; ++i) add(Op::add, "columns");
+  add(Op::add, "rows");  // for a moment
+  add(Op::add, "columns");
+  add(Op::store, "stores");
+  for (int i = 0; i < 4; ++i) add(Op::subtract, "rows");
+  EXPECT_EQ(emit_body(program),
+            "    // columns\n"
+            "    const double v0 = scalar::load(src);\n"
+            "    const double v1 = v0 + v0;\n"
+            "    const double v2 = v0 + v0;\n"
+            "    const double v3 = v0 + v0;\n"
+            "    const double v4 = v0 + v0;\n"
+            "    const double v5 = v0 + v0;  // rows\n"
+            "    const double v6 = v0 + v0;\n"
+            "    scalar::store(dst, v0);\n"
+            "    // rows\n"
+            "    const double v8 = v0 - v0;\n"
+            "    const double v9 = v0 - v0;\n"
+            "    const double v10 = v0 - v0;\n"
+            "    const double v11 = v0 - v0;\n");
+}
+
 TEST(Emit, ScalarProgramsReachMemoryThroughSubscripts) {
   Graph g(Field::real);
   g.set_outputs({g.multiply(2.0, g.input(1))});
