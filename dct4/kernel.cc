@@ -36,7 +36,7 @@ std::vector<kernelgen::WideComplex> stand_in_rotations(const Kernel& kernel) {
 /// The graph without outputs that carry a minus. The fold of two values only names them, the second
 /// with a minus that nothing can absorb.
 Graph oriented(const Kernel& kernel) {
-  const Graph graph = kernel_graph(kernel);
+  Graph graph = kernel_graph(kernel);
   if (kernel.part == Part::fold && kernel.size == 2) return graph;
   return kernelgen::orient_outputs(graph, std::vector<bool>(graph.outputs().size(), false));
 }
@@ -58,9 +58,15 @@ kernelgen::Counts then(const kernelgen::Counts& a, const kernelgen::Counts& b) {
   return {a.additions + b.additions, a.multiplications + b.multiplications, a.depth + b.depth};
 }
 
+int radix_of(int length) {
+  const int radix = pick_radix(length / 2);
+  if (radix == 0) throw std::invalid_argument("no radix divides this length");
+  return radix;
+}
+
 kernelgen::Counts fold_counts(int length) {
   if (fold_class(length) != kPlannedFoldClass) return count(fold_graph(length));
-  const int radix = pick_radix(length / 2);
+  const int radix = radix_of(length);
   const int sub_length = length / radix;
   return then(times(radix, fold_counts(sub_length)),
               times(sub_length / 2, count(inner_recombine_graph(radix, length, 0))));
@@ -123,7 +129,7 @@ Program kernel_program(const Kernel& kernel, kernelgen::Ordering ordering) {
 
 kernelgen::Counts transform_counts(int length) {
   if (size_class(length) != kPlannedClass) return count(fixed_graph(length));
-  const int radix = pick_radix(length / 2);
+  const int radix = radix_of(length);
   const int fold_length = length / radix;
   return then(times(radix, fold_counts(fold_length)),
               times(fold_length / 2, count(recombine_graph(radix, length, 0))));

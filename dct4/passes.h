@@ -111,7 +111,7 @@ struct FoldShape {
 
 /// The first pass of a plan of this radix.
 template <int Radix>
-using FirstPass = FoldShape<2 * Radix, 2 * Radix, Radix>;
+using FirstPass = FoldShape<std::ptrdiff_t{2} * Radix, std::ptrdiff_t{2} * Radix, Radix>;
 
 /// A fold of an inner plan of this radix, from lines that follow one another.
 template <class Float, int Radix>

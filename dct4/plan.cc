@@ -80,6 +80,8 @@ void add_inner_recombination(InnerPlan* plan) {
   node->length = node->length2 = plan->length;
   node->radix = node->radix2 = plan->radix;
   node->rowStride = plan->rowLength * plan->innerRadix;
+  // accept_length() has seen to it that there are radices.
+  // NOLINTNEXTLINE(clang-analyzer-core.DivideZero)
   node->rowCount = plan->foldLength / (2 * plan->innerRadix);
   node->halfFold = plan->foldLength / 2;
   node->lastFoldIndex = plan->foldLength - 1;
@@ -130,6 +132,8 @@ RotationFormula* make_rotation_formula(const Dct4State* state) {
       take_formula<RotationFormula>(state->arena.get(), Operation::rotation_element);
   formula->rowLength = formula->rowLength2 = 2 * state->radix;
   formula->angleDenominator = 8 * state->length;
+  // accept_length() has seen to it that there is a radix.
+  // NOLINTNEXTLINE(clang-analyzer-core.DivideZero)
   formula->rowCount = state->length / (2 * state->radix);
   formula->radix = state->radix;
   return formula;

@@ -47,10 +47,13 @@ std::int64_t node() {
 
 constexpr std::int64_t kCell = arena_round(kCellSize);
 
+// Sums are asked for lengths that accept_length() takes, all of whose radices exist.
+
 Sum inner_sum(std::int32_t fold_length, std::int64_t node_above, std::int64_t elements) {
   Sum sum;
   if (fold_class(fold_length) != kPlannedFoldClass) return sum.add(node_above, 2 * kCell);
   const std::int32_t radix = pick_radix(fold_length / 2);
+  // NOLINTNEXTLINE(clang-analyzer-core.DivideZero)
   const std::int64_t rows = fold_length / (2 * radix);
   sum.add(rounded(rows * inner_row_bytes(radix)), node<InnerRecombineNode>(), kCell);
   sum.add(inner_sum(fold_length / radix, node<InnerFoldNode>(), elements));
@@ -66,6 +69,7 @@ Sum state_sum(std::int32_t length, std::int32_t element_size) {
     return sum.add(node<Dct4State>(), 3 * kCell, first_position);
   }
   const std::int32_t radix = pick_radix(length / 2);
+  // NOLINTNEXTLINE(clang-analyzer-core.DivideZero)
   const std::int64_t groups = length / (2 * radix) / (16 / element_size);
   const std::int64_t elements = rounded(std::int64_t{element_size} * length);
   sum.add(rounded(groups * 32 * radix), node<RecombineNode>(), kCell);

@@ -52,6 +52,7 @@ void fill_rotation_table(const RecombineNode& node) {
       const int32_t cosine = 2 * walk_index(node.radix, position);
       for (const int32_t column : {cosine, cosine + 1}) {
         for (int32_t lane = 0; lane < kLanes<Float>; ++lane) {
+          // The node has a table. NOLINTNEXTLINE(clang-analyzer-core.NullDereference)
           *entry++ = rotation_element<Float>(view, group, lane, column);
         }
       }
@@ -65,7 +66,7 @@ void fill_inner_table(const InnerRecombineNode& node) {
   const auto radix = static_cast<Float>(formula.innerRadix);
   auto* entry = reinterpret_cast<Float*>(node.table.get());
   for (int32_t row = 0; row < node.rowCount; ++row) {
-    const Float x = inner_rotation_element<Float>(formula, row);
+    const auto x = inner_rotation_element<Float>(formula, row);
     for (int32_t a = 1; a < formula.innerRadix; ++a) {
       const Float angle = x * (static_cast<Float>(2 * a) / radix);
       entry = std::fill_n(entry, kLanes<Float>, cos_pi(angle));

@@ -130,9 +130,9 @@ Elements<E> dft_direct(const Elements<E>& x, Direction direction) {
     E cosines = x[0];
     E sines = zero_like(x[0]);
     for (int k = 1; k <= half; ++k) {
-      const E c = kernelgen::cos_turn(j * k, p) * sums[at(k - 1)];
+      const E c = kernelgen::cos_turn(std::int64_t{j} * k, p) * sums[at(k - 1)];
       cosines = cosines + c;
-      const E s = kernelgen::sin_turn(j * k, p) * differences[at(k - 1)];
+      const E s = kernelgen::sin_turn(std::int64_t{j} * k, p) * differences[at(k - 1)];
       sines = k == 1 ? s : sines + s;
     }
     const E e = turned(sines, direction.quarter());

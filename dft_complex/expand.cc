@@ -501,7 +501,8 @@ class Expander {
     const int p = r.length;
     const int m = r.first.front().length;
     std::vector<WideComplex> chirp;
-    for (int n = 0; n < p; ++n) chirp.push_back(kernelgen::root(2 * p, n * n % (2 * p)));
+    for (int n = 0; n < p; ++n)
+      chirp.push_back(kernelgen::root(std::int64_t{2} * p, n * n % (2 * p)));
     std::vector<WideComplex> wrapped(at(m));
     for (int n = 0; n < p; ++n) {
       wrapped[at(n)] = conj(chirp[at(n)]);

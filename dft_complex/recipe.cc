@@ -53,7 +53,7 @@ std::string there_and_back(const Recipe& r, bool fold_there, bool fold_back) {
 }  // namespace
 
 std::string to_string(const Recipe& r) {
-  const std::string length = std::to_string(r.length);
+  std::string length = std::to_string(r.length);
   switch (r.method) {
     case Method::butterfly:
     case Method::split_eight:
@@ -134,11 +134,11 @@ Recipe cooley_tukey(Recipe first, Recipe second) {
 Recipe rader(int prime, Recipe there, Recipe back) {
   return {Method::rader, prime, {std::move(there)}, {std::move(back)}, Rader{}};
 }
-Recipe rader(int prime, Recipe block) { return rader(prime, block, block); }
+Recipe rader(int prime, const Recipe& block) { return rader(prime, block, block); }
 Recipe joined_rader(int prime, Recipe there, Recipe back) {
   return {Method::joined_rader, prime, {std::move(there)}, {std::move(back)}, JoinedRader{}};
 }
-Recipe joined_rader(int prime, Recipe block) { return joined_rader(prime, block, block); }
+Recipe joined_rader(int prime, const Recipe& block) { return joined_rader(prime, block, block); }
 Recipe four_odd(Recipe odd_block) {
   const int length = 4 * odd_block.length;
   return {Method::four_odd, length, {std::move(odd_block)}};

@@ -46,7 +46,7 @@ Choice parse_choice(const std::string& text) {
 
 Choice Tuning::of(std::string_view exported_name) const {
   if (everywhere_) return *everywhere_;
-  const auto row = std::ranges::lower_bound(kRows, exported_name, {}, &Row::name);
+  const Row* const row = std::ranges::lower_bound(kRows, exported_name, {}, &Row::name);
   if (row == std::end(kRows) || row->name != exported_name) return {};
   return {{row->order, row->cap}, row->seed};
 }

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int kForms = 8;
 constexpr int kLowerings = 5;
+constexpr std::size_t kChoices = std::size_t{kForms} * kLowerings;
 
 int index_of(Form f) { return f.exchanged * 4 + f.negated; }
 Form form_of(int index) { return {index >> 2, index & 3}; }
@@ -216,7 +217,7 @@ class Annealer {
         break;
       case PackedKind::sum: {
         const std::size_t form = at(index_of(c.form));
-        const std::size_t lowering = static_cast<std::size_t>(c.lowering);
+        const auto lowering = static_cast<std::size_t>(c.lowering);
         want_form(n.a, tables().sum_a[at(n.turn)][form][lowering], change);
         want_form(n.b, tables().sum_b[at(n.turn)][form][lowering], change);
         break;
@@ -273,7 +274,7 @@ class Annealer {
   void move(int node, double temperature) {
     const PackedNode& n = nodes_[at(node)];
     demand(node, -1);
-    std::array<int, kForms * kLowerings> costs;
+    std::array<int, kChoices> costs;
     const std::vector<int>& forms = allowed_[at(node)];
     const std::span<const int> ways = lowerings(n);
     const int count = static_cast<int>(ways.size());
@@ -293,7 +294,7 @@ class Annealer {
     if (temperature > 0) {
       std::array<double, 64> weight_of_excess;
       for (int e = 0; e < 64; ++e) weight_of_excess[at(e)] = -1;
-      std::array<double, kForms * kLowerings> weights;
+      std::array<double, kChoices> weights;
       double sum = 0;
       for (int c = 0; c < candidates; ++c) {
         const int excess = std::min(63, costs[at(c)] - least);

@@ -15,7 +15,8 @@ struct Form {
   int exchanged = 0;
   int negated = 0;
 
-  friend auto operator<=>(const Form&, const Form&) = default;
+  // The check takes the 0 of a rewritten a < b for a null pointer.
+  friend auto operator<=>(const Form&, const Form&) = default;  // NOLINT(modernize-use-nullptr)
 };
 
 /// How an instruction makes a value in its form: the operand order and signs of a sum. For a gather

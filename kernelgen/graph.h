@@ -50,7 +50,8 @@ struct Term {
   ConstantId constant = kNoConstant;
   int node = 0;
 
-  friend auto operator<=>(const Term&, const Term&) = default;
+  // The check takes the 0 of a rewritten a < b for a null pointer.
+  friend auto operator<=>(const Term&, const Term&) = default;  // NOLINT(modernize-use-nullptr)
 };
 
 inline bool is_minus(const Term& t) { return t.turn == Turn::half; }

@@ -104,7 +104,7 @@ class PackedLowering {
     auto& forms = demanded_[at(node)];
     std::sort(forms.begin(), forms.end());
     for (const Form form : forms) {
-      if (held.count(form) != 0) continue;
+      if (held.contains(form)) continue;
       if (form.exchanged == own.exchanged) {
         held[form] = sign_change(base, form.negated ^ own.negated);
       } else if (std::find(crossed.begin(), crossed.end(), form) == crossed.end()) {
@@ -116,15 +116,14 @@ class PackedLowering {
     // Exchange a form that is there into one that is wanted, if there is such a pair.
     Form first = exchanged(own);
     for (const Form form : crossed) {
-      if (held.count(exchanged(form)) != 0) {
+      if (held.contains(exchanged(form))) {
         first = form;
         break;
       }
     }
     held[first] = emit(Op::exchange, held.at(exchanged(first)));
     for (const Form form : crossed) {
-      if (held.count(form) == 0)
-        held[form] = sign_change(held[first], form.negated ^ first.negated);
+      if (!held.contains(form)) held[form] = sign_change(held[first], form.negated ^ first.negated);
     }
   }
 

@@ -10,7 +10,7 @@ namespace haldgen::kernelgen {
 
 /// Thrown where no difference behind an output can be turned around for its sign.
 struct UnreachableSign : std::logic_error {
-  UnreachableSign(int output, bool minus);
+  UnreachableSign(int which, bool minus);
   int output;
 };
 

@@ -216,7 +216,7 @@ class Packer {
 
   void place(int node) {
     const Statement& statement = graph_.node(node);
-    if (statement.input || seats_.count(node) != 0) return;
+    if (statement.input || seats_.contains(node)) return;
     const Neighbor mate = partner_[at(node)];
     if (mate.half == 1) return;  // placed with its first half
     if (mate.node == kZeroNode) {
@@ -231,7 +231,7 @@ class Packer {
 
   /// Places an operand that comes later in the order of definition than its use's first half.
   void require(int node) {
-    if (node == kZeroNode || graph_.node(node).input || seats_.count(node) != 0) return;
+    if (node == kZeroNode || graph_.node(node).input || seats_.contains(node)) return;
     const Neighbor mate = partner_[at(node)];
     const int first = mate.half == 1 ? mate.node : node;
     for (const Term& t : graph_.node(first).terms) require(t.node);

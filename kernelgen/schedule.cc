@@ -87,7 +87,7 @@ class Bisection {
     const auto within = [&](const std::vector<int>& all) {
       std::vector<int> some;
       for (const int i : all) {
-        if (inside.count(i) != 0) some.push_back(i);
+        if (inside.contains(i)) some.push_back(i);
       }
       return some;
     };
@@ -120,7 +120,7 @@ class Bisection {
       std::vector<int> joined;
       for (const int i : rest) {
         const auto& need = edges[i];
-        if (std::all_of(need.begin(), need.end(), [&](int n) { return half.count(n) != 0; })) {
+        if (std::all_of(need.begin(), need.end(), [&](int n) { return half.contains(n); })) {
           joined.push_back(i);
         }
       }

@@ -198,6 +198,7 @@ Bins twiddled(Bins bins, int k, int n) {
 
 /// Bins of a real transform under the names r k.
 Bins renamed(const Bins& bins, int n, int r) {
+  if (n < 1) throw std::logic_error("a block without values");
   Bins result = no_bins(n / 2 + 1);
   for (int k = 0; 2 * k <= n; ++k) {
     const int from = r * k % n;
