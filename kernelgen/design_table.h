@@ -32,7 +32,7 @@ template <class Design>
 std::vector<int> lengths_of(const DesignTable<Design>& one, const DesignTable<Design>& other) {
   const auto check = [](const DesignTable<Design>& rows, const DesignTable<Design>& beside) {
     for (const int length : lengths_of(rows)) {
-      if (beside.count(length) != 0) continue;
+      if (beside.contains(length)) continue;
       throw std::logic_error("length " + std::to_string(length) + " has a row in one table only");
     }
   };

@@ -122,7 +122,7 @@ double to_double(Wide a) { return a.hi + a.lo; }
 
 float to_float(Wide a) {
   // Rounding by way of double could round twice, so the neighbours are compared in full width.
-  const float near = static_cast<float>(a.hi);
+  const auto near = static_cast<float>(a.hi);
   float best = near;
   Wide error = abs(a - Wide(near));
   for (const float limit : {-HUGE_VALF, HUGE_VALF}) {

@@ -63,7 +63,7 @@ class CellWriter {
 
   void put(std::string& line, double upper, double lower) {
     if (style_ == TextStyle::ascii) {
-      const double last = static_cast<double>(kShades.size() - 1);
+      const auto last = static_cast<double>(kShades.size() - 1);
       line += kShades[static_cast<std::size_t>(std::lround(std::max(upper, lower) * last))];
       return;
     }

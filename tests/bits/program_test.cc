@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 #include <haldgen.h>
 
-#include <bit>
 #include <cstdint>
 #include <cstdio>
 #include <fstream>
@@ -37,7 +36,7 @@ std::int32_t reads_a_gap(const double* src, double* dst, std::int32_t flag) {
 // Faults: placements, work buffers and general entries must not make a difference.
 
 std::int32_t other_in_one_place(const Cplx32* src, Cplx32* dst, std::int32_t flag) {
-  const bool there = src == dst && std::bit_cast<std::uintptr_t>(dst) % 16 == 12;
+  const bool there = src == dst && reinterpret_cast<std::uintptr_t>(dst) % 16 == 12;
   const std::int32_t status = haldgDFTFwd_CToC_8_32fc(src, dst, flag);
   if (there) dst[7].im += 1;
   return status;

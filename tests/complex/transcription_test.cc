@@ -50,14 +50,14 @@ Points<Float> dft2(const Points<Float>& x) {
 /// kernel in the element type alone.
 template <class Float, class Product = double>
 Points<Float> dft3(const Points<Float>& x) {
-  const Product c = static_cast<Product>(0.5);
-  const Product s = static_cast<Product>(0.8660254037844386);
+  const auto c = static_cast<Product>(0.5);
+  const auto s = static_cast<Product>(0.8660254037844386);
   const Point<Float> p = x[1] + x[2];
   const Point<Float> d = x[1] - x[2];
   const Point<Float> m{static_cast<Float>(Product{x[0].re} - c * Product{p.re}),
                        static_cast<Float>(Product{x[0].im} - c * Product{p.im})};
-  const Float e_r = static_cast<Float>(s * Product{d.im});
-  const Float e_i = static_cast<Float>(s * Product{d.re});
+  const auto e_r = static_cast<Float>(s * Product{d.im});
+  const auto e_i = static_cast<Float>(s * Product{d.re});
   return {x[0] + p, {m.re + e_r, m.im - e_i}, {m.re - e_r, m.im + e_i}};
 }
 

@@ -35,7 +35,7 @@ namespace {
 constexpr int signals[] = {SIGSEGV, SIGBUS};
 struct sigaction previous[2];
 
-void handle(int) {
+void handle(int /*signal*/) {
   if (armed == 0) {
     // A fault of the test itself: whoever handled it before does so when the instruction runs
     // again.

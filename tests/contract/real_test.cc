@@ -72,7 +72,7 @@ TEST(Real, ImpulsesAtTheOriginAreExact) {
     const auto ones = definition(word, transform.points, widened(src));
     for (const std::int32_t flag : {haldScaleNone, haldScaleFwdByN, haldScaleInvByN}) {
       std::vector<long double> expected = ones;
-      const Float s = scale<Float>(transform.word->usage.scaling, transform.points, flag);
+      const auto s = scale<Float>(transform.word->usage.scaling, transform.points, flag);
       for (long double& value : expected) value *= s;
       EXPECT_EQ(widened(result(transform, src, flag)), expected) << transform.name;
     }

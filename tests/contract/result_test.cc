@@ -23,7 +23,7 @@ TEST(Result, ScaleIsOneMultiplicationOfTheUnscaledResult) {
     const std::vector<Float> src = random_floats<Float>(transform.src_floats, 3);
     const std::vector<Float> unscaled = result(transform, src, haldScaleNone);
     for (const std::int32_t flag : flags) {
-      const Float factor = scale<Float>(transform.word->usage.scaling, transform.points, flag);
+      const auto factor = scale<Float>(transform.word->usage.scaling, transform.points, flag);
       std::vector<Float> expected = unscaled;
       for (Float& value : expected) value *= factor;
       EXPECT_TRUE(identical(result(transform, src, flag), expected))

@@ -65,8 +65,8 @@ void check_refusals(const Transform<Float>& transform) {
   const ClosedArrays arrays((std::max(transform.src_floats, transform.dst_floats) + 1) *
                             sizeof(Float));
   for (const std::size_t shift : {0U, 1U}) {
-    const Float* src = arrays.src<Float>(shift);
-    Float* dst = arrays.dst<Float>(shift);
+    const auto* src = arrays.src<Float>(shift);
+    auto* dst = arrays.dst<Float>(shift);
     for (const std::int32_t flag : all) {
       for (const auto& [from, to] :
            {std::pair<const Float*, Float*>{nullptr, nullptr}, {nullptr, dst}, {src, nullptr}}) {
@@ -76,7 +76,7 @@ void check_refusals(const Transform<Float>& transform) {
       }
     }
     for (const std::size_t dst_shift : {0U, 1U}) {
-      Float* to = arrays.dst<Float>(dst_shift);
+      auto* to = arrays.dst<Float>(dst_shift);
       for (const std::int32_t flag : bad) {
         ASSERT_EQ(untouched([&] { return transform.call(src, to, flag); }), haldStatusFlagError)
             << "src " << src << ", dst " << to << ", flag " << flag;

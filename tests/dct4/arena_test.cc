@@ -58,9 +58,9 @@ TEST(Lists, ReleaseGivesBackAllThatWasTaken) {
   const auto taken = buffer.offset();
   EXPECT_EQ(taken, 64 + 2 * 32 + 3 * 64 + 4 * 32);
   list_release_cells(referring);
-  EXPECT_EQ(buffer.offset(), taken - 2 * 32);
+  EXPECT_EQ(buffer.offset(), taken - 2L * 32);
   list_free_items(owning);
-  EXPECT_EQ(buffer.offset(), taken - 2 * 32 - 3 * 64);
+  EXPECT_EQ(buffer.offset(), taken - 2L * 32 - 3L * 64);
   list_free_items(nullptr);
   // Nothing is cleared.
   EXPECT_NE(list_at(owning, 2), nullptr);

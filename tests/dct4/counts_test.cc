@@ -13,10 +13,7 @@ namespace haldgen::dct4 {
 namespace {
 
 using kernelgen::Counts;
-using kernelgen::FloatType;
-using kernelgen::Graph;
 using kernelgen::Op;
-using kernelgen::Program;
 
 /// What a row states; without a depth where none is promised.
 std::string text(int multiplications, int additions, int depth) {

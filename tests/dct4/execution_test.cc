@@ -46,6 +46,7 @@ class Recombination {
     formula.angleDenominator = 8 * length;
     view.groupCount = node.groupCount = m / 2 / kLanes<Float>;
     view.formula = &formula;
+    // The check does not see through the binding. NOLINTNEXTLINE(bugprone-infinite-loop)
     while (radix >> node.tableClass != 0) ++node.tableClass;
     node.length = length;
     node.vectorStride = node.rowLength * kLanes<Float>;

@@ -60,13 +60,13 @@ TYPED_TEST(Transform, NoPlacementChangesABit) {
     // Any byte address will do.
     for (std::size_t from = 0; from<32; from += length> 4096 ? 9 : 3) {
       src.allow(GuardedPages::Access::write);
-      Float* const source = place<Float>(src, length, from);
+      auto* const source = place<Float>(src, length, from);
       std::memcpy(static_cast<void*>(source), x.data(), bytes);
       src.allow(GuardedPages::Access::read);
       for (std::size_t to = 0; to<32; to += length> 4096 ? 7 : 1) {
         const auto inner = dst.bytes();
         std::fill(inner.begin(), inner.end(), std::byte{0xA5});
-        Float* const target = place<Float>(dst, length, to);
+        auto* const target = place<Float>(dst, length, to);
         ASSERT_FALSE(haldgen::test::faults([&] { state.run(source, target); }))
             << length << ", " << from << ", " << to;
         EXPECT_EQ(std::memcmp(target, expected.data(), bytes), 0)
@@ -75,7 +75,7 @@ TYPED_TEST(Transform, NoPlacementChangesABit) {
         EXPECT_EQ(first[-1], std::byte{0xA5}) << length;
         EXPECT_TRUE(to == 0 || first[bytes] == std::byte{0xA5}) << length;
       }
-      Float* const both = place<Float>(dst, length, from);
+      auto* const both = place<Float>(dst, length, from);
       std::memcpy(static_cast<void*>(both), x.data(), bytes);
       state.run(both, both);
       EXPECT_EQ(std::memcmp(both, expected.data(), bytes), 0) << length << " in place, " << from;

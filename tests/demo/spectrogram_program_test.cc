@@ -68,7 +68,9 @@ class Picture {
   double level(double time, int bin) const {
     const int x = area_.left + static_cast<int>(time * area_.width);
     const int y = area_.top + area_.height - bin * area_.row_height - area_.row_height / 2 - 1;
-    const std::uint8_t* pixel = &pixels_[static_cast<std::size_t>(3 * (y * width_ + x))];
+    const std::uint8_t* pixel =
+        &pixels_[3 * (static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                      static_cast<std::size_t>(x))];
     double best = 0;
     int least = std::numeric_limits<int>::max();
     for (int i = 0; i <= 1000; ++i) {
@@ -138,7 +140,7 @@ class Spectrogram : public testing::Test {
     std::ofstream(file(name), std::ios::binary) << bytes;
   }
 
-  std::string read(const fs::path& path) const {
+  static std::string read(const fs::path& path) {
     std::ostringstream text;
     text << std::ifstream(path, std::ios::binary).rdbuf();
     return text.str();

@@ -19,7 +19,7 @@ Numbers<Float> hartley2(const Numbers<Float>& x) {
 template <class Float>
 Numbers<Float> hartley3(const Numbers<Float>& x) {
   const Float s = x[1] + x[2], d = x[1] - x[2];
-  const Float a = kept<Float>(w(x[0]) - kHalf * w(s)), b = kept<Float>(kSine3 * w(d));
+  const auto a = kept<Float>(w(x[0]) - kHalf * w(s)), b = kept<Float>(kSine3 * w(d));
   return {x[0] + s, b + a, a - b};
 }
 
@@ -34,9 +34,9 @@ Numbers<Float> hartley5(const Numbers<Float>& x) {
   constexpr double c1 = 0.30901699437494745, c2 = 0.8090169943749475;
   constexpr double t1 = 0.9510565162951535, t2 = 0.5877852522924731;
   const Float s1 = x[1] + x[4], d1 = x[1] - x[4], s2 = x[3] + x[2], d2 = x[3] - x[2];
-  const Float a1 = kept<Float>(c1 * w(s1) + w(x[0]) - c2 * w(s2));
-  const Float a2 = kept<Float>(w(x[0]) - c2 * w(s1) + c1 * w(s2));
-  const Float b1 = kept<Float>(t1 * w(d1) - t2 * w(d2)), b2 = kept<Float>(t2 * w(d1) + t1 * w(d2));
+  const auto a1 = kept<Float>(c1 * w(s1) + w(x[0]) - c2 * w(s2));
+  const auto a2 = kept<Float>(w(x[0]) - c2 * w(s1) + c1 * w(s2));
+  const auto b1 = kept<Float>(t1 * w(d1) - t2 * w(d2)), b2 = kept<Float>(t2 * w(d1) + t1 * w(d2));
   const Float first = x[0] + s1;
   return {first + s2, a1 + b1, a2 + b2, a2 - b2, a1 - b1};
 }
@@ -55,12 +55,12 @@ Numbers<Float> hartley7(const Numbers<Float>& x) {
   constexpr double u = 0.9749279121818236, v = 0.7818314824680298, ww = 0.4338837391175581;
   const Float s1 = x[1] + x[6], s2 = x[5] + x[2], s3 = x[4] + x[3];
   const Float d1 = x[1] - x[6], d2 = x[5] - x[2], d3 = x[4] - x[3];
-  const Float a1 = kept<Float>(b * w(s1) + w(x[0]) - a * w(s2) - c * w(s3));
-  const Float a2 = kept<Float>(w(x[0]) - a * w(s1) - c * w(s2) + b * w(s3));
-  const Float a3 = kept<Float>(w(x[0]) - c * w(s1) + b * w(s2) - a * w(s3));
-  const Float b1 = kept<Float>(v * w(d1) - u * w(d2) - ww * w(d3));
-  const Float b2 = kept<Float>(u * w(d1) + ww * w(d2) + v * w(d3));
-  const Float b3 = kept<Float>(ww * w(d1) + v * w(d2) - u * w(d3));
+  const auto a1 = kept<Float>(b * w(s1) + w(x[0]) - a * w(s2) - c * w(s3));
+  const auto a2 = kept<Float>(w(x[0]) - a * w(s1) - c * w(s2) + b * w(s3));
+  const auto a3 = kept<Float>(w(x[0]) - c * w(s1) + b * w(s2) - a * w(s3));
+  const auto b1 = kept<Float>(v * w(d1) - u * w(d2) - ww * w(d3));
+  const auto b2 = kept<Float>(u * w(d1) + ww * w(d2) + v * w(d3));
+  const auto b3 = kept<Float>(ww * w(d1) + v * w(d2) - u * w(d3));
   const Float first = x[0] + s1, second = first + s2;
   return {second + s3, a1 + b1, a2 + b2, a3 + b3, a3 - b3, a2 - b2, a1 - b1};
 }
@@ -69,7 +69,7 @@ template <class Float>
 Numbers<Float> hartley8(const Numbers<Float>& x) {
   const Float a = x[0] + x[4], b = x[0] - x[4], f = x[2] + x[6], e = x[2] - x[6];
   const Float g = x[1] + x[5], h = x[3] + x[7], d1 = x[1] - x[5], d3 = x[3] - x[7];
-  const Float m1 = kept<Float>(kEighth * w(d1)), m2 = kept<Float>(kEighth * w(d3));
+  const auto m1 = kept<Float>(kEighth * w(d1)), m2 = kept<Float>(kEighth * w(d3));
   const Float t1 = m1 - m2, t2 = m1 + m2;
   const Float af = a + f, gh = g + h, amf = a - f, gmh = g - h;
   const Float bp = b + t1, ep = e + t2, bm = b - t1, em = e - t2;
@@ -105,7 +105,7 @@ Numbers<Float> hartley11(const Numbers<Float>& x) {
       a = a + c * w(sum);
       b = p == 1 ? s * w(difference) : b + s * w(difference);
     }
-    const Float even = kept<Float>(a), odd = kept<Float>(b);
+    const auto even = kept<Float>(a), odd = kept<Float>(b);
     y[k] = even + odd;
     y[11 - k] = even - odd;
   }

@@ -53,7 +53,7 @@ Element<Float> sum_of(const Graph& graph, const Statement& s, const Operand& ope
   for (const Term& t : s.terms) {
     Element<Float> v = turned<Float>(operand(t.node), t.turn);
     if (t.constant != kNoConstant) {
-      const Float c = rounded_constant<Float>(graph.constant(t.constant));
+      const auto c = rounded_constant<Float>(graph.constant(t.constant));
       v = {c * v.re, c * v.im};
     }
     sum = first ? v : Element<Float>{sum.re + v.re, sum.im + v.im};

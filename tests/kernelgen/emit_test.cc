@@ -21,7 +21,7 @@ TEST(Literal, ReadsBackAsTheSameNumber) {
     char* end = nullptr;
     ASSERT_EQ(std::strtod(text.c_str(), &end), value) << text;
     ASSERT_EQ(*end, '\0') << text;
-    const float narrow = static_cast<float>(value);
+    const auto narrow = static_cast<float>(value);
     const std::string narrow_text = literal(double{narrow}, FloatType::f32);
     ASSERT_EQ(std::strtof(narrow_text.c_str(), &end), narrow) << narrow_text;
     ASSERT_STREQ(end, "f") << narrow_text;

@@ -77,7 +77,7 @@ void expect_bits_of_graph(const Graph& graph, const Program& program, bool mirro
                           std::uint32_t seed) {
   Dice dice(seed);
   const auto source = dice.numbers<Float>(2 * graph.outputs().size());
-  const Float scale = static_cast<Float>(0.3);
+  const auto scale = static_cast<Float>(0.3);
   auto expected = test::direct<Float>(graph, mirrored ? exchanged_parts(source) : source, scale);
   if (mirrored) expected = exchanged_parts(expected);
   std::vector<Float> actual(2 * graph.outputs().size());

@@ -19,7 +19,7 @@ template <class Float>
 void expect_bits_of_graph(const Graph& graph, std::uint32_t seed, Scaled scaled = Scaled::result) {
   Dice dice(seed);
   const auto source = dice.numbers<Float>(test::inputs_of(graph));
-  const Float scale = static_cast<Float>(0.3);
+  const auto scale = static_cast<Float>(0.3);
   const FloatType type = std::is_same_v<Float, float> ? FloatType::f32 : FloatType::f64;
   std::vector<Float> actual(graph.outputs().size());
   interpret(lower_real(graph, {.type = type, .scaled = scaled}), source, scale, actual);

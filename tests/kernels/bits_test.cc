@@ -28,7 +28,7 @@ void expect_bits(const BuiltKernel& kernel, const Expected& expected, const Equa
       Floats<Float> src(source, 0);
       Floats<Float> dst(std::vector<Float>(arrays.dst_floats, Float{77}), 0);
       ASSERT_EQ(kernel.function(src.data(), dst.data(), flag), haldStatusOk) << kernel.name;
-      const Float factor = scale<Float>(kernel.word->usage.scaling, arrays.points, flag);
+      const auto factor = scale<Float>(kernel.word->usage.scaling, arrays.points, flag);
       ASSERT_TRUE(equal(dst.values(), expected(source, factor))) << kernel.name << " " << flag;
     }
   }

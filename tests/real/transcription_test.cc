@@ -94,7 +94,7 @@ Results forward8(const Numbers<Float>& x) {
   const Float u0 = x[0] + x[4], u1 = x[1] + x[5], u2 = x[2] + x[6], u3 = x[3] + x[7];
   const Float e = x[0] - x[4], f = x[2] - x[6];
   const Float d1 = x[1] - x[5], d3 = x[3] - x[7];
-  const Float p = kept<Float>(kEighth * w(d1)), r = kept<Float>(kEighth * w(d3));
+  const auto p = kept<Float>(kEighth * w(d1)), r = kept<Float>(kEighth * w(d3));
   const Float minus = p - r, plus = p + r;
   const Float even = u0 + u2, odd = u1 + u3;
   return {sum(even + odd),    sum(minus + e), minus_sum(plus + f), sum(u0 - u2),
@@ -106,15 +106,15 @@ Results forward9(const Numbers<Float>& x) {
   constexpr double c1 = 0.766044443118978, s1 = 0.6427876096865394;
   constexpr double c2 = 0.17364817766693036, s2 = 0.984807753012208;
   const Block3<Float> b0(x[0], x[3], x[6]), b1(x[1], x[4], x[7]), b2(x[2], x[5], x[8]);
-  const Float p1 = kept<Float>(c1 * w(b1.cosine) - s1 * w(b1.sine));
-  const Float q1 = kept<Float>(s1 * w(b1.cosine) + c1 * w(b1.sine));
-  const Float p2 = kept<Float>(c2 * w(b2.cosine) - s2 * w(b2.sine));
-  const Float q2 = kept<Float>(s2 * w(b2.cosine) + c2 * w(b2.sine));
+  const auto p1 = kept<Float>(c1 * w(b1.cosine) - s1 * w(b1.sine));
+  const auto q1 = kept<Float>(s1 * w(b1.cosine) + c1 * w(b1.sine));
+  const auto p2 = kept<Float>(c2 * w(b2.cosine) - s2 * w(b2.sine));
+  const auto q2 = kept<Float>(s2 * w(b2.cosine) + c2 * w(b2.sine));
   const Float totals = b1.total + b2.total, difference = b1.total - b2.total;
   const Float v = p2 + p1, z = q1 + q2, q = q2 - q1, p = p1 - p2;
-  const Float t0 = kept<Float>(w(b0.cosine) - kHalf * w(v));
-  const Float t1 = kept<Float>(kSine3 * w(q)), t2 = kept<Float>(kSine3 * w(p));
-  const Float t3 = kept<Float>(kHalf * w(z) - w(b0.sine));
+  const auto t0 = kept<Float>(w(b0.cosine) - kHalf * w(v));
+  const auto t1 = kept<Float>(kSine3 * w(q)), t2 = kept<Float>(kSine3 * w(p));
+  const auto t3 = kept<Float>(kHalf * w(z) - w(b0.sine));
   return {sum(b0.total + totals),
           sum(b0.cosine + v),
           minus_sum(b0.sine + z),
@@ -156,8 +156,8 @@ Results forward13(const Numbers<Float>& x) {
   const Float du31 = b3.sine - b1.sine, dt24 = b2.cosine - b4.cosine;
   const Float m = du31 + dt24, q = du31 - dt24;
   const Float a = b1.total - b3.total, b = b2.total - b4.total;
-  const Float t = kept<Float>(w(x[0]) - 0.08333333333333333 * w(sums));
-  const Float u = kept<Float>(0.3004626062886657 * w(differences));
+  const auto t = kept<Float>(w(x[0]) - 0.08333333333333333 * w(sums));
+  const auto u = kept<Float>(0.3004626062886657 * w(differences));
   const auto [f1, f2] = reflected(0.5165207806234897, 0.30711137115908277, f, h);
   const auto [j1, j2] = turned(0.5124953431658732, 0.31378278210316923, j, q);
   const auto [g1, g2] = turned(0.5751407294740031, 0.1741386011521359, a, b);
@@ -166,14 +166,14 @@ Results forward13(const Numbers<Float>& x) {
 
   const Float v = f1 + e1, ww = e1 - f1, plus = t + u, minus = t - u;
   const Float vs = e2 - f2, ws = f2 + e2;
-  const Float vc = kept<Float>(w(plus) - kHalf * w(v)), vr = kept<Float>(kSine3 * w(vs));
-  const Float wc = kept<Float>(w(minus) - kHalf * w(ww)), wr = kept<Float>(kSine3 * w(ws));
+  const auto vc = kept<Float>(w(plus) - kHalf * w(v)), vr = kept<Float>(kSine3 * w(vs));
+  const auto wc = kept<Float>(w(minus) - kHalf * w(ww)), wr = kept<Float>(kSine3 * w(ws));
 
   const Float p = j1 + k2, r = j2 - k1, y = j2 + k1, kj = k2 - j1;
-  const Float z = kept<Float>(w(g2) - kHalf * w(y)), o = kept<Float>(kSine3 * w(kj));
-  const Float n = kept<Float>(kSine3 * w(r) - kHalf * w(p));
-  const Float l = kept<Float>(0.4330127018922193 * w(r) + 0.7499999999999999 * w(p));
-  const Float mm = kept<Float>(kHalf * w(n) + w(g1));
+  const auto z = kept<Float>(w(g2) - kHalf * w(y)), o = kept<Float>(kSine3 * w(kj));
+  const auto n = kept<Float>(kSine3 * w(r) - kHalf * w(p));
+  const auto l = kept<Float>(0.4330127018922193 * w(r) + 0.7499999999999999 * w(p));
+  const auto mm = kept<Float>(kHalf * w(n) + w(g1));
   return {sum(x[0] + sums), sum(plus + v), sum(g2 + y),      sum(wc + wr),     sum(n - g1),
           sum(vc + vr),     sum(z + o),    sum(vc - vr),     minus_sum(z - o), sum(minus + ww),
           sum(l - mm),      sum(wc - wr),  minus_sum(mm + l)};
@@ -192,14 +192,13 @@ Results forward16(const Numbers<Float>& x) {
     t[i] = u[i] - u[i + 4];
   }
   const Float even = s[0] + s[2], odd = s[1] + s[3];
-  const Float p = kept<Float>(kEighth * w(t[1])), r = kept<Float>(kEighth * w(t[3]));
+  const auto p = kept<Float>(kEighth * w(t[1])), r = kept<Float>(kEighth * w(t[3]));
   const Float minus = p - r, plus = p + r;
-  const Float e = kept<Float>(kEighth * w(d[2])), f = kept<Float>(kEighth * w(d[6]));
+  const auto e = kept<Float>(kEighth * w(d[2])), f = kept<Float>(kEighth * w(d[6]));
   constexpr double h = 0.9238795325112867, c = 0.3826834323650898;
-  const Float a = kept<Float>(h * w(d[1]) - c * w(d[5])),
-              b = kept<Float>(c * w(d[1]) + h * w(d[5]));
-  const Float cc = kept<Float>(c * w(d[3]) - h * w(d[7]));
-  const Float dd = kept<Float>(h * w(d[3]) + c * w(d[7]));
+  const auto a = kept<Float>(h * w(d[1]) - c * w(d[5])), b = kept<Float>(c * w(d[1]) + h * w(d[5]));
+  const auto cc = kept<Float>(c * w(d[3]) - h * w(d[7]));
+  const auto dd = kept<Float>(h * w(d[3]) + c * w(d[7]));
   const Float ef = e - f, fe = e + f;
   const Float ee = ef + d[0], ff = d[0] - ef, gg = fe + d[4], hh = fe - d[4];
   const Float ac = a + cc, ca = a - cc, bd = b + dd, db = dd - b;
@@ -219,8 +218,8 @@ Results inverse2(const Numbers<Float>& y) {
 template <class Float>
 Results inverse3(const Numbers<Float>& y) {
   const Float a = 2 * y[1];
-  const Float c = kept<Float>(w(y[0]) - kHalf * w(a));
-  const Float t = kept<Float>(1.7320508075688772 * w(y[2]));
+  const auto c = kept<Float>(w(y[0]) - kHalf * w(a));
+  const auto t = kept<Float>(1.7320508075688772 * w(y[2]));
   return {sum(y[0] + a), sum(c - t), sum(c + t)};
 }
 
@@ -236,9 +235,9 @@ Results inverse5(const Numbers<Float>& y) {
   constexpr double s1 = 0.5877852522924731, s2 = 0.9510565162951535;
   const Float a1 = 2 * y[1], d1 = 2 * y[2], a2 = 2 * y[3], d2 = 2 * y[4];
   const Float first = y[0] + a1;
-  const Float r1 = kept<Float>(c1 * w(a1) + w(y[0]) - c2 * w(a2));
-  const Float r2 = kept<Float>(w(y[0]) - c2 * w(a1) + c1 * w(a2));
-  const Float t1 = kept<Float>(s2 * w(d1) + s1 * w(d2)), t2 = kept<Float>(s1 * w(d1) - s2 * w(d2));
+  const auto r1 = kept<Float>(c1 * w(a1) + w(y[0]) - c2 * w(a2));
+  const auto r2 = kept<Float>(w(y[0]) - c2 * w(a1) + c1 * w(a2));
+  const auto t1 = kept<Float>(s2 * w(d1) + s1 * w(d2)), t2 = kept<Float>(s1 * w(d1) - s2 * w(d2));
   return {sum(first + a2), sum(r1 - t1), sum(r2 - t2), sum(r2 + t2), sum(r1 + t1)};
 }
 
@@ -249,12 +248,12 @@ Results inverse7(const Numbers<Float>& y) {
   const Float a1 = 2 * y[1], d1 = 2 * y[2], a2 = 2 * y[3], d2 = 2 * y[4], a3 = 2 * y[5],
               d3 = 2 * y[6];
   const Float first = y[0] + a1, second = first + a2;
-  const Float r1 = kept<Float>(c1 * w(a1) + w(y[0]) - c2 * w(a2) - c3 * w(a3));
-  const Float r2 = kept<Float>(w(y[0]) - c2 * w(a1) - c3 * w(a2) + c1 * w(a3));
-  const Float r3 = kept<Float>(w(y[0]) - c3 * w(a1) + c1 * w(a2) - c2 * w(a3));
-  const Float t1 = kept<Float>(s1 * w(d1) + s2 * w(d2) + s3 * w(d3));
-  const Float t2 = kept<Float>(s2 * w(d1) - s3 * w(d2) - s1 * w(d3));
-  const Float t3 = kept<Float>(s3 * w(d1) - s1 * w(d2) + s2 * w(d3));
+  const auto r1 = kept<Float>(c1 * w(a1) + w(y[0]) - c2 * w(a2) - c3 * w(a3));
+  const auto r2 = kept<Float>(w(y[0]) - c2 * w(a1) - c3 * w(a2) + c1 * w(a3));
+  const auto r3 = kept<Float>(w(y[0]) - c3 * w(a1) + c1 * w(a2) - c2 * w(a3));
+  const auto t1 = kept<Float>(s1 * w(d1) + s2 * w(d2) + s3 * w(d3));
+  const auto t2 = kept<Float>(s2 * w(d1) - s3 * w(d2) - s1 * w(d3));
+  const auto t3 = kept<Float>(s3 * w(d1) - s1 * w(d2) + s2 * w(d3));
   return {sum(second + a3), sum(r1 - t1), sum(r2 - t2), sum(r3 - t3),
           sum(r3 + t3),     sum(r2 + t2), sum(r1 + t1)};
 }
@@ -265,7 +264,7 @@ Results inverse8(const Numbers<Float>& y) {
               i3 = 2 * y[6];
   const Float plus = y[0] + y[7], minus = y[0] - y[7];
   const Float a = r1 - r3, b = i1 + i3;
-  const Float p = kept<Float>(kEighth * w(a)), r = kept<Float>(kEighth * w(b));
+  const auto p = kept<Float>(kEighth * w(a)), r = kept<Float>(kEighth * w(b));
   const Float even = plus + r2, odd = plus - r2, re = r1 + r3, im = i1 - i3;
   const Float lower = minus - i2, upper = minus + i2, pr = p - r, rp = p + r;
   return {sum(even + re), sum(lower + pr), sum(odd - im), sum(upper - rp),
@@ -281,33 +280,33 @@ Results inverse11(const Numbers<Float>& y) {
   const Float a = re(2) + re(5), b = re(3) + re(4), e = re(2) - re(5), f = re(3) - re(4);
   const Float ww = re(1), v = im(1);
   const Float g1 = im(5) - im(2), g2 = im(2) + im(5), g3 = im(3) - im(4), g4 = im(3) + im(4);
-  const Float p1 = kept<Float>(c1 * w(a) + w(ww) - c2 * w(b));
-  const Float p2 = kept<Float>(w(ww) - c2 * w(a) + c1 * w(b));
-  const Float q1 = kept<Float>(s2 * w(e) - s1 * w(f)), q2 = kept<Float>(s1 * w(e) + s2 * w(f));
+  const auto p1 = kept<Float>(c1 * w(a) + w(ww) - c2 * w(b));
+  const auto p2 = kept<Float>(w(ww) - c2 * w(a) + c1 * w(b));
+  const auto q1 = kept<Float>(s2 * w(e) - s1 * w(f)), q2 = kept<Float>(s1 * w(e) + s2 * w(f));
   const Float aw = a + ww, s = aw + b;
-  const Float e1 = kept<Float>(c1 * w(g1) + w(v) - c2 * w(g4));
-  const Float e2 = kept<Float>(w(v) - c2 * w(g1) + c1 * w(g4));
-  const Float f1 = kept<Float>(s2 * w(g2) + s1 * w(g3)), f2 = kept<Float>(s2 * w(g3) - s1 * w(g2));
+  const auto e1 = kept<Float>(c1 * w(g1) + w(v) - c2 * w(g4));
+  const auto e2 = kept<Float>(w(v) - c2 * w(g1) + c1 * w(g4));
+  const auto f1 = kept<Float>(s2 * w(g2) + s1 * w(g3)), f2 = kept<Float>(s2 * w(g3) - s1 * w(g2));
   const Float vg = v + g1, z = vg + g4;
-  const Float t = kept<Float>(w(y[0]) - 0.1 * w(s)), u = kept<Float>(0.33166247903554 * w(z));
+  const auto t = kept<Float>(w(y[0]) - 0.1 * w(s)), u = kept<Float>(0.33166247903554 * w(z));
   const Float minus = t - u, plus = t + u;
   constexpr double a_c = 0.19106037559687397, a_s = 0.635213297150478;
-  const Float a1 = kept<Float>(a_c * w(f2) - a_s * w(e2)),
-              a2 = kept<Float>(a_c * w(e2) + a_s * w(f2));
+  const auto a1 = kept<Float>(a_c * w(f2) - a_s * w(e2)),
+             a2 = kept<Float>(a_c * w(e2) + a_s * w(f2));
   const auto [b1, b2] = turned(0.527221112864967, 0.4025393125514894, p1, q1);
   constexpr double c_c = 0.4262349587304204, c_s = 0.5082556049431003;
-  const Float cc1 = kept<Float>(c_c * w(e1) - c_s * w(f1));
-  const Float cc2 = kept<Float>(c_s * w(e1) + c_c * w(f1));
+  const auto cc1 = kept<Float>(c_c * w(e1) - c_s * w(f1));
+  const auto cc2 = kept<Float>(c_s * w(e1) + c_c * w(f1));
   const auto [d1, d2] = turned(0.4140324199662142, 0.5182443007085755, p2, q2);
 
   const Float m1 = b1 + cc1, m2 = a1 + d1, m3 = d2 - a2, m4 = b2 - cc2;
-  const Float h1 = kept<Float>(c1 * w(m1) + w(minus) - c2 * w(m2));
-  const Float h2 = kept<Float>(w(minus) - c2 * w(m1) + c1 * w(m2));
-  const Float h3 = kept<Float>(s2 * w(m3) - s1 * w(m4)), h4 = kept<Float>(s2 * w(m4) + s1 * w(m3));
+  const auto h1 = kept<Float>(c1 * w(m1) + w(minus) - c2 * w(m2));
+  const auto h2 = kept<Float>(w(minus) - c2 * w(m1) + c1 * w(m2));
+  const auto h3 = kept<Float>(s2 * w(m3) - s1 * w(m4)), h4 = kept<Float>(s2 * w(m4) + s1 * w(m3));
   const Float n1 = b1 - cc1, n2 = d1 - a1, n3 = b2 + cc2, n4 = a2 + d2;
-  const Float l1 = kept<Float>(c1 * w(n1) + w(plus) - c2 * w(n2));
-  const Float l2 = kept<Float>(w(plus) - c2 * w(n1) + c1 * w(n2));
-  const Float l3 = kept<Float>(s2 * w(n3) + s1 * w(n4)), l4 = kept<Float>(s2 * w(n4) - s1 * w(n3));
+  const auto l1 = kept<Float>(c1 * w(n1) + w(plus) - c2 * w(n2));
+  const auto l2 = kept<Float>(w(plus) - c2 * w(n1) + c1 * w(n2));
+  const auto l3 = kept<Float>(s2 * w(n3) + s1 * w(n4)), l4 = kept<Float>(s2 * w(n4) - s1 * w(n3));
   const Float mm = minus + m1, nn = plus + n1;
   return {sum(y[0] + s), sum(mm + m2), sum(l1 - l3), sum(h2 - h3), sum(h2 + h3), sum(h1 + h4),
           sum(l1 + l3),  sum(l2 + l4), sum(l2 - l4), sum(h1 - h4), sum(nn + n2)};
