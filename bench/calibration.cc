@@ -11,7 +11,7 @@ namespace {
 
 using Kernel = std::int32_t (*)(const void* src, void* dst, std::int32_t flag);
 
-std::int32_t null_kernel(const void*, void*, std::int32_t) { return 0; }
+std::int32_t null_kernel(const void* /*src*/, void* /*dst*/, std::int32_t /*flag*/) { return 0; }
 
 // Read anew for each slice: the compiler cannot know what it calls, as with a loaded kernel.
 volatile Kernel null_kernel_address = null_kernel;

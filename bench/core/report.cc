@@ -69,7 +69,7 @@ std::vector<std::string> header(const std::vector<Column>& columns) {
     if (has_own_ratio(column)) names.push_back("/" + column.name);
   }
   names.insert(names.end(), {"bound", "/bound"});
-  if (shows_traffic(columns)) names.push_back("GB/s");
+  if (shows_traffic(columns)) names.emplace_back("GB/s");
   return names;
 }
 
@@ -249,7 +249,7 @@ Table summary_table(const std::vector<Measurement>& measurements) {
     table.header.insert(table.header.end(), {title, "worst " + title});
   }
   std::vector<std::string> types = distinct(measurements, &Measurement::type);
-  if (types.size() > 1) types.push_back("all");
+  if (types.size() > 1) types.emplace_back("all");
 
   const auto add_row = [&](Mode mode, Statistic statistic, const std::string& family,
                            const Group& group, const std::string& type) {

@@ -45,7 +45,7 @@ struct Measurement {
 /// The figures of one measurement for one statistic. A ratio is the subject's time over the
 /// other's, so below 1 the subject is faster; it is absent when one of the two is.
 struct Figures {
-  explicit Figures(const Measurement& measurement, Statistic statistic);
+  explicit Figures(const Measurement& source, Statistic which);
 
   std::optional<double> time(const std::string& contestant) const;
   std::optional<double> ratio_to(const std::string& contestant) const;

@@ -130,6 +130,7 @@ void draw_loudness(Canvas& canvas, const PlotArea& area, const LoudnessRange& ra
     const double level = 1 - (y + 0.5) / area.height;
     canvas.fill(left, area.top + y, kBarWidth, 1, colour_of(level));
   }
+  // Whole numbers. NOLINTNEXTLINE(clang-analyzer-security.FloatLoopCounter)
   for (double db = range.bottom_db; db <= range.top_db; db += 10) {
     const double level = (db - range.bottom_db) / (range.top_db - range.bottom_db);
     const int y = area.top + static_cast<int>(std::lround((1 - level) * area.height));

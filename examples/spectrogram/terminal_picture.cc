@@ -138,7 +138,7 @@ TextStyle style_of_stdout() {
   std::setlocale(LC_CTYPE, "");
   const bool utf8 = std::string_view(nl_langinfo(CODESET)) == "UTF-8";
   const std::string_view terminal = environment("TERM");
-  const bool coloured = terminal != "" && terminal != "dumb" && environment("NO_COLOR") == "";
+  const bool coloured = !terminal.empty() && terminal != "dumb" && environment("NO_COLOR").empty();
   if (isatty(STDOUT_FILENO) == 0 || !utf8 || !coloured) return TextStyle::ascii;
   const std::string_view depth = environment("COLORTERM");
   const bool deep = depth == "truecolor" || depth == "24bit";

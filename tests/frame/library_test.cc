@@ -89,7 +89,7 @@ TEST(Library, HaldcoreExportsItsThreeFunctions) {
 }
 
 TEST(Library, SlotsHoldTheImplementationsInByteOrder) {
-  const std::vector<registry::Export> functions = registry::exports();
+  const std::vector<registry::Export>& functions = registry::exports();
   const Symbol& slots = symbol("haldgen_entry_slots");
   EXPECT_EQ(slots.size, 8 * functions.size());
 
@@ -112,7 +112,7 @@ TEST(Library, SlotsHoldTheImplementationsInByteOrder) {
 }
 
 TEST(Library, EntriesAreOneJumpThroughTheirSlot) {
-  const std::vector<registry::Export> functions = registry::exports();
+  const std::vector<registry::Export>& functions = registry::exports();
   const auto instructions = disassemble(HALDGEN_LIBRARY);
   const std::uint64_t slots = symbol("haldgen_entry_slots").address;
   for (std::size_t k = 0; k < functions.size(); ++k) {

@@ -24,7 +24,7 @@ class Dice {
   /// A constant of trigonometry, neither 0 nor 1.
   Wide constant() {
     const int n = 5 + below(40);
-    return abs(cos_turn(1 + below(n - 1), 4 * n));
+    return abs(cos_turn(1 + below(n - 1), std::int64_t{4} * n));
   }
 
   template <class Float>
