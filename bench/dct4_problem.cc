@@ -69,6 +69,7 @@ std::string fault_of(int length, const Contestant& contestant, const Walk& walk,
   // One more than a power of two reaches every residue.
   for (std::size_t k = 0; k < n; k += stride == 1 ? 1 : stride + 1) {
     long double sum = 0;
+    // No length is 0. NOLINTNEXTLINE(clang-analyzer-core.DivideZero)
     for (std::size_t i = 0; i < n; ++i) sum += x[i] * cosine[(2 * i + 1) * (2 * k + 1) % (8 * n)];
     const long double error = y[k] - factor * sum;
     difference += error * error;

@@ -22,7 +22,7 @@ namespace {
 /// Says on stderr what is done; the tables on stdout come at the end.
 class Progress : public benchmark::BenchmarkReporter {
  public:
-  bool ReportContext(const Context&) override { return true; }
+  bool ReportContext(const Context& /*context*/) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override {
     const Run& last = runs.back();
     if (last.run_type != Run::RT_Iteration) return;
@@ -128,6 +128,8 @@ class FrontEnd {
   FrontEnd& operator=(const FrontEnd&) = delete;
 
   /// Throws std::runtime_error if no benchmark matches the filter.
+  // Needs what the constructor set up.
+  // NOLINTNEXTLINE(readability-convert-member-functions-to-static)
   void run() {
     Progress progress;
     if (benchmark::RunSpecifiedBenchmarks(&progress) == 0) {

@@ -141,6 +141,7 @@ void print(std::int32_t length, const Definition& definition) {
 
 }  // namespace
 
+// A failure ends the program. NOLINTNEXTLINE(bugprone-exception-escape)
 int main() {
   std::puts(
       "| N | 32f: L2 | worst call | L2/√ | largest | 64f: L2 | worst call | L2/√ | largest |\n"

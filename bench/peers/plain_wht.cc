@@ -49,7 +49,7 @@ void fixed(const Float* __restrict src, Float* __restrict dst, int /*order*/, Fl
 }
 
 template <class Float, int... kOrder>
-PlainWht<Float> fixed_by_order(int order, std::integer_sequence<int, kOrder...>) {
+PlainWht<Float> fixed_by_order(int order, std::integer_sequence<int, kOrder...> /*orders*/) {
   constexpr std::array<PlainWht<Float>, sizeof...(kOrder)> kByOrder = {fixed<Float, kOrder>...};
   return kByOrder.at(static_cast<std::size_t>(order));
 }

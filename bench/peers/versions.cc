@@ -1,6 +1,7 @@
 // Which releases of the other libraries this program runs.
 #include <fftw3.h>
 extern "C" {
+// The header's word. NOLINTNEXTLINE(bugprone-reserved-identifier)
 #define __STDC_CONSTANT_MACROS  // asked for by the header in C++
 #include <libavutil/avutil.h>
 }
