@@ -276,8 +276,4 @@ const Design& design_of(int length, FloatType type) {
   return kernelgen::row_of(table_of(type), length);
 }
 
-std::vector<int> lengths() {
-  return kernelgen::lengths_of(table_of(FloatType::f32), table_of(FloatType::f64));
-}
-
 }  // namespace haldgen::dft_complex

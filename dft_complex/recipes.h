@@ -1,16 +1,11 @@
 // The design table of the complex DFT: one row for each length and element type.
 #pragma once
 
-#include <vector>
-
 #include "dft_complex/design.h"
 
 namespace haldgen::dft_complex {
 
 /// Throws std::out_of_range if there is no such kernel.
 const Design& design_of(int length, kernelgen::FloatType type);
-
-/// The lengths of the table.
-std::vector<int> lengths();
 
 }  // namespace haldgen::dft_complex

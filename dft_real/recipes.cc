@@ -222,8 +222,4 @@ const Design& design_of(int length, Direction direction) {
   return kernelgen::row_of(table_of(direction), length);
 }
 
-std::vector<int> lengths() {
-  return kernelgen::lengths_of(table_of(Direction::forward), table_of(Direction::inverse));
-}
-
 }  // namespace haldgen::dft_real

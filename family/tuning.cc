@@ -29,11 +29,6 @@ static_assert(std::ranges::is_sorted(kRows, {}, &Row::name));
 
 }  // namespace
 
-std::string to_string(const Choice& choice) {
-  return std::string(name_of(choice.ordering.order)) + ":" + std::to_string(choice.ordering.cap) +
-         ":" + std::to_string(choice.seed);
-}
-
 Choice parse_choice(const std::string& text) {
   std::istringstream parts(text);
   std::string order, cap, seed;

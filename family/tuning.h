@@ -18,9 +18,6 @@ struct Choice {
   int seed = 0;
 };
 
-/// Such as "critical:15:1".
-std::string to_string(const Choice& choice);
-
 /// ORDER, ORDER:CAP or ORDER:CAP:SEED; throws if it is none.
 Choice parse_choice(const std::string& text);
 

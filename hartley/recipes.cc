@@ -125,6 +125,4 @@ const DesignTable<Design>& table() {
 
 const Design& design_of(int length) { return kernelgen::row_of(table(), length); }
 
-std::vector<int> lengths() { return kernelgen::lengths_of(table()); }
-
 }  // namespace haldgen::hartley

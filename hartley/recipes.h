@@ -1,8 +1,6 @@
 // The design table of the Hartley transform: one row for each length.
 #pragma once
 
-#include <vector>
-
 #include "real_blocks/design.h"
 
 namespace haldgen::hartley {
@@ -11,8 +9,5 @@ using real_blocks::Design;
 
 /// Throws std::out_of_range if there is no such kernel.
 const Design& design_of(int length);
-
-/// The lengths of the table.
-std::vector<int> lengths();
 
 }  // namespace haldgen::hartley
