@@ -23,6 +23,10 @@ if(HALDGEN_SANITIZE)
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${HALDGEN_SANITIZE})
 endif()
+if(HALDGEN_BUILD_FUZZ)
+  # What a call runs through tells the fuzzers which inputs to keep.
+  add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-fsanitize=fuzzer-no-link>)
+endif()
 
 # Warnings as errors, for code written by hand. g++ 12 takes every "literal" + string for an
 # overlapping copy (its bug 105651), and with less than -O2 a variant's vector for uninitialised.
@@ -71,5 +75,13 @@ function(haldgen_kernels target)
     ${haldgen_kernel_options} -fno-tree-vectorize -fno-tree-slp-vectorize
     $<$<CXX_COMPILER_ID:GNU>:-frename-registers;-fno-ipa-icf;-fno-var-tracking>
     -Wall -Wextra -Werror)
+  # Checks of addresses as calls: as branches, in lines of a thousand loads and stores, they would take
+  # compilers minutes too.
+  if(HALDGEN_SANITIZE)
+    target_compile_options(${target} PRIVATE
+      $<$<CXX_COMPILER_ID:GNU>:-g1;--param=asan-instrumentation-with-call-threshold=0>
+      $<$<CXX_COMPILER_ID:Clang>:-gline-tables-only>
+      "$<$<CXX_COMPILER_ID:Clang>:SHELL:-mllvm -asan-instrumentation-with-call-threshold=0>")
+  endif()
   add_dependencies(${target} haldgen_frame_generated)
 endfunction()
