@@ -81,6 +81,28 @@ int Mnemonics::count(std::initializer_list<std::string_view> mnemonics) const {
   return total;
 }
 
+int Mnemonics::all() const {
+  int total = 0;
+  for (const auto& [mnemonic, count] : counts_) total += count;
+  return total;
+}
+
+int Mnemonics::fused() const {
+  int total = 0;
+  for (const auto& [mnemonic, count] : counts_) {
+    // Of x86 (vfmadd213sd, vfnmsub231ps, vfmaddsub132pd) and of ARM processors (fmadd, fnmsub,
+    // fmla, fcmla).
+    for (const std::string_view start :
+         {"vfm", "vfnm", "fma", "fms", "fnma", "fnms", "fml", "fcml"}) {
+      if (mnemonic.starts_with(start) && !mnemonic.starts_with("fmax")) {
+        total += count;
+        break;
+      }
+    }
+  }
+  return total;
+}
+
 int Mnemonics::packed_arithmetic() const {
   int total = 0;
   for (const auto& [mnemonic, count] : counts_) {
@@ -94,7 +116,7 @@ int Mnemonics::packed_arithmetic() const {
 
 const std::map<std::string, Mnemonics>& disassembly() {
   static const auto functions =
-      parsed(output_of("objdump -d --no-show-raw-insn '" HALDGEN_LIBRARY "'"));
+      parsed(output_of(OBJDUMP " -d --no-show-raw-insn '" HALDGEN_LIBRARY "'"));
   return functions;
 }
 
