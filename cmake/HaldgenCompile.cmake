@@ -57,12 +57,8 @@ function(haldgen_kernels target)
   set_target_properties(${target} PROPERTIES
     CXX_VISIBILITY_PRESET hidden POSITION_INDEPENDENT_CODE ON)
   target_compile_options(${target} PRIVATE
-    -mssse3 -fno-tree-vectorize -fno-tree-slp-vectorize
+    ${haldgen_kernel_options} -fno-tree-vectorize -fno-tree-slp-vectorize
     $<$<CXX_COMPILER_ID:GNU>:-frename-registers;-fno-ipa-icf;-fno-var-tracking>
     -Wall -Wextra -Werror)
   add_dependencies(${target} haldgen_frame_generated)
 endfunction()
-
-# Kernels that may keep vectors on their stack align it themselves and ask no caller for the 16 bytes
-# of the calling convention. g++ does so in the functions that need it, clang in all.
-set(HALDGEN_REALIGN_STACK -mstackrealign)

@@ -32,6 +32,9 @@ endfunction()
 # What runs during the build: how the family's kernels come about.
 #   haldgen_family_design(FOLDER SOURCE... [LIBS LIBRARY...])
 function(haldgen_family_design folder)
+  if(NOT haldgen_builds_generator)
+    return()
+  endif()
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBS")
   set(target haldgen_${folder}_design)
   add_library(${target} STATIC ${arg_UNPARSED_ARGUMENTS})
@@ -55,8 +58,8 @@ function(haldgen_generated_sources variable family)
       set(source ${folder}/${family}_${kernel}_${type}.cc)
       add_custom_command(
         OUTPUT ${source}
-        COMMAND haldgen-generate source ${family} ${kernel} ${type} ${source} ${HALDGEN_TUNING}
-        DEPENDS haldgen-generate
+        COMMAND ${haldgen_generate} source ${family} ${kernel} ${type} ${source} ${HALDGEN_TUNING}
+        DEPENDS ${haldgen_generate}
         VERBATIM)
       list(APPEND sources ${source})
     endforeach()

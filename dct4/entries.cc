@@ -6,6 +6,7 @@
 #include "dct4/execution.h"
 #include "dct4/size.h"
 #include "implementations.h"
+#include "lanes/stack.h"
 
 namespace haldgen::dct4 {
 namespace {
@@ -71,8 +72,6 @@ int32_t transform(const Float* src, Float* dst, const Dct4State* state) {
 namespace dct4 = haldgen::dct4;
 
 // Set-up and release call other libraries, which may rely on a stack aligned to 16 bytes.
-#define HALDGEN_REALIGNED [[gnu::force_align_arg_pointer]]
-
 extern "C" {
 
 HALDGEN_REALIGNED int32_t haldgImpl_DCT4GetSize_32f(int32_t length, int32_t* size) {

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "dct4/size.h"
+#include "lanes/stack.h"
 
 namespace haldgen::dct4 {
 namespace {
@@ -99,8 +100,8 @@ void recombine_by_tiles(typename Signatures<Float>::recombine* kernel, const Rec
 /// The passes of a plan. What they call, here and in other libraries, relies on a stack aligned to
 /// 16 bytes. The kernels of fixed lengths see to theirs themselves, as most have nothing on it.
 template <class Float>
-[[gnu::noinline, gnu::force_align_arg_pointer]] void run_plan(const Float* src, Float* dst,
-                                                              const Dct4State& state) {
+[[gnu::noinline]] HALDGEN_REALIGNED void run_plan(const Float* src, Float* dst,
+                                                  const Dct4State& state) {
   auto* const scratch = reinterpret_cast<Float*>(state.scratch.get());
   const auto& first = first_item<FirstStage>(state.firstStage.get());
   if (first.hasChild == 1) {

@@ -12,8 +12,14 @@ std::string emit_header();
 /// Assembly: the table of entry slots and the forwarding entries.
 std::string emit_entries();
 
+/// C++ source: the entries where there are no slots, on WebAssembly.
+std::string emit_entry_functions();
+
 /// Linker version script: the exported names are global, everything else is local.
 std::string emit_exports();
+
+/// The same as options of a linker without version scripts.
+std::string emit_linker_exports();
 
 /// C++ header: declarations of all implementations, hidden.
 std::string emit_implementations();

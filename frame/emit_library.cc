@@ -58,28 +58,68 @@ void emit_general_entry(std::ostream& out, const Export& entry) {
 
 }  // namespace
 
+// What the table and the entries are made of on each machine. A 32-bit x86 processor knows its own
+// place only by a call; its relocations are relative to it, so that pages are shared.
+constexpr std::string_view entry_macros = R"(#if defined(__x86_64__)
+#define POINTER .quad
+#define POINTER_SIZE 8
+#define LEAVE(slot) jmp *haldgen_entry_slots+POINTER_SIZE*slot(%rip)
+#elif defined(__i386__)
+#define POINTER .long
+#define POINTER_SIZE 4
+#define LEAVE(slot) call haldgen_place; 1: jmp *haldgen_entry_slots+POINTER_SIZE*slot-1b(%eax)
+#elif defined(__aarch64__)
+#define POINTER .xword
+#define POINTER_SIZE 8
+#define LEAVE(slot) \
+  adrp x16, haldgen_entry_slots+POINTER_SIZE*slot; \
+  ldr x16, [x16, :lo12:haldgen_entry_slots+POINTER_SIZE*slot]; \
+  br x16
+#endif
+
+)";
+
 std::string emit_entries() {
   const std::vector<Export>& functions = registry::exports();
   std::ostringstream out;
   out << "/* " << generated_notice << " */\n\n"
+      << entry_macros
       << "/* The table of entry slots: one code pointer per exported function, in byte order of\n"
       << "   the names. It is writable data, but nobody writes it. */\n"
-      << "  .data\n  .balign 64\n  .type haldgen_entry_slots, @object\n"
+      << "  .data\n  .balign 64\n  .type haldgen_entry_slots, %object\n"
       << "haldgen_entry_slots:\n";
   for (const Export& function : functions) {
     const std::string symbol = implementation_symbol(function.name);
-    out << "  .hidden " << symbol << "\n  .quad " << symbol << "\n";
+    out << "  .hidden " << symbol << "\n  POINTER " << symbol << "\n";
   }
   out << "  .size haldgen_entry_slots, . - haldgen_entry_slots\n\n"
-      << "/* The forwarding entries. */\n  .text\n";
+      << "/* The forwarding entries. */\n  .text\n"
+      << "#if defined(__i386__)\n  .balign 16\n  .type haldgen_place, %function\n"
+      << "haldgen_place:\n  .cfi_startproc\n  movl (%esp), %eax\n  ret\n"
+      << "  .cfi_endproc\n  .size haldgen_place, . - haldgen_place\n#endif\n";
   for (std::size_t k = 0; k < functions.size(); ++k) {
     const std::string& name = functions[k].name;
-    out << "\n  .balign 8\n  .globl " << name << "\n  .type " << name << ", @function\n"
+    out << "\n  .balign 8\n  .globl " << name << "\n  .type " << name << ", %function\n"
         << name << ":\n  .cfi_startproc\n"
-        << "  jmp *haldgen_entry_slots+" << 8 * k << "(%rip)\n"
+        << "  LEAVE(" << k << ")\n"
         << "  .cfi_endproc\n  .size " << name << ", . - " << name << "\n";
   }
-  out << "\n  .section .note.GNU-stack, \"\", @progbits\n";
+  out << "\n  .section .note.GNU-stack, \"\", %progbits\n";
+  return out.str();
+}
+
+std::string emit_entry_functions() {
+  std::ostringstream out;
+  out << "// " << generated_notice << "\n"
+      << "// The entries of a machine without code pointers in memory: functions that call.\n"
+      << "#include \"implementations.h\"\n\nextern \"C\" {\n\n";
+  for (const Export& function : registry::exports()) {
+    const Signature signature = function.word->signature;
+    out << declaration(signature, function.element, function.name) << " {\n  return "
+        << implementation_symbol(function.name) << "("
+        << joined_names(parameters(signature, function.element)) << ");\n}\n";
+  }
+  out << "\n}\n";
   return out.str();
 }
 
@@ -87,6 +127,12 @@ std::string emit_exports() {
   std::string text = "# " + std::string(generated_notice) + "\n{\n  global:\n";
   for (const Export& function : registry::exports()) text += "    " + function.name + ";\n";
   return text + "  local:\n    *;\n};\n";
+}
+
+std::string emit_linker_exports() {
+  std::string text;
+  for (const Export& function : registry::exports()) text += "--export=" + function.name + "\n";
+  return text;
 }
 
 std::string emit_implementations() {

@@ -18,7 +18,9 @@ struct Output {
 constexpr Output outputs[] = {
     {"header", haldgen::frame::emit_header, "the public header"},
     {"entries", haldgen::frame::emit_entries, "slots and forwarding entries, assembly"},
+    {"entry_functions", haldgen::frame::emit_entry_functions, "entries without slots, C++"},
     {"exports", haldgen::frame::emit_exports, "linker version script"},
+    {"linker_exports", haldgen::frame::emit_linker_exports, "options of a linker"},
     {"implementations", haldgen::frame::emit_implementations, "hidden declarations, C++"},
     {"general_entries", haldgen::frame::emit_general_entries, "general entries, C++"},
     {"linked_functions", haldgen::frame::emit_linked_functions, "names and addresses, C++"},

@@ -12,7 +12,11 @@ extern "C" {
 namespace haldgen::frame {
 
 std::int32_t processor_support(std::uint64_t features) {
+#if defined(__x86_64__) || defined(__i386__)
   constexpr std::uint32_t needed = haldCpuSse3 | haldCpuSsse3;
+#else
+  constexpr std::uint32_t needed = 0;  // every processor of the machine has what it takes
+#endif
   return (static_cast<std::uint32_t>(features) & needed) == needed ? 1 : 0;
 }
 

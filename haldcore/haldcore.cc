@@ -1,7 +1,9 @@
 // Memory and processor features.
 #include "haldcore.h"
 
+#if defined(__x86_64__) || defined(__i386__)
 #include <cpuid.h>
+#endif
 
 #include <cstddef>
 #include <cstdint>
@@ -9,6 +11,8 @@
 
 namespace haldgen::haldcore {
 namespace {
+
+#if defined(__x86_64__) || defined(__i386__)
 
 struct Registers {
   unsigned eax = 0, ebx = 0, ecx = 0, edx = 0;
@@ -48,6 +52,12 @@ std::uint64_t enabled_features() {
   }
   return mask;
 }
+
+#else
+
+std::uint64_t enabled_features() { return 0; }
+
+#endif
 
 }  // namespace
 }  // namespace haldgen::haldcore

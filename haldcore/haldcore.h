@@ -50,7 +50,8 @@ enum {
 /**
  * Tells what the processor can do and the operating system lets it do.
  *
- * @return Sum of the features above; bits without a name here are 0.
+ * @return Sum of the features above; bits without a name here are 0. Processors other than x86 have
+ *         none of them.
  */
 uint64_t haldGetEnabledCpuFeatures(void);
 

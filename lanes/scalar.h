@@ -15,11 +15,22 @@ inline void store(Float* to, Float value) {
   __builtin_memcpy(to, &value, sizeof value);
 }
 
+// The letter by which a machine's compilers know the registers of floats.
+#if defined(__x86_64__) || defined(__i386__)
+#define HALDGEN_FLOAT_REGISTER "+x"
+#elif defined(__aarch64__)
+#define HALDGEN_FLOAT_REGISTER "+w"
+#else
+#define HALDGEN_FLOAT_REGISTER "+r"
+#endif
+
 /// The value, unknown to the compiler: a multiplication by it stays one.
 template <class Float>
 inline Float opaque(Float value) {
-  __asm__("" : "+x"(value));
+  __asm__("" : HALDGEN_FLOAT_REGISTER(value));
   return value;
 }
+
+#undef HALDGEN_FLOAT_REGISTER
 
 }  // namespace haldgen::scalar

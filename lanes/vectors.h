@@ -1,5 +1,5 @@
 // The vocabulary of vector code, be it generated or a template. Code that speaks it names no
-// machine; one header per machine, such as x86.h, says what the words are there:
+// machine; x86.h says what the words are on x86 processors, shuffles.h what they are on all others:
 //   Float4, Double2                           the types of 128-bit vectors
 //   broadcast(s)                              s in all lanes
 //   alternate(a, b), change_sign(a, signs)    signs by lane
@@ -14,7 +14,11 @@
 
 #include "lanes/inline.h"
 #include "lanes/scalar.h"
+#if defined(__x86_64__) || defined(__i386__)
 #include "lanes/x86.h"
+#else
+#include "lanes/shuffles.h"
+#endif
 
 namespace haldgen::lanes {
 

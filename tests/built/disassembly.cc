@@ -34,7 +34,7 @@ std::map<std::string, Mnemonics> parsed(const std::string& listing) {
     const auto tab = line.find(":\t");
     if (current == nullptr || tab == std::string::npos) continue;
     const auto start = tab + 2;
-    current->add(line.substr(start, line.find(' ', start) - start));
+    current->add(line.substr(start, line.find_first_of(" \t", start) - start));
   }
   return functions;
 }
@@ -46,6 +46,28 @@ int Mnemonics::count(std::initializer_list<std::string_view> mnemonics) const {
   for (const auto mnemonic : mnemonics) {
     const auto found = counts_.find(std::string(mnemonic));
     total += found == counts_.end() ? 0 : found->second;
+  }
+  return total;
+}
+
+int Mnemonics::all() const {
+  int total = 0;
+  for (const auto& [mnemonic, count] : counts_) total += count;
+  return total;
+}
+
+int Mnemonics::fused() const {
+  int total = 0;
+  for (const auto& [mnemonic, count] : counts_) {
+    // Of x86 (vfmadd213sd, vfnmsub231ps, vfmaddsub132pd) and of ARM processors (fmadd, fnmsub,
+    // fmla, fcmla).
+    for (const std::string_view start :
+         {"vfm", "vfnm", "fma", "fms", "fnma", "fnms", "fml", "fcml"}) {
+      if (mnemonic.starts_with(start) && !mnemonic.starts_with("fmax")) {
+        total += count;
+        break;
+      }
+    }
   }
   return total;
 }
@@ -63,7 +85,7 @@ int Mnemonics::packed_arithmetic() const {
 
 const std::map<std::string, Mnemonics>& disassembly() {
   static const auto functions =
-      parsed(output_of("objdump -d --no-show-raw-insn '" HALDGEN_LIBRARY "'"));
+      parsed(output_of(OBJDUMP " -d --no-show-raw-insn '" HALDGEN_LIBRARY "'"));
   return functions;
 }
 

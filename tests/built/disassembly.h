@@ -15,6 +15,9 @@ class Mnemonics {
  public:
   void add(const std::string& mnemonic) { ++counts_[mnemonic]; }
   int count(std::initializer_list<std::string_view> mnemonics) const;
+  int all() const;
+  /// Products and sums in one instruction, which round once.
+  int fused() const;
   /// Additions, subtractions, multiplications and conversions of more than one float at once.
   int packed_arithmetic() const;
 

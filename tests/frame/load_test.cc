@@ -46,10 +46,17 @@ constexpr std::uint64_t supported[] = {0x30, 0xFFFFFFFF, 0xFFFFFFFF00000030, 0x7
                                        ~std::uint64_t{0}};
 constexpr std::uint64_t unsupported[] = {
     0, 0x10, 0x20, 0x0F, 0xFFFFFFCF, 0xFFFFFFDF, 0xFFFFFFEF, 0x3000000000, 0xFFFFFFFF00000010};
+#if defined(__x86_64__) || defined(__i386__)
+constexpr std::int32_t without_features = 0;
+#else
+constexpr std::int32_t without_features = 1;  // kernels of other machines ask for none
+#endif
 
-TEST(LoadStep, NeedsBothFeatures) {
+TEST(LoadStep, NeedsBothFeaturesOfX86) {
   for (const std::uint64_t mask : supported) EXPECT_EQ(frame::processor_support(mask), 1) << mask;
-  for (const std::uint64_t mask : unsupported) EXPECT_EQ(frame::processor_support(mask), 0) << mask;
+  for (const std::uint64_t mask : unsupported) {
+    EXPECT_EQ(frame::processor_support(mask), without_features) << mask;
+  }
 }
 
 // Loads the library and returns its processor-support flag.
@@ -77,7 +84,9 @@ std::int32_t flag_after_load(std::uint64_t features) {
 
 TEST(LoadStep, AsksOnceAtLoadAndNeverFails) {
   for (const std::uint64_t mask : supported) EXPECT_EQ(flag_after_load(mask), 1) << mask;
-  for (const std::uint64_t mask : unsupported) EXPECT_EQ(flag_after_load(mask), 0) << mask;
+  for (const std::uint64_t mask : unsupported) {
+    EXPECT_EQ(flag_after_load(mask), without_features) << mask;
+  }
 }
 
 TEST(Haldcore, ApplicationMayBringItsOwnAllocator) {
