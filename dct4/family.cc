@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "dct4/kernel.h"
+#include "dct4/steps.h"
 #include "dct4/text.h"
 
 namespace haldgen::dct4 {
@@ -126,7 +127,7 @@ family::Family dct4(const names::Sizes& /*lengths*/) {
                         {},
                         {},
                         family::Generated{algorithm, graph, work, source, kernel_names()},
-                        family::Planned{powers_of_two(), transform_work}};
+                        family::Planned{powers_of_two(), transform_work, angle_steps}};
   result.words = {
       {"DCT4GetSize", Signature::length_query, names::kReal, {}, {}, kSizeText},
       {"DCT4Init", Signature::plan_init, names::kReal, {}, {}, kInitText},

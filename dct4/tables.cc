@@ -1,8 +1,8 @@
 #include "dct4/tables.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "dct4/angle.h"
 #include "dct4/passes.h"
 #include "dct4/walk.h"
 
@@ -11,27 +11,23 @@ namespace {
 
 constexpr double kPi = 3.141592653589793;
 
-double cos_pi(double x) { return std::cos(x * kPi); }
-double sin_pi(double x) { return std::sin(x * kPi); }
-float cos_pi(float x) { return static_cast<float>(cos_pi(double{x})); }
-float sin_pi(float x) { return static_cast<float>(sin_pi(double{x})); }
-
-/// Column `column` of row b of the rotations, in which 2j is the cosine and 2j + 1 the sine of
-/// pi (2j+1)(2b+1) / (4N).
+/// Cosine and sine of pi x, rounded to the type.
 template <class Float>
-Float rotation_element(const RotationFormula& formula, int32_t row, int32_t column) {
-  const int32_t element = formula.rowLength * row + column;
-  const int32_t block = element / 2 / formula.radix;
-  const int32_t j = element / 2 % formula.radix;
-  const auto x = static_cast<Float>((4 * block + 2) * (2 * j + 1)) /
-                 static_cast<Float>(formula.angleDenominator);
-  return element % 2 == 0 ? cos_pi(x) : sin_pi(x);
-}
+struct Rotation {
+  explicit Rotation(Float x) {
+    const CosineSine exact = cosine_sine(double{x} * kPi);
+    cosine = static_cast<Float>(exact.cosine);
+    sine = static_cast<Float>(exact.sine);
+  }
+  Float cosine;
+  Float sine;
+};
 
-/// The same for lane `lane` of a group of blocks.
+/// By pi (2j+1)(2b+1) / (4N).
 template <class Float>
-Float rotation_element(const RotationView& view, int32_t group, int32_t lane, int32_t column) {
-  return rotation_element<Float>(*view.formula.get(), kLanes<Float> * group + lane, column);
+Rotation<Float> rotation(const RotationFormula& formula, int32_t b, int32_t j) {
+  return Rotation<Float>(static_cast<Float>((4 * b + 2) * (2 * j + 1)) /
+                         static_cast<Float>(formula.angleDenominator));
 }
 
 /// (b + 1/2) / (m / r') of row b.
@@ -49,13 +45,14 @@ void fill_rotation_table(const RecombineNode& node) {
   auto* entry = reinterpret_cast<Float*>(node.table.get());
   for (int32_t group = 0; group < view.groupCount; ++group) {
     for (int32_t position = 0; position < node.radix; ++position) {
-      const int32_t cosine = 2 * walk_index(node.radix, position);
-      for (const int32_t column : {cosine, cosine + 1}) {
-        for (int32_t lane = 0; lane < kLanes<Float>; ++lane) {
-          // The node has a table. NOLINTNEXTLINE(clang-analyzer-core.NullDereference)
-          *entry++ = rotation_element<Float>(view, group, lane, column);
-        }
+      const int32_t j = walk_index(node.radix, position);
+      for (int32_t lane = 0; lane < kLanes<Float>; ++lane) {
+        const auto value = rotation<Float>(*view.formula.get(), kLanes<Float> * group + lane, j);
+        // The node has a table. NOLINTNEXTLINE(clang-analyzer-core.NullDereference)
+        entry[lane] = value.cosine;
+        entry[kLanes<Float> + lane] = value.sine;
       }
+      entry += 2 * kLanes<Float>;
     }
   }
 }
@@ -68,9 +65,9 @@ void fill_inner_table(const InnerRecombineNode& node) {
   for (int32_t row = 0; row < node.rowCount; ++row) {
     const auto x = inner_rotation_element<Float>(formula, row);
     for (int32_t a = 1; a < formula.innerRadix; ++a) {
-      const Float angle = x * (static_cast<Float>(2 * a) / radix);
-      entry = std::fill_n(entry, kLanes<Float>, cos_pi(angle));
-      entry = std::fill_n(entry, kLanes<Float>, sin_pi(angle));
+      const Rotation<Float> value(x * (static_cast<Float>(2 * a) / radix));
+      entry = std::fill_n(entry, kLanes<Float>, value.cosine);
+      entry = std::fill_n(entry, kLanes<Float>, value.sine);
     }
   }
 }

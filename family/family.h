@@ -37,6 +37,7 @@ struct Generated {
 struct Planned {
   std::vector<int> lengths;  ///< some that are listed with the counts
   Work (*work)(int length);
+  std::string (*constants)();  ///< a source file of constants that the planner is compiled with
 };
 
 struct Family {

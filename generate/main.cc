@@ -22,11 +22,13 @@ constexpr std::string_view kUsage =
     "       haldgen-generate counts [FAMILY]\n"
     "       haldgen-generate recipe|counts|graph|code FAMILY KERNEL TYPE\n"
     "       haldgen-generate source FAMILY KERNEL TYPE FILE [ORDER:CAP:SEED]\n"
+    "       haldgen-generate constants FAMILY FILE\n"
     "  list     the families with their kernels and element types\n"
     "  counts   operation counts of all transforms, of a family's kernels or of one, as a table\n"
     "  recipe   the factorisation of a kernel\n"
     "  graph    its statements for Graphviz\n"
     "  code     its C++ source, as source writes it to a file\n"
+    "  constants  a source file of constants for the planner of a family\n"
     "  KERNEL   a length, or the name of a part of planned transforms\n"
     "  TYPE     32f or 64f; of complex elements 32fc or 64fc\n"
     "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
@@ -134,6 +136,11 @@ void run(const std::vector<std::string>& args) {
   if (command == "counts" && args.size() <= 2) {
     print_counts_head();
     return args.size() == 1 ? print_all_counts() : print_family_counts(generated_family(args[1]));
+  }
+  if (command == "constants" && args.size() == 3) {
+    const Family& family = generated_family(args[1]);
+    if (!family.planned) throw UsageError("nothing is planned in the family " + family.name);
+    return write_file(args[2], family.planned->constants());
   }
   if (args.size() < 4) throw UsageError("arguments");
   const Family& family = generated_family(args[1]);

@@ -1792,8 +1792,7 @@ int32_t haldgDCT4Free_64f(Dct4State* state);
  *     y[k] = sum over n of x[n] * cos(pi/N * (n + 1/2) * (k + 1/2)),   k, n = 0..N-1
  *
  * There is no scale: applied twice, the transform multiplies by N/2. From length 64 up a state
- * holds scratch memory and can serve one call at a time; different states are independent. The
- * bits of a result also hang on the sine and cosine of the maths library that set up the state.
+ * holds scratch memory and can serve one call at a time; different states are independent.
  *
  * @param src     N elements x[0..N-1]; only read.
  * @param dst     N elements y[0..N-1].

@@ -25,30 +25,6 @@ Wide two_product(double a, double b) {
 // 2 pi = 6.28318530717958647692528676655900576839433879875021...
 constexpr Wide kTwoPi{6.283185307179586, 2.4492935982947064e-16};
 
-// Taylor series on an angle of at most pi/4: the terms fall below 2^-107 well before the 28th
-// power.
-Wide sin_series(Wide angle) {
-  const Wide square = angle * angle;
-  Wide term = angle;
-  Wide sum = angle;
-  for (int power = 3; power < 30; power += 2) {
-    term = -(term * square) / Wide(static_cast<double>(power * (power - 1)));
-    sum += term;
-  }
-  return sum;
-}
-
-Wide cos_series(Wide angle) {
-  const Wide square = angle * angle;
-  Wide term = 1.0;
-  Wide sum = 1.0;
-  for (int power = 2; power < 30; power += 2) {
-    term = -(term * square) / Wide(static_cast<double>(power * (power - 1)));
-    sum += term;
-  }
-  return sum;
-}
-
 struct CosSin {
   Wide cosine;
   Wide sine;
@@ -77,7 +53,7 @@ CosSin turn(std::int64_t k, std::int64_t n) {
   }
   if (k == 0) return {1.0, 0.0};
   const Wide angle = kTwoPi * Wide(static_cast<double>(k)) / Wide(static_cast<double>(n));
-  return {cos_series(angle), sin_series(angle)};
+  return {cos(angle), sin(angle)};
 }
 
 }  // namespace
@@ -116,6 +92,29 @@ Wide sqrt(Wide a) {
   const Wide first = std::sqrt(a.hi);
   const Wide second = first + (a - first * first) / (first + first);  // Newton doubles the digits
   return second + (a - second * second) / (second + second);
+}
+
+// Taylor series: the terms fall below 2^-107 well before the 28th power.
+Wide sin(Wide angle) {
+  const Wide square = angle * angle;
+  Wide term = angle;
+  Wide sum = angle;
+  for (int power = 3; power < 30; power += 2) {
+    term = -(term * square) / Wide(static_cast<double>(power * (power - 1)));
+    sum += term;
+  }
+  return sum;
+}
+
+Wide cos(Wide angle) {
+  const Wide square = angle * angle;
+  Wide term = 1.0;
+  Wide sum = 1.0;
+  for (int power = 2; power < 30; power += 2) {
+    term = -(term * square) / Wide(static_cast<double>(power * (power - 1)));
+    sum += term;
+  }
+  return sum;
 }
 
 double to_double(Wide a) { return a.hi + a.lo; }

@@ -54,6 +54,10 @@ WideComplex turned(WideComplex a, Turn turn);
 /// circle are exact in the parts that are 0, 1 or equal to each other.
 WideComplex root(std::int64_t n, std::int64_t k);
 
+/// Of an angle between -pi/4 and pi/4.
+Wide cos(Wide angle);
+Wide sin(Wide angle);
+
 /// cos(2 pi k / n) and sin(2 pi k / n).
 Wide cos_turn(std::int64_t k, std::int64_t n);
 Wide sin_turn(std::int64_t k, std::int64_t n);

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <span>
 
+#include "dct4/angle.h"
 #include "dct4/passes.h"
 #include "dct4/walk.h"
 #include "tests/dct4/state.h"
@@ -25,8 +25,8 @@ std::span<const Float> entries(const Link<std::byte>& table, std::int32_t count)
 template <class Float>
 Float value(bool sine, std::int64_t numerator, std::int64_t denominator) {
   const Float x = static_cast<Float>(numerator) / static_cast<Float>(denominator);
-  const double angle = double{x} * 3.141592653589793;
-  return static_cast<Float>(sine ? std::sin(angle) : std::cos(angle));
+  const CosineSine exact = cosine_sine(double{x} * 3.141592653589793);
+  return static_cast<Float>(sine ? exact.sine : exact.cosine);
 }
 
 template <class Float>
