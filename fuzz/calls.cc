@@ -41,7 +41,7 @@ Place::Place(std::size_t kind, std::size_t bytes, Choices& choices, std::size_t 
   const std::size_t distance = choices.below(kSlack) / step * step;
   const test::Placement placement{choices.chance(2), distance};
   data_ = around_.data() + placement.offset(bytes, size);
-  std::ranges::fill(around_, kKnown);
+  std::memset(around_.data(), static_cast<int>(kKnown), around_.size());
 }
 
 namespace {
@@ -64,7 +64,7 @@ void Place::expect_unwritten(const std::string& what) const {
 
 void fill(std::span<std::byte> array, Bytes pattern) {
   if (pattern.empty()) {
-    std::ranges::fill(array, std::byte{0});
+    std::memset(array.data(), 0, array.size());
     return;
   }
   for (std::size_t done = 0; done < array.size(); done += pattern.size()) {
