@@ -10,23 +10,37 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 # The bits of every result are promised, so a product and a sum are never contracted.
 add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-ffp-contract=off>)
 
+# What is compiled does not depend on the folder that it is compiled in. Names of sources are relative
+# to the project's, in debug information too. The later of two options is looked at first.
+foreach(language IN ITEMS C CXX ASM)
+  add_compile_options(
+    $<$<COMPILE_LANGUAGE:${language}>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>
+    $<$<COMPILE_LANGUAGE:${language}>:-ffile-prefix-map=${PROJECT_BINARY_DIR}=./build>)
+endforeach()
+
 if(HALDGEN_SANITIZE)
   add_compile_options(-fsanitize=${HALDGEN_SANITIZE} -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${HALDGEN_SANITIZE})
 endif()
+if(HALDGEN_BUILD_FUZZ)
+  # What a call runs through tells the fuzzers which inputs to keep.
+  add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-fsanitize=fuzzer-no-link>)
+endif()
 
 # Warnings as errors, for code written by hand. g++ 12 takes every "literal" + string for an
-# overlapping copy (its bug 105651).
+# overlapping copy (its bug 105651), and with less than -O2 a variant's vector for uninitialised.
 function(haldgen_warnings target)
   target_compile_options(${target} PRIVATE
     $<$<COMPILE_LANGUAGE:C,CXX>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror>
-    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>,$<NOT:$<CONFIG:Release>>>:-Wno-maybe-uninitialized>)
 endfunction()
 
 # Linking of an installed shared library that exports exactly the names of an export list. The
 # libraries lie side by side, in the build tree as after installation. Calls to haldcore stay open
-# to interposition, so there is no -Bsymbolic.
+# to interposition, so there is no -Bsymbolic. All addresses are found at load and read-only from
+# then on, but for the slots; code is never written, the stack never run.
 function(haldgen_shared_library target export_list)
   set_target_properties(${target} PROPERTIES
     VERSION ${PROJECT_VERSION}
@@ -37,7 +51,8 @@ function(haldgen_shared_library target export_list)
     BUILD_WITH_INSTALL_RPATH ON
     INSTALL_RPATH $ORIGIN)
   target_link_options(${target} PRIVATE
-    -Wl,--version-script=${export_list} -Wl,--as-needed)
+    -Wl,--version-script=${export_list} -Wl,--as-needed
+    -Wl,-z,relro -Wl,-z,now -Wl,-z,text -Wl,-z,noexecstack)
   # The run-time of clang's sanitizers is only in the executable.
   if(NOT (HALDGEN_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang"))
     target_link_options(${target} PRIVATE -Wl,-z,defs)
@@ -60,5 +75,13 @@ function(haldgen_kernels target)
     ${haldgen_kernel_options} -fno-tree-vectorize -fno-tree-slp-vectorize
     $<$<CXX_COMPILER_ID:GNU>:-frename-registers;-fno-ipa-icf;-fno-var-tracking>
     -Wall -Wextra -Werror)
+  # Checks of addresses as calls: as branches, in lines of a thousand loads and stores, they would take
+  # compilers minutes too.
+  if(HALDGEN_SANITIZE)
+    target_compile_options(${target} PRIVATE
+      $<$<CXX_COMPILER_ID:GNU>:-g1;--param=asan-instrumentation-with-call-threshold=0>
+      $<$<CXX_COMPILER_ID:Clang>:-gline-tables-only>
+      "$<$<CXX_COMPILER_ID:Clang>:SHELL:-mllvm -asan-instrumentation-with-call-threshold=0>")
+  endif()
   add_dependencies(${target} haldgen_frame_generated)
 endfunction()

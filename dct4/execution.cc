@@ -1,5 +1,6 @@
 #include "dct4/execution.h"
 
+#include <cstdint>
 #include <cstring>
 #include <iterator>
 
@@ -22,31 +23,35 @@ const Float* floats(const Link<std::byte>& block) {
   return reinterpret_cast<const Float*>(block.get());
 }
 
-/// Room for as many lines as the longest kernel has inputs or outputs.
+/// The first line that begins there or behind.
 template <class Float>
-struct alignas(64) Lines {
-  Float line[64][kLine<Float>];
-};
+Float* at_line(Float* place) {
+  constexpr std::uintptr_t kBytes = kLine<Float> * sizeof(Float);
+  const auto beyond = reinterpret_cast<std::uintptr_t>(place) % kBytes;
+  return beyond == 0 ? place : place + (kBytes - beyond) / sizeof(Float);
+}
 
 /// The sequences of a line, brought together. In the source their elements lie a power of two
 /// apart, many of them in the same set of a cache, and would be evicted between lane groups.
 template <class Float>
-Sequences<Float> gathered(const Sequences<Float>& source, int length, Lines<Float>& lines) {
-  const int half = length / 2;
+Sequences<Float> gathered(const Sequences<Float>& source, int length, Float* lines) {
+  Float* const second = lines + length / 2 * kLine<Float>;
   const Float* const behind = source.behind + kLanes<Float> - kLine<Float>;
-  for (int t = 0; t < half; ++t) {
-    copy_line(lines.line[t], source.ahead + source.step * t);
-    copy_line(lines.line[half + t], behind + source.step * t);
+  for (int t = 0; t < length / 2; ++t) {
+    copy_line(lines + t * kLine<Float>, source.ahead + source.step * t);
+    copy_line(second + t * kLine<Float>, behind + source.step * t);
   }
-  return {lines.line[0], lines.line[half] + kLine<Float> - kLanes<Float>, kLine<Float>};
+  return {lines, second + kLine<Float> - kLanes<Float>, kLine<Float>};
 }
 
 /// The folds of length m' = m/r' of the positions t = r'u + a, a = 0..r'-1, side by side in the
-/// rows of the inner scratch.
+/// rows of the inner scratch. It holds as many elements as the whole transform has; the rows take
+/// little more than half of them, what is gathered lies behind.
 template <class Float>
 void inner_fold_pass(const InnerFoldNode& node, Float* destination,
                      const Sequences<Float>& source) {
-  Lines<Float> lines;
+  Float* const lines =
+      at_line(destination + node.subLength / 2 * inner_pitch<Float>(node.innerRadix));
   for (int a = 0; a < node.innerRadix; ++a) {
     const Spectrum<Float> column{destination + 2 * a * kLine<Float>,
                                  inner_pitch<Float>(node.innerRadix), kLine<Float>};
@@ -62,7 +67,7 @@ void inner_fold_pass(const InnerFoldNode& node, Float* destination,
 
 template <class Float>
 void inner_recombine_pass(const InnerRecombineNode& node, const Spectrum<Float>& destination,
-                          const Float* source) {
+                          Float* source) {
   KernelTable<Float>::kInnerRecombine[node.tableClass - 1](
       {source, floats<Float>(node.table), destination, node.subLength});
 }
@@ -75,26 +80,34 @@ constexpr std::ptrdiff_t kFarRows = 4096;
 /// of 32, and from there by whole lines into the output.
 template <class Float>
 void recombine_by_tiles(typename Signatures<Float>::recombine* kernel, const RecombineNode& node,
-                        Float* destination, const Float* source) {
+                        Float* destination, const Float* source, Float* tile) {
   constexpr int kRow = 32;
   constexpr int kBlocks = kRow / 2;
   constexpr int kGroups = kBlocks / kLanes<Float>;
-  alignas(64) Float tile[32][kRow];
   const auto* table = floats<Float>(node.table);
   const std::ptrdiff_t length = node.innerLength;
   Float* ascending = destination;
   Float* descending = destination + length - kBlocks;
   for (int g = 0; g < node.groupCount; g += kGroups) {
-    kernel({source, table, tile[0], tile[0] + kRow - kLanes<Float>, kRow, kGroups});
+    kernel({source, table, tile, tile + kRow - kLanes<Float>, kRow, kGroups});
     for (int l = 0; l < node.radix; ++l) {
-      std::memcpy(ascending + length * l, tile[l], kBlocks * sizeof(Float));
-      std::memcpy(descending + length * l, tile[l] + kBlocks, kBlocks * sizeof(Float));
+      std::memcpy(ascending + length * l, tile + kRow * l, kBlocks * sizeof(Float));
+      std::memcpy(descending + length * l, tile + kRow * l + kBlocks, kBlocks * sizeof(Float));
     }
     source += kGroups * node.vectorStride;
     table += kGroups * node.vectorStride;
     ascending += kBlocks;
     descending -= kBlocks;
   }
+}
+
+/// Memory of the first pass, for the second: the scratch of the inner plan, if there is one.
+template <class Float>
+Float* spare(const FirstStage& stage) {
+  const auto& node = first_item<FoldNode>(stage.stageList.get());
+  if (node.foldClass != kPlannedFoldClass) return nullptr;
+  auto* const scratch = first_item<InnerPlan>(node.stageList.get()).innerScratch.get();
+  return reinterpret_cast<Float*>(scratch);
 }
 
 /// The passes of a plan. What they call, here and in other libraries, relies on a stack aligned to
@@ -109,7 +122,8 @@ template <class Float>
   }
   const auto& second = first_item<SecondStage>(state.secondStage.get());
   if (second.hasChild == 1) {
-    recombine_pass<Float>(first_item<RecombineNode>(second.stageList.get()), dst, scratch);
+    recombine_pass<Float>(first_item<RecombineNode>(second.stageList.get()), dst, scratch,
+                          spare<Float>(first));
   }
 }
 
@@ -148,7 +162,8 @@ int32_t fold_pass(const FoldNode& node, Float* destination, const Float* source)
 }
 
 template <class Float>
-int32_t recombine_pass(const RecombineNode& node, Float* destination, const Float* source) {
+int32_t recombine_pass(const RecombineNode& node, Float* destination, const Float* source,
+                       Float* tile) {
   constexpr auto kClasses = static_cast<int32_t>(std::size(KernelTable<Float>::kRecombine));
   if (node.tableClass < 1 || node.tableClass > kClasses) return haldStatusBadArgument;
   auto* const kernel = KernelTable<Float>::kRecombine[node.tableClass - 1];
@@ -158,7 +173,7 @@ int32_t recombine_pass(const RecombineNode& node, Float* destination, const Floa
     kernel({source, table, destination, destination + length - kLanes<Float>, length,
             node.groupCount});
   } else {
-    recombine_by_tiles<Float>(kernel, node, destination, source);
+    recombine_by_tiles<Float>(kernel, node, destination, source, at_line(tile));
   }
   return haldStatusOk;
 }
@@ -176,8 +191,8 @@ int32_t run_state(const Float* src, Float* dst, const Dct4State& state) {
 
 template int32_t fold_pass<float>(const FoldNode&, float*, const float*);
 template int32_t fold_pass<double>(const FoldNode&, double*, const double*);
-template int32_t recombine_pass<float>(const RecombineNode&, float*, const float*);
-template int32_t recombine_pass<double>(const RecombineNode&, double*, const double*);
+template int32_t recombine_pass<float>(const RecombineNode&, float*, const float*, float*);
+template int32_t recombine_pass<double>(const RecombineNode&, double*, const double*, double*);
 template int32_t inner_run<float>(const InnerPlan&, const Spectrum<float>&,
                                   const Sequences<float>&);
 template int32_t inner_run<double>(const InnerPlan&, const Spectrum<double>&,

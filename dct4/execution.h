@@ -11,9 +11,11 @@ namespace haldgen::dct4 {
 template <class Float>
 int32_t fold_pass(const FoldNode& node, Float* destination, const Float* source);
 
-/// Rotates and recombines those blocks.
+/// Rotates and recombines those blocks. Where rows of the output are so long that a kernel of folds
+/// cannot make them, it needs room for a tile.
 template <class Float>
-int32_t recombine_pass(const RecombineNode& node, Float* destination, const Float* source);
+int32_t recombine_pass(const RecombineNode& node, Float* destination, const Float* source,
+                       Float* tile);
 
 /// Folds longer than the kernels', of as many sequences as a line has elements (passes.h).
 template <class Float>

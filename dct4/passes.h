@@ -71,7 +71,7 @@ struct RecombineRun {
 /// inner_pitch() apart.
 template <class Float>
 struct InnerRecombineRun {
-  const Float* rows;
+  Float* rows;
   const Float* table;
   Spectrum<Float> to;
   int sub_length;
@@ -272,7 +272,8 @@ inline void run_inner_row(InnerRecombineIo<Body, Outputs> io) {
   }
 }
 
-/// Outputs of a row side by side, to be moved on line by line.
+/// Outputs of a row side by side in its own place, to be moved on line by line. Every output
+/// depends on all inputs of its lanes, so these are read before the first of them is stored.
 template <class Float, int Radix>
 struct LineOutputs {
   Float* ascending;
@@ -297,15 +298,14 @@ inline void run_inner_recombine(const InnerRecombineRun<typename Body::Float>& r
   constexpr int kRadix = Body::kSize;
   // So many outputs, a power of two apart, evict one another's lines before these are full.
   constexpr bool kCrowded = kRadix >= 32;
-  alignas(64) Float lines[kCrowded ? 2 * kRadix * kLine<Float> : 1];
-  const Float* row = run.rows;
+  Float* row = run.rows;
   const Float* table = run.table;
   const std::ptrdiff_t part = run.to.block * run.sub_length;
   RowOutputs<Float> outputs{run.to.first, run.to.first + part - run.to.block, part,
                             run.to.imaginary};
   for (int b = 0; b < run.sub_length / 2; ++b) {
     if constexpr (kCrowded) {
-      const LineOutputs<Float, kRadix> tile(lines);
+      const LineOutputs<Float, kRadix> tile(row);
       run_inner_row(InnerRecombineIo<Body, LineOutputs<Float, kRadix>>{row, table, tile});
       tile.move_to(outputs);
     } else {

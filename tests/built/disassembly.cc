@@ -1,6 +1,8 @@
 #include "tests/built/disassembly.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <sstream>
@@ -29,17 +31,46 @@ std::map<std::string, Mnemonics> parsed(const std::string& listing) {
     if (line.ends_with(">:")) {
       const auto open = line.find('<');
       current = &functions[line.substr(open + 1, line.size() - open - 3)];
+      current->begin();
       continue;
     }
     const auto tab = line.find(":\t");
     if (current == nullptr || tab == std::string::npos) continue;
-    const auto start = tab + 2;
-    current->add(line.substr(start, line.find_first_of(" \t", start) - start));
+    std::istringstream words(line.substr(tab + 2));
+    std::string mnemonic, operands;
+    words >> mnemonic >> operands;
+    current->add(mnemonic, operands);
   }
   return functions;
 }
 
 }  // namespace
+
+void Mnemonics::add(const std::string& mnemonic, const std::string& operands) {
+  ++counts_[mnemonic];
+  if (mnemonic.starts_with("push")) taken_ += 8;
+  if (operands.ends_with(",%rsp")) {
+    const bool constant = operands.starts_with('$');
+    const auto number =
+        constant ? static_cast<std::int64_t>(std::stoull(operands.substr(1), nullptr, 16)) : 0;
+    if (mnemonic.starts_with("sub")) {
+      // That of -128 is shorter than the addition of 128.
+      taken_ += number < 0 ? 0 : static_cast<int>(number);
+      unbounded_ = unbounded_ || !constant;
+    } else if (mnemonic.starts_with("add")) {
+      taken_ += number < 0 ? static_cast<int>(-number) : 0;
+      unbounded_ = unbounded_ || !constant;
+    } else if (mnemonic.starts_with("and")) {
+      taken_ += static_cast<int>(-number);
+    }
+  }
+  frame_ = std::max(frame_, taken_);
+}
+
+int Mnemonics::frame() const {
+  if (unbounded_) throw std::runtime_error("a frame of no fixed size");
+  return frame_;
+}
 
 int Mnemonics::count(std::initializer_list<std::string_view> mnemonics) const {
   int total = 0;

@@ -10,10 +10,16 @@
 
 namespace haldgen::test {
 
-/// How often each mnemonic occurs in a function.
+/// How often each mnemonic occurs in a function, and the stack that it takes.
 class Mnemonics {
  public:
-  void add(const std::string& mnemonic) { ++counts_[mnemonic]; }
+  /// Another function of the same name begins. They are counted together, stack is that of the
+  /// largest.
+  void begin() { taken_ = 0; }
+  void add(const std::string& mnemonic, const std::string& operands);
+  /// Bytes pushed, reserved and skipped to align, as if all of them on one path. Throws if that is
+  /// not known before the function runs.
+  int frame() const;
   int count(std::initializer_list<std::string_view> mnemonics) const;
   int all() const;
   /// Products and sums in one instruction, which round once.
@@ -23,6 +29,8 @@ class Mnemonics {
 
  private:
   std::map<std::string, int> counts_;
+  int taken_ = 0, frame_ = 0;
+  bool unbounded_ = false;
 };
 
 /// By symbol; of symbols at one address only one is there.

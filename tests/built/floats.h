@@ -75,7 +75,7 @@ std::vector<std::vector<Float>> vanishing_inputs(std::size_t count) {
       std::uint64_t digits = drawn ? engine() : i;
       std::vector<Float> values;
       for (std::size_t j = 0; j < count; ++j, digits /= base) {
-        values.push_back(kNumbers[digits % base]);
+        values.push_back(kNumbers[static_cast<std::size_t>(digits % base)]);
       }
       all.push_back(values);
     }

@@ -50,8 +50,9 @@ TEST(Result, GeneralEntriesGiveTheBitsOfTheFixedSizes) {
   check_general_bits<double>();
 }
 
-// One source for two threads, another for the other two: values kept outside the call would mix.
+// One source for four threads, another for the other four: values kept outside the call would mix.
 TEST(Result, ThreadsDoNotDisturbOneAnother) {
+  constexpr int kThreads = 8;
   for_each_fixed([]<class Float>(const Transform<Float>& transform) {
     std::array<std::vector<Float>, 2> src;
     std::array<std::vector<Float>, 2> expected;
@@ -59,15 +60,15 @@ TEST(Result, ThreadsDoNotDisturbOneAnother) {
       src[i] = random_floats<Float>(transform.src_floats, 5 + i);
       expected[i] = result(transform, src[i]);
     }
-    std::atomic<int> waiting = 4;
+    std::atomic<int> waiting = kThreads;
     std::atomic<int> different = 0;
     std::vector<std::thread> threads;
-    for (std::size_t thread = 0; thread < 4; ++thread) {
+    for (std::size_t thread = 0; thread < kThreads; ++thread) {
       threads.emplace_back([&, which = thread % 2] {
         std::vector<Float> dst(transform.dst_floats);
         --waiting;
         while (waiting > 0) std::this_thread::yield();
-        for (int call = 0; call < 500; ++call) {
+        for (int call = 0; call < 250; ++call) {
           std::fill(dst.begin(), dst.end(), Float{0});
           if (transform.call(src[which].data(), dst.data(), haldScaleNone) != haldStatusOk ||
               !identical(dst, expected[which])) {

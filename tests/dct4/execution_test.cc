@@ -74,7 +74,8 @@ void check_second_stage(const RecombineNode& node, std::int64_t length) {
   const auto random = random_floats<Float>(radix * m + 8);
   const Float* const z = aligned(random);
   std::vector<Float> y(random.size(), std::numeric_limits<Float>::quiet_NaN());
-  ASSERT_EQ(recombine_pass(node, y.data(), z), haldStatusOk);
+  std::vector<Float> tile(1024 + 16);
+  ASSERT_EQ(recombine_pass(node, y.data(), z, tile.data()), haldStatusOk);
   // A term is two products of sum at most 2 with at most five roundings each, half an epsilon every
   // one; the errors of a sum grow like the root of its terms, and its last levels round too.
   const long double bound = 8 * std::sqrt(radix) * std::numeric_limits<Float>::epsilon();
@@ -130,7 +131,8 @@ TYPED_TEST(Execution, UnknownClassesAreRefused) {
             haldStatusBadArgument);
   for (const int bad : {-1, 0, 7}) {
     state.recombination()->tableClass = bad;
-    EXPECT_EQ(recombine_pass(*state.recombination(), y.data(), x.data()), haldStatusBadArgument);
+    EXPECT_EQ(recombine_pass<TypeParam>(*state.recombination(), y.data(), x.data(), nullptr),
+              haldStatusBadArgument);
     state->sizeClass = bad;
     EXPECT_EQ(run_state(x.data(), y.data(), *state.get()), haldStatusBadArgument) << bad;
   }

@@ -1,7 +1,6 @@
 // What a transform reads and writes, and which bits nothing changes.
 #include <gtest/gtest.h>
 
-#include <array>
 #include <atomic>
 #include <thread>
 
@@ -96,24 +95,23 @@ TYPED_TEST(Transform, StatesCanBeUsedAgain) {
   }
 }
 
-TYPED_TEST(Transform, StatesAreIndependent) {
-  constexpr std::int32_t kLength = 4096;
-  std::array<std::vector<TypeParam>, 2> x, expected;
-  for (unsigned i = 0; i < 2; ++i) {
-    x[i] = random_floats<TypeParam>(kLength, 5 + i);
-    expected[i] = State<TypeParam>(kLength)(x[i]);
+TYPED_TEST(Transform, StatesOfThreadsWithOneSourceAreIndependent) {
+  for (const std::int32_t length : {32, 256, 4096, 131072}) {
+    const std::vector<TypeParam> x = random_floats<TypeParam>(length, 5);
+    const std::vector<TypeParam> expected = State<TypeParam>(length)(x);
+    std::atomic<int> different = 0;
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 8; ++thread) {
+      threads.emplace_back([&] {
+        State<TypeParam> state(length);
+        for (std::int32_t call = 0; call < 1 + 65536 / length; ++call) {
+          different += identical(state(x), expected) ? 0 : 1;
+        }
+      });
+    }
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQ(different, 0) << length;
   }
-  std::atomic<int> different = 0;
-  std::vector<std::thread> threads;
-  for (std::size_t i = 0; i < 2; ++i) {
-    threads.emplace_back([&, i] {
-      State<TypeParam> state(kLength);
-      for (int call = 0; call < 200; ++call)
-        different += identical(state(x[i]), expected[i]) ? 0 : 1;
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-  EXPECT_EQ(different, 0);
 }
 
 // The plan of 2^k + 1 is that of 2^k: one output is never written, and the rest are finite.

@@ -36,7 +36,7 @@ class Definition {
     const std::uint64_t step = 2 * index;
     long double sum = 0;
     for (const Float value : x) {
-      sum += value * cosines_[index & mask];
+      sum += value * cosines_[static_cast<std::size_t>(index & mask)];
       index += step;
     }
     return sum;

@@ -13,7 +13,9 @@ fence c >"$scratch/example.c"
 fence text >"$scratch/expected.txt"
 test -s "$scratch/example.c" && test -s "$scratch/expected.txt"
 
+# LDFLAGS is a list of words.
+# shellcheck disable=SC2086
 "$cc" -Wall -Wextra -Werror -I"$source/include" -o "$scratch/example" "$scratch/example.c" \
-  -L"$build" -lhaldgenp8 -Wl,-rpath,"$build" -Wl,-rpath-link,"$build"
+  -L"$build" -lhaldgenp8 -Wl,-rpath,"$build" -Wl,-rpath-link,"$build" ${LDFLAGS:-}
 "$scratch/example" >"$scratch/printed.txt"
 diff -u "$scratch/expected.txt" "$scratch/printed.txt"

@@ -22,16 +22,30 @@ std::vector<std::vector<std::string>> lines_of(const std::string& command) {
   return lines;
 }
 
+std::vector<std::string> values(const std::multimap<std::string, std::string>& all,
+                                const std::string& key) {
+  std::vector<std::string> found;
+  const auto [first, last] = all.equal_range(key);
+  for (auto entry = first; entry != last; ++entry) found.push_back(entry->second);
+  return found;
+}
+
 }  // namespace
 
 ElfFile::ElfFile(const std::string& path) {
   // "5: 0000000000001120 12 FUNC GLOBAL DEFAULT 11 name", tables one after the other.
   std::map<std::string, Symbol>* table = nullptr;
-  for (const auto& words : lines_of("readelf -W -d --syms '" + path + "'")) {
+  for (const auto& words : lines_of("readelf -W -d -l --syms '" + path + "'")) {
     if (words.size() > 2 && words[0] == "Symbol") {
       table = words[2].find("dynsym") != std::string::npos ? &exported_ : &defined_;
     } else if (words.size() > 2 && words[0].starts_with("0x")) {
       dynamic_.emplace(words[1], words.back());
+    } else if (words.size() >= 8 && words[1].starts_with("0x")) {
+      // "GNU_STACK 0x000000 0x0000000000000000 0x0000000000000000 0x000000 0x000000 RW  0x10":
+      // type, five numbers, flags in one word or more, alignment.
+      std::string flags;
+      for (std::size_t k = 6; k + 1 < words.size(); ++k) flags += words[k];
+      segments_.emplace(words[0], flags);
     } else if (words.size() >= 8 && words[0].ends_with(':') && words[0] != "Num:") {
       const std::string name = words[7].substr(0, words[7].find('@'));
       if (words[6] == "UND") {
@@ -46,10 +60,11 @@ ElfFile::ElfFile(const std::string& path) {
 }
 
 std::vector<std::string> ElfFile::dynamic(const std::string& tag) const {
-  std::vector<std::string> values;
-  const auto [first, last] = dynamic_.equal_range("(" + tag + ")");
-  for (auto entry = first; entry != last; ++entry) values.push_back(entry->second);
-  return values;
+  return values(dynamic_, "(" + tag + ")");
+}
+
+std::vector<std::string> ElfFile::segments(const std::string& type) const {
+  return values(segments_, type);
 }
 
 }  // namespace haldgen::test

@@ -29,10 +29,13 @@ class ElfFile {
   /// Entries of the dynamic section, such as SONAME; strings stand in brackets.
   std::vector<std::string> dynamic(const std::string& tag) const;
 
+  /// Flags such as "RW" of the segments of a type, such as GNU_STACK.
+  std::vector<std::string> segments(const std::string& type) const;
+
  private:
   std::map<std::string, Symbol> exported_, defined_;
   std::vector<std::string> wanted_;
-  std::multimap<std::string, std::string> dynamic_;
+  std::multimap<std::string, std::string> dynamic_, segments_;
 };
 
 }  // namespace haldgen::test

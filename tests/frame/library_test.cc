@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <set>
@@ -88,6 +90,35 @@ TEST(Library, HaldcoreExportsItsThreeFunctions) {
             (Names{"haldFree", "haldGetEnabledCpuFeatures", "haldMalloc"}));
   EXPECT_EQ(haldcore.dynamic("SONAME"), Names{"[libhaldcore.so.8]"});
   EXPECT_EQ(real_name(HALDCORE_LIBRARY), "libhaldcore.so.8.1.0");
+}
+
+std::string contents(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Library, IsBoundAndClosedAtLoad) {
+  for (const char* path : {HALDGEN_LIBRARY, HALDCORE_LIBRARY}) {
+    SCOPED_TRACE(path);
+    const ElfFile file(path);
+    EXPECT_EQ(file.dynamic("FLAGS"), Names{"BIND_NOW"});
+    EXPECT_TRUE(file.dynamic("TEXTREL").empty());
+    EXPECT_EQ(file.segments("GNU_RELRO"), Names{"R"});
+    EXPECT_EQ(file.segments("GNU_STACK"), Names{"RW"});
+    const Names loaded = file.segments("LOAD");
+    EXPECT_GE(loaded.size(), 2U);
+    for (const std::string& flags : loaded) EXPECT_NE(flags, "RWE");
+  }
+}
+
+TEST(Library, NamesNoFolderOfItsBuild) {
+  for (const char* path : {HALDGEN_LIBRARY, HALDCORE_LIBRARY}) {
+    const std::string bytes = contents(path);
+    EXPECT_NE(bytes.find("$ORIGIN"), std::string::npos) << path;
+    for (const char* folder : {SOURCE_FOLDER, BINARY_FOLDER}) {
+      EXPECT_EQ(bytes.find(folder), std::string::npos) << path << " contains " << folder;
+    }
+  }
 }
 
 TEST(Library, SlotsHoldTheImplementationsInByteOrder) {

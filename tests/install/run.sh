@@ -30,20 +30,20 @@ PKG_CONFIG_PATH=$(dirname "$(find "$scratch/moved" -name haldgenp8.pc)")
 export PKG_CONFIG_PATH
 libdir=$(pkg-config --variable=libdir haldgenp8)
 # The flags are lists of words.
-# shellcheck disable=SC2046
+# shellcheck disable=SC2046,SC2086
 "$cc" -o "$scratch/consumer" "$consumer/consumer.c" \
-  $(pkg-config --cflags --libs haldgenp8 haldcore) -lm -Wl,-rpath,"$libdir"
+  $(pkg-config --cflags --libs haldgenp8 haldcore) -lm -Wl,-rpath,"$libdir" ${LDFLAGS:-}
 "$scratch/consumer"
 # Each of the two by itself, the first as the README says.
 awk '/^```c$/ { inside = 1; next } /^```/ { inside = 0 } inside' "$source/README.md" \
   >"$scratch/program.c"
 echo '#include <haldcore.h>
 int main(void) { haldFree(haldMalloc(64)); return 0; }' >"$scratch/core.c"
-# shellcheck disable=SC2046
-"$cc" "$scratch/program.c" $(pkg-config --cflags --libs haldgenp8) -o "$scratch/program"
+# shellcheck disable=SC2046,SC2086
+"$cc" "$scratch/program.c" $(pkg-config --cflags --libs haldgenp8) -o "$scratch/program" ${LDFLAGS:-}
 LD_LIBRARY_PATH=$libdir "$scratch/program" >/dev/null
-# shellcheck disable=SC2046
-"$cc" "$scratch/core.c" $(pkg-config --cflags --libs haldcore) -o "$scratch/core"
+# shellcheck disable=SC2046,SC2086
+"$cc" "$scratch/core.c" $(pkg-config --cflags --libs haldcore) -o "$scratch/core" ${LDFLAGS:-}
 LD_LIBRARY_PATH=$libdir "$scratch/core"
 for package in haldgenp8 haldcore; do
   test "$(pkg-config --modversion "$package")" = 8.1.0
