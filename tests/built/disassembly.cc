@@ -54,10 +54,10 @@ void Mnemonics::add(const std::string& mnemonic, const std::string& operands) {
     const auto number =
         constant ? static_cast<std::int64_t>(std::stoull(operands.substr(1), nullptr, 16)) : 0;
     if (mnemonic.starts_with("sub")) {
-      // That of -128 is shorter than the addition of 128.
       taken_ += number < 0 ? 0 : static_cast<int>(number);
       unbounded_ = unbounded_ || !constant;
     } else if (mnemonic.starts_with("add")) {
+      // That of -128 takes fewer bytes than a subtraction of 128.
       taken_ += number < 0 ? static_cast<int>(-number) : 0;
       unbounded_ = unbounded_ || !constant;
     } else if (mnemonic.starts_with("and")) {

@@ -16,7 +16,7 @@ class Mnemonics {
   /// Another function of the same name begins. They are counted together, stack is that of the
   /// largest.
   void begin() { taken_ = 0; }
-  void add(const std::string& mnemonic, const std::string& operands);
+  void add(const std::string& mnemonic, const std::string& operands = {});
   /// Bytes pushed, reserved and skipped to align, as if all of them on one path. Throws if that is
   /// not known before the function runs.
   int frame() const;
