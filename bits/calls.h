@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "bits/sums.h"
-#include "registry/registry.h"
+#include "names/signature.h"
 
 namespace haldgen::bits {
 

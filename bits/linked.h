@@ -11,7 +11,9 @@ namespace haldgen::bits {
 inline Find linked() {
   return [](const std::string& name) -> Address {
     const auto all = frame::linked_functions();
-    const auto found = std::ranges::lower_bound(all, name, {}, &frame::LinkedFunction::name);
+    const auto found = std::lower_bound(
+        all.begin(), all.end(), name,
+        [](const frame::LinkedFunction& f, const std::string& wanted) { return f.name < wanted; });
     return found != all.end() && found->name == name ? found->address : nullptr;
   };
 }

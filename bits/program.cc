@@ -1,25 +1,42 @@
-// The file of sums: one line for each, the name, a tab, 16 hexadecimal digits.
+// The file of sums: a line with the version of the bits, then one for each sum, the name, a tab, 16
+// hexadecimal digits.
 #include "bits/program.h"
 
+#include <haldgen.h>
+
+#include <algorithm>
 #include <fstream>
-#include <iomanip>
+#include <optional>
 #include <ostream>
-#include <sstream>
+#include <set>
 
 namespace haldgen::bits {
 namespace {
 
 constexpr std::string_view usage =
-    "usage: haldgen-bits [--library PATH] compare|record FILE\n"
-    "Takes a checksum of the results of each transform of the library that the program is linked\n"
-    "with, or of the one at PATH, and compares them with those in FILE or writes them to FILE.\n";
+    "usage: haldgen-bits [--library PATH] [compare [FILE]]\n"
+    "       haldgen-bits [--library PATH] record FILE\n"
+    "       haldgen-bits --help\n"
+    "Calls every function of the library that the program is linked with, or of the one at PATH,\n"
+    "takes a checksum of the results and compares it with the published one, or with that in "
+    "FILE.\n"
+    "The exit status is 0 if all are equal, 1 if not, and 2 if there is nothing to compare with.\n"
+    "record writes the checksums to FILE.\n";
+
+constexpr std::string_view version_name = "bits version\t";
+
+std::string version_line() {
+  return std::string(version_name) + std::to_string(HALDGEN_BITS_VERSION);
+}
 
 using Lines = std::map<std::string, std::string>;  // sums by name
 
 std::string digits(std::uint64_t sum) {
-  std::ostringstream text;
-  text << std::hex << std::setw(16) << std::setfill('0') << sum;
-  return text.str();
+  std::string text(16, '0');
+  for (auto digit = text.rbegin(); digit != text.rend(); ++digit, sum >>= 4U) {
+    *digit = "0123456789abcdef"[sum & 0xFU];
+  }
+  return text;
 }
 
 std::string with_commas(std::size_t number) {
@@ -28,80 +45,99 @@ std::string with_commas(std::size_t number) {
   return text;
 }
 
-// What is wrong with a finding; empty if nothing is.
-std::string difference(const std::string& name, const Finding& finding, const Lines& published) {
-  if (!finding.fault.empty() || !finding.sum) return finding.fault;
-  const auto line = published.find(name);
-  if (line == published.end()) return "no sum is published";
-  if (line->second == digits(*finding.sum)) return {};
-  return digits(*finding.sum) + " is not " + line->second + " as published";
+// The function that a sum belongs to: "haldgDCT4_32f" of "haldgDCT4_32f/64".
+std::string function_of(const std::string& name) { return name.substr(0, name.find('/')); }
+
+// The sums of a file; nothing, and a message, if it has none for this version of the bits.
+std::optional<Lines> read(const std::string& path, std::ostream& errors) {
+  std::ifstream file(path);
+  std::string line;
+  if (!std::getline(file, line) || !line.starts_with(version_name)) {
+    errors << "no published sums in " << (path.empty() ? "reach" : path) << "\n";
+    return {};
+  }
+  if (line != version_line()) {
+    errors << path << " has " << line << ", this program compares " << version_line() << "\n";
+    return {};
+  }
+  Lines lines;
+  while (std::getline(file, line)) {
+    const std::size_t tab = std::min(line.find('\t'), line.size());
+    lines[line.substr(0, tab)] = line.substr(std::min(tab + 1, line.size()));
+  }
+  return lines;
 }
 
+// What is wrong with a finding; empty if nothing is.
+std::string difference(const std::string& name, const Finding& finding, const Lines& published) {
+  if (!finding.fault.empty()) return finding.fault;
+  const auto line = published.find(name);
+  if (line == published.end()) return "no sum is published";
+  if (line->second == digits(finding.sum)) return {};
+  return digits(finding.sum) + " is not " + line->second + " as published";
+}
+
+// What counts is functions.
 int compare(const Findings& findings, const Lines& published, std::ostream& out) {
-  std::size_t all = findings.size();
-  std::size_t good = 0;
-  for (const auto& [name, finding] : findings) {
-    const std::string text = difference(name, finding, published);
-    if (text.empty())
-      ++good;
-    else
-      out << name << ": " << text << "\n";
-  }
+  std::set<std::string> all;
+  std::set<std::string> bad;
+  const auto take = [&](const std::string& name, const std::string& text) {
+    all.insert(function_of(name));
+    if (text.empty()) return;
+    bad.insert(function_of(name));
+    out << name << ": " << text << "\n";
+  };
+  for (const auto& [name, finding] : findings) take(name, difference(name, finding, published));
   for (const auto& [name, sum] : published) {
-    if (findings.contains(name)) continue;
-    ++all;
-    out << name << ": published, but there is no such transform\n";
+    if (!findings.contains(name)) take(name, "published, but there is no such function");
   }
-  out << with_commas(good) << " of " << with_commas(all) << " as published\n";
-  return good == all ? 0 : 1;
+  out << with_commas(all.size() - bad.size()) << " of " << with_commas(all.size())
+      << " as published\n";
+  return bad.empty() ? 0 : 1;
 }
 
 int record(const Findings& findings, const std::string& path, std::ostream& out,
            std::ostream& errors) {
-  std::ostringstream text;
+  std::string text = version_line() + "\n";
   std::size_t faults = 0;
-  std::size_t sums = 0;
   for (const auto& [name, finding] : findings) {
     if (!finding.fault.empty()) {
       ++faults;
       errors << name << ": " << finding.fault << "\n";
-    } else if (finding.sum) {
-      ++sums;
-      text << name << "\t" << digits(*finding.sum) << "\n";
     }
+    text += name + "\t" + digits(finding.sum) + "\n";
   }
   if (faults != 0) {
     errors << "nothing recorded: faults in " << with_commas(faults) << "\n";
     return 1;
   }
   std::ofstream file(path, std::ios::binary);
-  if (!(file << text.str() << std::flush)) {
+  if (!(file << text << std::flush)) {
     errors << "cannot write " << path << "\n";
     return 2;
   }
-  out << with_commas(sums) << " sums recorded\n";
+  out << with_commas(findings.size()) << " sums recorded\n";
   return 0;
 }
 
 }  // namespace
 
-int run(const Find& find, std::span<const std::string> arguments, std::ostream& out,
-        std::ostream& errors) {
-  if (arguments.size() == 2 && arguments[0] == "record") {
+int run(const Find& find, std::span<const std::string> arguments, const std::string& published,
+        std::ostream& out, std::ostream& errors) {
+  const std::string command = arguments.empty() ? "compare" : arguments[0];
+  if (command == "--help" && arguments.size() == 1) {
+    out << usage;
+    return 0;
+  }
+  if (command == "record" && arguments.size() == 2) {
     return record(take_sums(find), arguments[1], out, errors);
   }
-  if (arguments.size() != 2 || arguments[0] != "compare") {
+  if (command != "compare" || arguments.size() > 2) {
     errors << usage;
     return 2;
   }
-  std::ifstream file(arguments[1]);
-  Lines published;
-  for (std::string name, sum; file >> name >> sum;) published[name] = sum;
-  if (published.empty()) {
-    errors << "no sums in " << arguments[1] << "\n";
-    return 2;
-  }
-  return compare(take_sums(find), published, out);
+  const auto lines = read(arguments.size() == 2 ? arguments[1] : published, errors);
+  return lines ? compare(take_sums(find), *lines, out) : 2;
 }
 
 }  // namespace haldgen::bits

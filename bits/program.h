@@ -9,10 +9,10 @@
 
 namespace haldgen::bits {
 
-/// Runs `compare FILE` or `record FILE`, the arguments of the command line without the program's
-/// name. Returns its exit status: 0; 1 if sums differ or there are faults; 2 if it could not do as
-/// it was told.
-int run(const Find& find, std::span<const std::string> arguments, std::ostream& out,
-        std::ostream& errors);
+/// Runs the arguments of the command line, without the program's name; `published` is the path of
+/// the file that the program came with. Returns its exit status: 0; 1 if sums differ or there are
+/// faults; 2 if it could not do as it was told.
+int run(const Find& find, std::span<const std::string> arguments, const std::string& published,
+        std::ostream& out, std::ostream& errors);
 
 }  // namespace haldgen::bits

@@ -1,4 +1,4 @@
-# Installation: headers, libraries, CMake package, pkg-config files.
+# Installation: headers, libraries, haldgen-bits with the published sums, CMake package, pkg-config files.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS haldgenp8 haldcore EXPORT haldgenTargets
@@ -6,6 +6,9 @@ install(TARGETS haldgenp8 haldcore EXPORT haldgenTargets
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/include/haldgen.h ${PROJECT_SOURCE_DIR}/haldcore/haldcore.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(TARGETS haldgen-bits RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/bits/published.tsv
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/haldgen)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/haldgen)
 install(EXPORT haldgenTargets NAMESPACE haldgen:: FILE haldgenConfig.cmake

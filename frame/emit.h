@@ -27,8 +27,7 @@ std::string emit_implementations();
 /// C++ source: the general entries.
 std::string emit_general_entries();
 
-/// C++ source: names and addresses of the functions that a program is linked with
-/// (linked_functions.h).
+/// C++ source: the functions that a program is linked with (linked_functions.h).
 std::string emit_linked_functions();
 
 /// All names in byte order, one a line.

@@ -40,6 +40,12 @@ constexpr std::string_view prologue =
 
 #include <stdint.h>
 
+/**
+ * Version of the bits. Libraries with the same number give the same results, to the bit and the
+ * sign of a zero. What a NaN holds besides being one is not promised.
+ */
+#define HALDGEN_BITS_VERSION 1
+
 #ifdef __cplusplus
 extern "C" {
 #endif

@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "frame/emit.h"
+#include "names/arrays.h"
 #include "registry/registry.h"
 
 namespace haldgen::frame {
@@ -169,8 +170,15 @@ std::string emit_linked_functions() {
       << "std::span<const LinkedFunction> linked_functions() {\n"
       << "  static const LinkedFunction all[] = {\n";
   for (const Export& function : registry::exports()) {
+    const Word& word = *function.word;
     out << "      {\"" << function.name << "\", reinterpret_cast<void (*)()>(" << function.name
-        << ")},\n";
+        << "), \"" << word.word << "\", names::Signature{" << static_cast<int>(word.signature)
+        << "}, names::Element{" << static_cast<int>(function.element) << "}, " << function.size;
+    const names::Arrays arrays =
+        size_in_name(word) ? names::arrays(word, function.size) : names::Arrays{};
+    out << ", " << arrays.points << ", " << arrays.src_floats << ", " << arrays.dst_floats << ", {";
+    for (const std::size_t gap : arrays.src_gaps) out << gap << ", ";
+    out << "}},\n";
   }
   out << "  };\n  return all;\n}\n\n}  // namespace haldgen::frame\n";
   return out.str();

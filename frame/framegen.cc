@@ -23,7 +23,7 @@ constexpr Output outputs[] = {
     {"linker_exports", haldgen::frame::emit_linker_exports, "options of a linker"},
     {"implementations", haldgen::frame::emit_implementations, "hidden declarations, C++"},
     {"general_entries", haldgen::frame::emit_general_entries, "general entries, C++"},
-    {"linked_functions", haldgen::frame::emit_linked_functions, "names and addresses, C++"},
+    {"linked_functions", haldgen::frame::emit_linked_functions, "names, addresses and arrays, C++"},
     {"list", haldgen::frame::emit_list, "all names"},
     {"summary", haldgen::frame::emit_summary, "families and how many functions they have"},
 };

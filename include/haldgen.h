@@ -23,6 +23,12 @@
 
 #include <stdint.h>
 
+/**
+ * Version of the bits. Libraries with the same number give the same results, to the bit and the
+ * sign of a zero. What a NaN holds besides being one is not promised.
+ */
+#define HALDGEN_BITS_VERSION 1
+
 #ifdef __cplusplus
 extern "C" {
 #endif

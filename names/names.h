@@ -5,12 +5,10 @@
 #include <string_view>
 #include <vector>
 
+#include "names/signature.h"
 #include "names/sizes.h"
 
 namespace haldgen::names {
-
-/// Element type of the arrays that a function works on; `none` for functions without arrays.
-enum class Element { none, f32, f64, c32, c64 };
 
 /// Suffix of the exported names: "32f", "64f", "32fc", "64fc"; empty for `none`.
 std::string_view suffix(Element element);
@@ -21,21 +19,6 @@ std::string_view c_type(Element element);
 /// The two element types of real and of complex arrays.
 inline const std::vector<Element> kReal{Element::f32, Element::f64};
 inline const std::vector<Element> kComplex{Element::c32, Element::c64};
-
-/// The arguments of a function, in order. Every signature returns a status, except `version`.
-enum class Signature {
-  transform,                 ///< src, dst, flag
-  sized_transform,           ///< src, dst, length, flag
-  buffered_transform,        ///< src, dst, flag, buffer
-  sized_buffered_transform,  ///< src, dst, order, flag, buffer
-  order_query,               ///< order, pointer to a 32-bit result
-  length_query,              ///< length, pointer to a 32-bit result
-  plan_init,                 ///< pointer to a state pointer, length, buffer
-  plan_init_alloc,           ///< pointer to a state pointer, length
-  plan_free,                 ///< state
-  planned_transform,         ///< src, dst, state
-  version,                   ///< no argument; returns the version record
-};
 
 /// What the four scaling flags do.
 enum class Scaling {

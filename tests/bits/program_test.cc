@@ -55,6 +55,28 @@ std::int32_t refuses(const double* /*src*/, double* /*dst*/, std::int32_t /*flag
   return haldStatusFlagError;
 }
 
+// What is around a transform: set-up, release, sizes, the version.
+
+std::int32_t other_size(std::int32_t length, std::int32_t* size) {
+  const std::int32_t status = haldgDCT4GetSize_64f(length, size);
+  if (length == 128 && size != nullptr) *size += 32;
+  return status;
+}
+
+std::int32_t accepts_order_14(std::int32_t order, std::uint32_t* size) {
+  return haldgWHTGetBufferSize_32f(order == 14 ? 13 : order, size);
+}
+
+std::int32_t accepts_null(Dct4State* state) {
+  return state == nullptr ? haldStatusOk : haldgDCT4Free_64f(state);
+}
+
+const LibraryVersion* other_version() {
+  static LibraryVersion version = *haldgenGetLibVersion();
+  version.buildDate = "another day";
+  return &version;
+}
+
 std::int32_t other_if_allocated(Dct4State** state, std::int32_t length) {
   return haldgDCT4InitAlloc_32f(state, length == 256 ? 128 : length);
 }
@@ -75,6 +97,10 @@ Find exchanged() {
       {"haldgHartley_64_64f", generic(refuses)},
       {"haldgDCT4InitAlloc_32f", generic(other_if_allocated)},
       {"haldgDFTInv_CToC_5_64fc", nullptr},
+      {"haldgDCT4GetSize_64f", generic(other_size)},
+      {"haldgWHTGetBufferSize_32f", generic(accepts_order_14)},
+      {"haldgDCT4Free_64f", generic(accepts_null)},
+      {"haldgenGetLibVersion", generic(other_version)},
   };
   return [others, library = linked()](const std::string& name) {
     const auto other = others.find(name);
@@ -89,7 +115,7 @@ struct Outcome {
 
 Outcome run_program(const Find& find, const std::vector<std::string>& arguments) {
   std::stringstream text;
-  Outcome outcome{run(find, arguments, text, text), {}};
+  Outcome outcome{run(find, arguments, PUBLISHED_PATH, text, text), {}};
   for (std::string line; std::getline(text, line);) outcome.lines.push_back(line);
   return outcome;
 }
@@ -101,26 +127,39 @@ void expect_lines(const Outcome& outcome, const std::vector<std::string>& beginn
   }
 }
 
+std::string published() {
+  std::stringstream text;
+  text << std::ifstream(PUBLISHED_PATH).rdbuf();
+  return text.str();
+}
+
+/// A file with this text.
+std::string file_of(const std::string& name, const std::string& text) {
+  std::string path = testing::TempDir() + name;
+  std::ofstream(path) << text;
+  return path;
+}
+
 // A general entry whose fixed size has a fault has one as well: there is nothing it could be equal
 // to.
 TEST(Bits, NamesWhatDiffersAndNothingElse) {
-  std::stringstream published;
-  published << std::ifstream(SUMS_PATH).rdbuf();
-  std::string sums = published.str();
-  const auto second = sums.find('\n') + 1;  // haldgDCT4_32f/1024 is first, /128 second
-  sums[second - 2] = sums[second - 2] == '0' ? '1' : '0';
-  sums[second] = 'H';
-  const std::string path = testing::TempDir() + "tampered.tsv";
-  std::ofstream(path) << sums;
+  std::string sums = published();
+  char& digit = sums[sums.find("haldgDCT4_64f/65536\t") + 20];
+  digit = digit == '0' ? '1' : '0';
+  sums[sums.find("haldgDCT4_32f/128\t")] = 'H';
+  const std::string path = file_of("tampered.tsv", sums);
 
   const Outcome outcome = run_program(exchanged(), {"compare", path});
   EXPECT_EQ(outcome.status, 1);
   expect_lines(
       outcome,
       {
-          "haldgDCT4_32f/1024: ",
+          "haldgDCT4Free_64f: ",
+          "haldgDCT4GetSize_64f: ",
+          "haldgDCT4InitAlloc_32f: ",
           "haldgDCT4_32f/128: no sum is published",
           "haldgDCT4_32f/256: state allocated, src 0, dst 0 bytes past a vector: other bits than ",
+          "haldgDCT4_64f/65536: ",
           "haldgDFTFwd_CToC_32fc: at 8: not the bits of haldgDFTFwd_CToC_8_32fc",
           "haldgDFTFwd_CToC_8_32fc: in place, 12 bytes past a vector: other bits than ",
           "haldgDFTInv_CCSToR_64f: at 6: not the bits of haldgDFTInv_CCSToR_6_64f",
@@ -132,10 +171,12 @@ TEST(Bits, NamesWhatDiffersAndNothingElse) {
           "haldgHartley_32f: at 11: not the bits of haldgHartley_11_32f",
           "haldgHartley_64_64f: src 0, dst 0 bytes past a vector: status -16",
           "haldgHartley_64f: at 64: not the bits of haldgHartley_64_64f",
+          "haldgWHTGetBufferSize_32f: ",
           "haldgWHT_64f: at 9: not the bits of haldgWHT_9_64f",
           "haldgWHT_9_64f: with a buffer, src 0, dst 0 bytes past a vector: other bits than ",
-          "HaldgDCT4_32f/128: published, but there is no such transform",
-          "1,",
+          "haldgenGetLibVersion: ",
+          "HaldgDCT4_32f/128: published, but there is no such function",
+          "1,173 of 1,194 as published",  // functions, each once, and the one that does not exist
       });
 }
 
@@ -149,9 +190,28 @@ TEST(Bits, RecordsAllOrNothing) {
   EXPECT_FALSE(std::ifstream(path));
 }
 
-TEST(Bits, AFileWithoutSumsIsNoSuccess) {
+TEST(Bits, AFileOfAnotherVersionOrNoneIsNoSuccess) {
+  std::string other = published();
+  const auto number = other.find('\n') - 1;
+  other[number] = other[number] == '2' ? '3' : '2';
+  const std::string path = file_of("other.tsv", other);
+  const Outcome outcome = run_program(linked(), {"compare", path});
+  EXPECT_EQ(outcome.status, 2);
+  expect_lines(outcome, {path + " has bits version\t"});
+
+  const std::string headless = file_of("headless.tsv", other.substr(other.find('\n') + 1));
+  EXPECT_EQ(run_program(linked(), {"compare", headless}).status, 2);
   EXPECT_EQ(run_program(linked(), {"compare", "/nowhere/sums.tsv"}).status, 2);
-  EXPECT_EQ(run_program(linked(), {"compare"}).status, 2);
+}
+
+TEST(Bits, CommandsThatAreNone) {
+  for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
+           {"compare", "a", "b"}, {"record"}, {"check"}, {"--library"}, {"--help", "a"}}) {
+    EXPECT_EQ(run_program(linked(), arguments).status, 2);
+  }
+  const Outcome help = run_program(linked(), {"--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_TRUE(help.lines.at(0).starts_with("usage: haldgen-bits "));
 }
 
 }  // namespace

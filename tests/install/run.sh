@@ -1,7 +1,7 @@
 #!/bin/sh
 # run.sh CMAKE SOURCE_DIR BUILD_DIR SCRATCH_DIR CC GENERATOR
 # Installs, moves the installed tree, and builds and runs programs by way of the CMake package and of
-# pkg-config.
+# pkg-config; runs the installed haldgen-bits.
 set -eu
 cmake=$1 source=$2 build=$3 scratch=$4 cc=$5 generator=$6
 consumer=$source/tests/install/consumer
@@ -49,6 +49,12 @@ for package in haldgenp8 haldcore; do
   test "$(pkg-config --modversion "$package")" = 8.1.0
 done
 test "$(pkg-config --print-requires-private haldgenp8)" = haldcore
+
+echo "The installed bits:"
+# Elsewhere, and with neither the build tree nor a search path to find the library and the sums by.
+(cd / && "$scratch/moved/bin/haldgen-bits") >"$scratch/bits"
+cat "$scratch/bits"
+test "$(cat "$scratch/bits")" = "1,193 of 1,193 as published"
 
 echo "Absolute library folder:"
 "$cmake" -S "$source" -B "$scratch/absolute" -G "$generator" -DHALDGEN_BUILD_TESTS=OFF \

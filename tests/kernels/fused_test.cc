@@ -22,11 +22,11 @@ TEST(Rounding, FusedInstructionsAreKnown) {
   Mnemonics mnemonics;
   for (const char* const name : {"vfmadd213sd", "vfnmsub231ps", "vfmaddsub132pd", "fmadd", "fmsub",
                                  "fnmadd", "fnmsub", "fmla", "fmls", "fcmla", "fmlal"}) {
-    mnemonics.add(name);
+    mnemonics.add(name, "");
   }
   EXPECT_EQ(mnemonics.fused(), 11);
   for (const char* const name : {"fmul", "fmov", "fnmul", "fmax", "fmaxnm", "vmulpd", "mulsd"}) {
-    mnemonics.add(name);
+    mnemonics.add(name, "");
   }
   EXPECT_EQ(mnemonics.fused(), 11);
 }
