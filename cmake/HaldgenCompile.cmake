@@ -80,8 +80,7 @@ function(haldgen_kernels target)
   # compilers minutes too.
   if(HALDGEN_SANITIZE)
     target_compile_options(${target} PRIVATE
-      $<$<CXX_COMPILER_ID:GNU>:-g1;--param=asan-instrumentation-with-call-threshold=0>
-      $<$<CXX_COMPILER_ID:Clang>:-gline-tables-only>
+      $<$<CXX_COMPILER_ID:GNU>:--param=asan-instrumentation-with-call-threshold=0>
       "$<$<CXX_COMPILER_ID:Clang>:SHELL:-mllvm -asan-instrumentation-with-call-threshold=0>")
   endif()
   if(HALDGEN_BUILD_FUZZ)

@@ -11,6 +11,7 @@
 
 #include "bits/calls.h"
 #include "names/arrays.h"
+#include "registry/registry.h"
 #include "tests/contract/memory.h"
 
 namespace haldgen::fuzz {
