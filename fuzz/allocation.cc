@@ -169,6 +169,7 @@ void run(Choices choices) {
 }  // namespace
 }  // namespace haldgen::fuzz
 
+// The name is the fuzzer's. NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   haldgen::fuzz::run(haldgen::fuzz::Choices({data, size}));
   return 0;

@@ -41,7 +41,7 @@ void run(Choices choices) {
   }
   if (answer != haldStatusOk) expect(size == kKnown, name, ": the refusal writes a size");
 
-  Dct4State* const untouched = reinterpret_cast<Dct4State*>(&size);
+  auto* const untouched = reinterpret_cast<Dct4State*>(&size);
   Dct4State* state = untouched;
   if (!planned.has(length) || length > planned.longest) {
     const Place place(0, 1, choices, 1);
@@ -97,6 +97,7 @@ void run(Choices choices) {
 }  // namespace
 }  // namespace haldgen::fuzz
 
+// The name is the fuzzer's. NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   haldgen::fuzz::run(haldgen::fuzz::Choices({data, size}));
   return 0;
