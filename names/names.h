@@ -63,6 +63,9 @@ struct Word {
 /// Whether the size is part of the names (and not an argument or absent).
 bool size_in_name(const Word& word);
 
+/// Whether the size is an order, of which the length is a power of two.
+bool has_order(const Word& word);
+
 /// Whether the functions are general entries: the size is an argument and selects one of the
 /// fixed-size functions of the same word.
 bool is_general(const Word& word);
