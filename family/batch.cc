@@ -33,16 +33,15 @@ Source batch_source(const std::string& family, int size, names::Element element)
   return source;
 }
 
-Kernel lane_kernel(const LaneBody& body, kernelgen::Program program, const Choice& choice) {
-  program.lanewise = true;
-  program.memory =
-      is_complex(body.element) ? kernelgen::Memory::elements : kernelgen::Memory::slots;
+namespace {
+
+Kernel body_kernel(const LaneBody& body, const kernelgen::Program& program, const Choice& choice) {
   std::vector<int> lengths{body.length};
   if (body.convolution) lengths.push_back(*body.convolution);
   const auto constants = named_constants(program, kernelgen::ConstantNames(lengths));
   Kernel kernel;
   kernel.name = body.name;
-  kernel.remark = ordered_by(choice, false);
+  kernel.remark = ordered_by(choice, program.lanes > 1);
   kernel.members = "  using Float = " + kernelgen::type_name(program.type) +
                    ";\n  static constexpr int kLength = " + std::to_string(body.length) + ";\n" +
                    emit_constants(constants, "  static ");
@@ -52,20 +51,47 @@ Kernel lane_kernel(const LaneBody& body, kernelgen::Program program, const Choic
   return kernel;
 }
 
+}  // namespace
+
+Kernel lane_kernel(const LaneBody& body, kernelgen::Program program, const Choice& choice) {
+  program.lanewise = true;
+  program.memory =
+      is_complex(body.element) ? kernelgen::Memory::elements : kernelgen::Memory::slots;
+  return body_kernel(body, program, choice);
+}
+
+Kernel block_kernel(const LaneBody& body, kernelgen::Program program, const Choice& choice) {
+  program.memory = kernelgen::Memory::blocks;
+  return body_kernel(body, program, choice);
+}
+
+bool is_light(const kernelgen::Program& lanes, int length) {
+  constexpr int kInstructionsOfPoint = 38;
+  const auto count = std::ranges::count_if(lanes.code, [](const kernelgen::Instruction& in) {
+    return !kernelgen::is_load(in.op) && !kernelgen::is_store(in.op);
+  });
+  return count <= kInstructionsOfPoint * length;
+}
+
+std::string width_of(const kernelgen::Program& lanes) {
+  const auto wide =
+      std::ranges::count_if(lanes.code, [](const kernelgen::Instruction& in) { return in.wide; });
+  const bool mostly = 2 * wide > static_cast<std::ptrdiff_t>(lanes.code.size());
+  return lanes.type == FloatType::f32 && mostly ? "Width::half" : "Width::whole";
+}
+
 std::string real_batch(const std::string& family, int size, names::Element element,
-                       const std::string& sides) {
-  const std::string symbol = batch_symbol(family, element, size);
-  const std::string type = kernelgen::type_name(type_of(element));
-  return "extern RealKernel<" + type + "> " + symbol + ";\nvoid " + symbol + "(const RealRun<" +
-         type + ">& run) {\n  run_real<Body, " + sides + ">(run);\n}\n";
+                       const std::string& arguments) {
+  const std::string symbol = "const RealKernel<" + kernelgen::type_name(type_of(element)) + "> " +
+                             batch_symbol(family, element, size);
+  return "extern " + symbol + ";\n" + symbol + " = kRealKernel<Body, " + arguments + ">;\n";
 }
 
 std::string complex_batch(const std::string& family, int size, names::Element element,
-                          const std::string& inverse) {
+                          const std::string& forward, const std::string& inverse) {
   const std::string symbol = "const ComplexPair<" + kernelgen::type_name(type_of(element)) + "> " +
                              batch_symbol(family, element, size);
-  return "extern " + symbol + ";\n" + symbol +
-         "{kComplexKernels<Forward, false>, kComplexKernels<" + inverse + ">};\n";
+  return "extern " + symbol + ";\n" + symbol + "{" + forward + ", " + inverse + "};\n";
 }
 
 }  // namespace haldgen::family

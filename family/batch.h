@@ -26,14 +26,24 @@ struct LaneBody {
 };
 Kernel lane_kernel(const LaneBody& body, kernelgen::Program program, const Choice& choice);
 
-/// Definition of the kernel of a real transform with the body "Body"; `sides` say what it has at
-/// src and at dst.
-std::string real_batch(const std::string& family, int size, names::Element element,
-                       const std::string& sides);
+/// The body that runs a scheduled packed program in each block of 128 bits.
+Kernel block_kernel(const LaneBody& body, kernelgen::Program program, const Choice& choice);
 
-/// Definition of the kernels of both directions of a complex transform; the forward body is
-/// "Forward".
+/// Whether the code of a body is short for its length: such kernels have more than one, for rows
+/// and columns in both directions, and the others one for all.
+bool is_light(const kernelgen::Program& lanes, int length);
+
+/// Where most of a mixed program's work is in 64 bits, vectors of half the width, which are whole
+/// ones there, do it in as much time and half the code: "Width::half", else "Width::whole".
+std::string width_of(const kernelgen::Program& lanes);
+
+/// Definition of the kernel of a real transform with the body "Body", made with these arguments:
+/// the width of its vectors, and what it has at src and at dst.
+std::string real_batch(const std::string& family, int size, names::Element element,
+                       const std::string& arguments);
+
+/// Definition of the kernels of both directions of a complex transform, made by these expressions.
 std::string complex_batch(const std::string& family, int size, names::Element element,
-                          const std::string& inverse);
+                          const std::string& forward, const std::string& inverse);
 
 }  // namespace haldgen::family

@@ -227,8 +227,8 @@ void emit_kernel_declarations(std::ostream& out) {
       const std::string kernel = kernel_of(batch, n);
       if (kernel.empty() || !declared.insert(kernel).second) continue;
       const std::string type = "<" + float_name(batch.element) + "> ";
-      out << "extern " << (is_complex(*batch.word) ? "const ComplexPair" : "RealKernel") << type
-          << kernel << ";\n";
+      out << "extern " << (is_complex(*batch.word) ? "const ComplexPair" : "const RealKernel")
+          << type << kernel << ";\n";
     }
   }
   out << "}  // namespace haldgen::batch\n";
@@ -251,8 +251,7 @@ void emit_entry(std::ostream& out, const Export& batch) {
     const std::string kernel = kernel_of(batch, n);
     const kernelgen::ScaleFactors scales = kernelgen::scale_factors(arrays.points, float_type);
     out << "    {single<" << single << ">, "
-        << (!kernel.empty() ? (is_complex(word) ? "&" : "") + kernel
-                            : "wht_kernel<" + type + ">(" + std::to_string(n) + ")")
+        << (!kernel.empty() ? "&" + kernel : "wht_kernel<" + type + ">(" + std::to_string(n) + ")")
         << ", " << arrays.src_floats << ", " << arrays.dst_floats << ", " << scales.by_n << ", "
         << scales.by_root << "},\n";
   }
