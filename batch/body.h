@@ -13,7 +13,7 @@ using Vector = lanes::WideVector<Float, kBytes<kWidth>>;
 
 enum class Side { plain, half_spectrum };
 
-template <class Body, Width kWidth, Side kSrc, Side kDst>
+template <class Body, Width kWidth, bool kInMemory, Side kSrc, Side kDst>
 struct RealIo {
   using Float = typename Body::Float;
   using V = Vector<Float, kWidth>;
@@ -27,7 +27,7 @@ struct RealIo {
                   Body::kLength % 2 == 0) {
       return values.last;
     }
-    return values.middle + k * values.step;
+    return values.middle + k * (kInMemory ? values.step : kLanes<Float, kWidth>);
   }
 
   template <int k>
@@ -47,10 +47,10 @@ struct RealIo {
   }
 };
 
-template <class Body, Width kWidth, Side kSrc, Side kDst>
+template <class Body, Width kWidth, bool kInMemory, Side kSrc, Side kDst>
 void run_real(const RealRun<typename Body::Float>& run) {
   using Float = typename Body::Float;
-  using Io = RealIo<Body, kWidth, kSrc, kDst>;
+  using Io = RealIo<Body, kWidth, kInMemory, kSrc, kDst>;
   // Word by word, as it was written: wider copies would wait for the stores.
   Io io{{run.src.first, run.src.middle, run.src.last, run.src.step},
         {run.dst.first, run.dst.middle, run.dst.last, run.dst.step}};
@@ -62,9 +62,9 @@ void run_real(const RealRun<typename Body::Float>& run) {
   }
 }
 
-template <class Body, Width kWidth, Side kSrc, Side kDst>
-inline constexpr RealKernel<typename Body::Float> kRealKernel{run_real<Body, kWidth, kSrc, kDst>,
-                                                              kWidth};
+template <class Body, Width kWidth, bool kInMemory, Side kSrc, Side kDst>
+inline constexpr RealKernel<typename Body::Float> kRealKernel{
+    run_real<Body, kWidth, kInMemory, kSrc, kDst>, kWidth, kInMemory};
 
 template <class Float>
 struct TileIo {

@@ -40,6 +40,7 @@ template <class Float>
 struct RealKernel {
   void (*run)(const RealRun<Float>& run);
   Width width;
+  bool in_memory;  ///< takes values at any steps; else tiles only
 };
 
 /// A group in tiles, the parts of each element one behind the other.

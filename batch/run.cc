@@ -92,8 +92,9 @@ void run_real_in(const RealTransform<Float>& transform, const Call<Float>& call,
   constexpr int kCountOfLanes = kLanes<Float, kWidth>;
   const int points = src == Format::ccs ? transform.dst_floats : transform.src_floats;
   // Neighbouring transforms of real numbers are vectors in memory.
-  const bool from_memory = call.src.parts == 1 && call.src.is_column();
-  const bool to_memory = call.dst.parts == 1 && call.dst.is_column();
+  const bool in_memory = transform.kernel->in_memory;
+  const bool from_memory = in_memory && call.src.parts == 1 && call.src.is_column();
+  const bool to_memory = in_memory && call.dst.parts == 1 && call.dst.is_column();
   std::ptrdiff_t done = 0;
   if (from_memory && to_memory && call.count >= kCountOfLanes) {
     const std::ptrdiff_t groups = call.count / kCountOfLanes;

@@ -47,10 +47,10 @@ void run_order(const RealRun<Float>& run) {
 
 template <class Float>
 const RealKernel<Float> WhtKernels<Float>::by_order[kKernelOrders] = {
-    {run_order<Float, 1>, Width::whole}, {run_order<Float, 2>, Width::whole},
-    {run_order<Float, 3>, Width::whole}, {run_order<Float, 4>, Width::whole},
-    {run_order<Float, 5>, Width::whole}, {run_order<Float, 6>, Width::whole},
-    {run_order<Float, 7>, Width::whole}};
+    {run_order<Float, 1>, Width::whole, true}, {run_order<Float, 2>, Width::whole, true},
+    {run_order<Float, 3>, Width::whole, true}, {run_order<Float, 4>, Width::whole, true},
+    {run_order<Float, 5>, Width::whole, true}, {run_order<Float, 6>, Width::whole, true},
+    {run_order<Float, 7>, Width::whole, true}};
 template struct WhtKernels<float>;
 template struct WhtKernels<double>;
 

@@ -84,7 +84,7 @@ family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
   const Program inverse = in_lanes(programs.inverse);
   const bool exchanged = same_results(parts_exchanged(forward), inverse);
   const bool light = family::is_light(forward, length);
-  const bool in_blocks = light && programs.forward.lanes > 1;
+  const bool in_blocks = light && family::is_of_blocks(programs.forward);
 
   family::LaneBody body{"Forward", length, element};
   if (design.recipe.method == Method::bluestein) {

@@ -123,9 +123,8 @@ struct Family {
                                                  choice.ordering, overlap_of(length, kDirection));
     source.kernels = {lane_kernel({"Body", length, element}, program, choice)};
     source.functions = {family::real_batch(
-        kName, length, element,
-        family::width_of(program) + (kForward ? ", Side::plain, Side::half_spectrum"
-                                              : ", Side::half_spectrum, Side::plain"))};
+        kName, length, element, program,
+        kForward ? "Side::plain, Side::half_spectrum" : "Side::half_spectrum, Side::plain")};
     return source;
   }
 

@@ -42,13 +42,24 @@ Kernel body_kernel(const LaneBody& body, const kernelgen::Program& program, cons
   Kernel kernel;
   kernel.name = body.name;
   kernel.remark = ordered_by(choice, program.lanes > 1);
-  kernel.members = "  using Float = " + kernelgen::type_name(program.type) +
-                   ";\n  static constexpr int kLength = " + std::to_string(body.length) + ";\n" +
-                   emit_constants(constants, "  static ");
+  kernel.members = "  using Float = " + kernelgen::type_name(program.type) + ";\n";
+  if (!is_complex(body.element)) {
+    kernel.members += "  static constexpr int kLength = " + std::to_string(body.length) + ";\n";
+  }
+  kernel.members += emit_constants(constants, "  static ");
   kernel.function =
       "template <class V, class Io>\n  HALDGEN_INLINE static void run(const Io& io, Float scale)";
   kernel.body = emit_body(program, {}, constants);
   return kernel;
+}
+
+/// Where much of a mixed program's work is in 64 bits, vectors of half the width, which are whole
+/// ones there, do it in as much time and with half the code.
+bool is_mostly_wide(const kernelgen::Program& lanes) {
+  const auto wide =
+      std::ranges::count_if(lanes.code, [](const kernelgen::Instruction& in) { return in.wide; });
+  return lanes.type == FloatType::f32 &&
+         5 * wide > 2 * static_cast<std::ptrdiff_t>(lanes.code.size());
 }
 
 }  // namespace
@@ -66,25 +77,34 @@ Kernel block_kernel(const LaneBody& body, kernelgen::Program program, const Choi
 }
 
 bool is_light(const kernelgen::Program& lanes, int length) {
-  constexpr int kInstructionsOfPoint = 38;
+  constexpr int kInstructionsOfPoint = 25;
   const auto count = std::ranges::count_if(lanes.code, [](const kernelgen::Instruction& in) {
     return !kernelgen::is_load(in.op) && !kernelgen::is_store(in.op);
   });
   return count <= kInstructionsOfPoint * length;
 }
 
-std::string width_of(const kernelgen::Program& lanes) {
-  const auto wide =
-      std::ranges::count_if(lanes.code, [](const kernelgen::Instruction& in) { return in.wide; });
-  const bool mostly = 2 * wide > static_cast<std::ptrdiff_t>(lanes.code.size());
-  return lanes.type == FloatType::f32 && mostly ? "Width::half" : "Width::whole";
+bool is_of_blocks(const kernelgen::Program& packed) {
+  using kernelgen::Op;
+  std::ptrdiff_t whole = 0;
+  std::ptrdiff_t halves = 0;
+  for (const kernelgen::Instruction& in : packed.code) {
+    if (in.op == Op::load || in.op == Op::store) {
+      ++whole;
+    } else if (in.op != Op::zero && (kernelgen::is_load(in.op) || kernelgen::is_store(in.op))) {
+      ++halves;
+    }
+  }
+  return packed.lanes > 1 && halves <= whole / 4;
 }
 
 std::string real_batch(const std::string& family, int size, names::Element element,
-                       const std::string& arguments) {
+                       const kernelgen::Program& lanes, const std::string& sides) {
   const std::string symbol = "const RealKernel<" + kernelgen::type_name(type_of(element)) + "> " +
                              batch_symbol(family, element, size);
-  return "extern " + symbol + ";\n" + symbol + " = kRealKernel<Body, " + arguments + ">;\n";
+  return "extern " + symbol + ";\n" + symbol + " = kRealKernel<Body, " +
+         (is_mostly_wide(lanes) ? "Width::half" : "Width::whole") + ", " +
+         (is_light(lanes, size) ? "true" : "false") + ", " + sides + ">;\n";
 }
 
 std::string complex_batch(const std::string& family, int size, names::Element element,

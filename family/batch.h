@@ -33,14 +33,14 @@ Kernel block_kernel(const LaneBody& body, kernelgen::Program program, const Choi
 /// and columns in both directions, and the others one for all.
 bool is_light(const kernelgen::Program& lanes, int length);
 
-/// Where most of a mixed program's work is in 64 bits, vectors of half the width, which are whole
-/// ones there, do it in as much time and half the code: "Width::half", else "Width::whole".
-std::string width_of(const kernelgen::Program& lanes);
+/// Whether a program is packed and mostly moves whole blocks; halves of blocks take longer than
+/// lanes.
+bool is_of_blocks(const kernelgen::Program& packed);
 
-/// Definition of the kernel of a real transform with the body "Body", made with these arguments:
-/// the width of its vectors, and what it has at src and at dst.
+/// Definition of the kernel of a real transform with the body "Body"; `sides` say what it has at
+/// src and at dst.
 std::string real_batch(const std::string& family, int size, names::Element element,
-                       const std::string& arguments);
+                       const kernelgen::Program& lanes, const std::string& sides);
 
 /// Definition of the kernels of both directions of a complex transform, made by these expressions.
 std::string complex_batch(const std::string& family, int size, names::Element element,

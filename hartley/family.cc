@@ -64,8 +64,8 @@ family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
   const kernelgen::Program program =
       scheduled(program_of(design_of(length), type), choice.ordering);
   source.kernels = {lane_kernel({"Body", length, element}, program, choice)};
-  source.functions = {family::real_batch(kName, length, element,
-                                         family::width_of(program) + ", Side::plain, Side::plain")};
+  source.functions = {
+      family::real_batch(kName, length, element, program, "Side::plain, Side::plain")};
   return source;
 }
 
