@@ -23,11 +23,12 @@ TEST(Families, NamesAreThePublishedOnes) {
   EXPECT_EQ(names, published);
 }
 
-const std::pair<std::string, std::string> kHeaders[] = {{"haldgen.h", emit_header()},
-                                                        {"haldbatch.h", emit_batch_header()}};
+std::vector<std::pair<std::string, std::string>> headers() {
+  return {{"haldgen.h", emit_header()}, {"haldbatch.h", emit_batch_header()}};
+}
 
 TEST(Header, CommittedOneIsCurrent) {
-  for (const auto& [name, text] : kHeaders) {
+  for (const auto& [name, text] : headers()) {
     std::ifstream file(INCLUDE_DIR + name, std::ios::binary);
     std::ostringstream committed;
     committed << file.rdbuf();
@@ -38,7 +39,7 @@ TEST(Header, CommittedOneIsCurrent) {
 }
 
 TEST(Header, FitsTheColumns) {
-  for (const auto& [name, text] : kHeaders) {
+  for (const auto& [name, text] : headers()) {
     std::istringstream header(text);
     for (std::string line; std::getline(header, line);) EXPECT_LE(line.size(), 100u) << line;
   }
