@@ -1,21 +1,25 @@
 // The complex DFT as a family: both directions of a length and type share a source.
 #include "family/family.h"
+#include "family/batch.h"
 
 #include <stdexcept>
 
 #include "dft_complex/recipes.h"
 #include "dft_complex/text.h"
 #include "kernelgen/count.h"
+#include "kernelgen/unpack.h"
 
 namespace haldgen::dft_complex {
 namespace {
 
 using family::FloatType;
 using kernelgen::Divides;
+using kernelgen::Program;
 using names::Element;
 using names::Layout;
 using names::Scaling;
 
+constexpr auto kName = "complex";
 constexpr auto kForward = "DFTFwd_CToC";
 constexpr auto kInverse = "DFTInv_CToC";
 
@@ -64,14 +68,45 @@ family::Source source(int length, FloatType type, const family::Tuning& tuning) 
   return source;
 }
 
+/// The program of one lane.
+Program in_lanes(const Program& program) {
+  return program.lanes == 1 ? program : kernelgen::unpacked(program);
+}
+
+family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
+  const Element element = family::complex_element(type);
+  const family::Choice single = tuning.of(names::export_name(kForward, element, length));
+  const family::Choice choice = tuning.of(family::batch_symbol(kName, element, length));
+  const Design& design = design_of(length, type);
+  const Programs programs = programs_of(design, type, single.seed);
+  const auto body = [&](const char* name, const kernelgen::Program& program) {
+    family::LaneBody lanes{name, length, element};
+    if (design.recipe.method == Method::bluestein) {
+      lanes.convolution = design.recipe.first.front().length;
+    }
+    return lane_kernel(lanes, scheduled(program, choice.ordering), choice);
+  };
+  const Program forward = in_lanes(programs.forward);
+  const Program inverse = in_lanes(programs.inverse);
+  const bool exchanged = same_results(parts_exchanged(forward), inverse);
+
+  family::Source source = family::batch_source(kName, length, element);
+  source.algorithm = algorithm(length, type);
+  source.kernels = {body("Forward", forward)};
+  if (!exchanged) source.kernels.push_back(body("Inverse", inverse));
+  source.functions = {family::complex_batch(kName, length, element,
+                                            exchanged ? "Forward, true" : "Inverse, false")};
+  return source;
+}
+
 }  // namespace
 
 family::Family complex(const names::Sizes& lengths) {
-  family::Family result{"complex",
+  family::Family result{kName,
                         "complex DFT, forward and inverse",
                         lengths,
                         {},
-                        family::Generated{algorithm, graph, work, source}};
+                        family::Generated{algorithm, graph, work, source, {}, batch}};
   add_transform(result, kForward, names::kComplex,
                 {Scaling::forward, Layout::complex, Layout::complex}, text("Forward", "-"));
   add_transform(result, kInverse, names::kComplex,

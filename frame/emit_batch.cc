@@ -1,7 +1,10 @@
 // Texts of the library of batches: one function for each general entry that the library of single
 // transforms has.
+#include <set>
 #include <sstream>
+#include <stdexcept>
 
+#include "family/batch.h"
 #include "frame/emit.h"
 #include "frame/text.h"
 #include "names/arrays.h"
@@ -10,6 +13,7 @@
 namespace haldgen::frame {
 namespace {
 
+using family::FloatType;
 using names::Element;
 using names::Layout;
 using names::Word;
@@ -125,6 +129,8 @@ std::string elements_of(Layout layout) {
     case Layout::none:
       break;
     case Layout::real:
+    case Layout::pack:
+    case Layout::perm:
       return "N floats of the type";
     case Layout::complex:
       return "N complex numbers";
@@ -171,11 +177,70 @@ void emit_functions(std::ostream& out, const Word& word) {
   out << "/** @} */\n";
 }
 
+/// The family that has the word; its name is part of those of its kernels.
+const family::Family& family_of(const Word& word) {
+  for (const family::Family& family : registry::families()) {
+    for (const Word& member : family.words) {
+      if (member.word == word.word && member.signature == word.signature) return family;
+    }
+  }
+  throw std::logic_error("a word of no family: " + word.word);
+}
+
+std::string format_name(Layout layout) {
+  switch (layout) {
+    case Layout::ccs:
+      return "Format::ccs";
+    case Layout::pack:
+      return "Format::pack";
+    case Layout::perm:
+      return "Format::perm";
+    default:
+      return "Format::real";
+  }
+}
+
+std::string divides_name(names::Scaling scaling) {
+  switch (scaling) {
+    case names::Scaling::forward:
+      return "Divides::forward";
+    case names::Scaling::inverse:
+      return "Divides::inverse";
+    default:
+      return "Divides::both";
+  }
+}
+
+bool is_complex(const Word& word) { return word.usage.src == Layout::complex; }
+
+/// The kernels of a size; none where all sizes share theirs.
+std::string kernel_of(const Export& batch, int size) {
+  if (has_order(*batch.word)) return "";
+  return family::batch_symbol(family_of(*batch.word).name, batch.element, size);
+}
+
+void emit_kernel_declarations(std::ostream& out) {
+  std::set<std::string> declared;
+  out << "\nnamespace haldgen::batch {\n";
+  for (const Export& batch : batches()) {
+    for (const int n : batch.word->sizes) {
+      const std::string kernel = kernel_of(batch, n);
+      if (kernel.empty() || !declared.insert(kernel).second) continue;
+      const std::string type = "<" + float_name(batch.element) + "> ";
+      out << "extern " << (is_complex(*batch.word) ? "const ComplexPair" : "RealKernel") << type
+          << kernel << ";\n";
+    }
+  }
+  out << "}  // namespace haldgen::batch\n";
+}
+
 void emit_entry(std::ostream& out, const Export& batch) {
   const Word& word = *batch.word;
   const std::string type = float_name(batch.element);
+  const FloatType float_type = type == "float" ? FloatType::f32 : FloatType::f64;
   const std::string table = batch.name + "_by_size";
-  out << "\nnamespace {\nconstexpr Transform<" << type << "> " << table << "[] = {\n";
+  out << "\nnamespace {\nconstexpr " << (is_complex(word) ? "Complex" : "Real") << "Transform<"
+      << type << "> " << table << "[] = {\n";
   for (int n = word.sizes.first(); n <= word.sizes.last(); ++n) {
     if (!word.sizes.contains(n)) {
       out << "    {},\n";
@@ -183,19 +248,38 @@ void emit_entry(std::ostream& out, const Export& batch) {
     }
     const std::string single = names::export_name(word.word, batch.element, n);
     const names::Arrays arrays = names::arrays(word, n);
-    out << "    {single<" << single << ">, " << arrays.src_floats << ", " << arrays.dst_floats
-        << "},\n";
+    const std::string kernel = kernel_of(batch, n);
+    const kernelgen::ScaleFactors scales = kernelgen::scale_factors(arrays.points, float_type);
+    out << "    {single<" << single << ">, "
+        << (!kernel.empty() ? (is_complex(word) ? "&" : "") + kernel
+                            : "wht_kernel<" + type + ">(" + std::to_string(n) + ")")
+        << ", " << arrays.src_floats << ", " << arrays.dst_floats << ", " << scales.by_n << ", "
+        << scales.by_root << "},\n";
   }
   const auto array = [&](const std::string& name, Layout layout, const std::string& cast) {
     const int floats = floats_of(element_of(layout, batch.element));
     return "{reinterpret_cast<" + cast + "*>(" + name + "), " + name + "Step, " + name + "Dist, " +
            std::to_string(floats) + "}";
   };
+  const std::string size = size_name(word);
   out << "};\n}  // namespace\n\n"
-      << declaration(batch, "\n    ") << " {\n  return run<" << type << ">(" << table << ", "
-      << size_name(word) << " - " << word.sizes.first() << "LL, "
-      << array("src", word.usage.src, "const " + type) << ",\n      "
-      << array("dst", word.usage.dst, type) << ", count, flag);\n}\n";
+      << declaration(batch, "\n    ") << " {\n  return checked(" << table << ", " << size
+      << " - std::ptrdiff_t{" << word.sizes.first() << "},\n      Elements<const " << type << ">"
+      << array("src", word.usage.src, "const " + type) << ",\n      Elements<" << type << ">"
+      << array("dst", word.usage.dst, type) << ",\n      count, flag, "
+      << divides_name(word.usage.scaling)
+      << ", [&](const auto& transform, const auto& call) {\n        ";
+  if (is_complex(word)) {
+    const bool forward = word.usage.scaling == names::Scaling::forward;
+    out << "run_complex(transform, call, Direction::" << (forward ? "forward" : "inverse")
+        << ");\n";
+  } else if (has_order(word)) {
+    out << "run_wht(order, transform, call);\n";
+  } else {
+    out << "run_real(transform, call, " << format_name(word.usage.src) << ", "
+        << format_name(word.usage.dst) << ");\n";
+  }
+  out << "      });\n}\n";
 }
 
 }  // namespace
@@ -223,6 +307,7 @@ std::string emit_batch_entries() {
       << "// The entries of batches: a look-up of the kernels of a length.\n"
       << "#include \"haldbatch.h\"\n\n#include \"batch/entry.h\"\n\n"
       << "using namespace haldgen::batch;\n";
+  emit_kernel_declarations(out);
   for (const Export& batch : batches()) emit_entry(out, batch);
   return out.str();
 }

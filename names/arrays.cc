@@ -10,6 +10,8 @@ std::size_t floats(Layout layout, std::size_t points) {
     case Layout::none:
       break;
     case Layout::real:
+    case Layout::pack:
+    case Layout::perm:
       return points;
     case Layout::complex:
       return 2 * points;

@@ -31,9 +31,11 @@ enum class Scaling {
 /// What an array holds for N points.
 enum class Layout {
   none,     ///< there are no such arrays, or a state says what they hold
-  real,     ///< N real elements: samples, or a half spectrum in Pack or Perm format
+  real,     ///< N real elements
   complex,  ///< N complex elements
   ccs,      ///< a half spectrum in CCS format
+  pack,     ///< in Pack format: N real elements
+  perm,     ///< in Perm format, likewise
 };
 
 /// How a transform uses its flag and its arrays.

@@ -1,0 +1,71 @@
+// The kernels of batches, and what they are given. A group is as many transforms as a vector has
+// lanes. A tile holds the floats of a group, position by position: those of all its transforms at
+// one position of their arrays are one vector.
+#pragma once
+
+#include <cstddef>
+
+#include "batch/width.h"
+
+namespace haldgen::batch {
+
+template <class Float>
+inline constexpr int kLanes = kVectorBytes / static_cast<int>(sizeof(Float));
+
+/// Values of transforms of real data. Value k is the vector at `middle + k * step`; of a half
+/// spectrum the first lies at `first`, and the last of an even number at `last`.
+template <class Float>
+struct Values {
+  Float* first;
+  Float* middle;
+  Float* last;
+  std::ptrdiff_t step;
+};
+
+/// Groups of real data, each a vector behind the one before.
+template <class Float>
+struct RealRun {
+  Values<const Float> src;
+  Values<Float> dst;
+  std::ptrdiff_t groups;
+  Float scale;
+};
+template <class Float>
+using RealKernel = void(const RealRun<Float>& run);
+
+/// A group in tiles, the parts of each element one behind the other.
+template <class Float>
+struct TileRun {
+  const Float* src_re;
+  const Float* src_im;
+  Float* dst_re;
+  Float* dst_im;
+  Float scale;
+};
+
+/// Groups of neighbouring transforms, elements so many floats apart.
+template <class Float>
+struct ColumnsRun {
+  const Float* src;
+  std::ptrdiff_t src_step;
+  Float* dst;
+  std::ptrdiff_t dst_step;
+  std::ptrdiff_t groups;
+  Float scale;
+};
+
+template <class Float>
+struct ComplexKernels {
+  void (*tile)(const TileRun<Float>& run);
+  bool tile_exchanged;  ///< it is the other direction's: parts are exchanged on both sides
+  void (*columns)(const ColumnsRun<Float>& run);
+};
+
+/// Both directions of a length.
+template <class Float>
+struct ComplexPair {
+  ComplexKernels<Float> forward;
+  ComplexKernels<Float> inverse;
+};
+
+}  // namespace haldgen::batch
