@@ -9,8 +9,14 @@
 
 namespace haldgen::batch {
 
-template <class Float>
-inline constexpr int kLanes = kVectorBytes / static_cast<int>(sizeof(Float));
+/// Whole vectors, or half of them.
+enum class Width { whole, half };
+template <Width kWidth>
+inline constexpr int kBytes =
+    kWidth == Width::half&& kVectorBytes > 16 ? kVectorBytes / 2 : kVectorBytes;
+
+template <class Float, Width kWidth = Width::whole>
+inline constexpr int kLanes = kBytes<kWidth> / static_cast<int>(sizeof(Float));
 
 /// Values of transforms of real data. Value k is the vector at `middle + k * step`; of a half
 /// spectrum the first lies at `first`, and the last of an even number at `last`.
@@ -31,7 +37,11 @@ struct RealRun {
   Float scale;
 };
 template <class Float>
-using RealKernel = void(const RealRun<Float>& run);
+struct RealKernel {
+  void (*run)(const RealRun<Float>& run);
+  Width width;
+  bool in_memory;  ///< takes values at any steps; else tiles only
+};
 
 /// A group in tiles, the parts of each element one behind the other.
 template <class Float>
@@ -54,11 +64,24 @@ struct ColumnsRun {
   Float scale;
 };
 
+/// Transforms of neighbouring elements, so many floats apart.
+template <class Float>
+struct RowsRun {
+  const Float* src;
+  std::ptrdiff_t src_dist;
+  Float* dst;
+  std::ptrdiff_t dst_dist;
+  std::ptrdiff_t count;
+  Float scale;
+};
+
+/// The kernels of one direction: that of tiles, or that of rows, and perhaps that of columns.
 template <class Float>
 struct ComplexKernels {
-  void (*tile)(const TileRun<Float>& run);
-  bool tile_exchanged;  ///< it is the other direction's: parts are exchanged on both sides
-  void (*columns)(const ColumnsRun<Float>& run);
+  void (*tile)(const TileRun<Float>& run) = nullptr;
+  bool tile_exchanged = false;  ///< it is the other direction's: parts are exchanged on both sides
+  void (*rows)(const RowsRun<Float>& run) = nullptr;
+  void (*columns)(const ColumnsRun<Float>& run) = nullptr;
 };
 
 /// Both directions of a length.

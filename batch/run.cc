@@ -7,15 +7,8 @@
 namespace haldgen::batch {
 namespace {
 
-/// The longest transform of a tile: floats of 2^7 real or 2^6 complex numbers, and of their half
-/// spectrum.
-constexpr int kTileFloats = 130;
-
-/// So few transforms take less time one by one.
-template <class Float>
-constexpr bool few(std::ptrdiff_t count) {
-  return count <= kLanes<Float> / 3;
-}
+/// So few transforms take less time one by one than lanes of so many.
+constexpr bool few(std::ptrdiff_t count, int lanes) { return count <= lanes / 3; }
 
 /// A transform by the function that a user has for it.
 template <class Float, class Kernel>
@@ -27,29 +20,25 @@ void run_single(const Transform<Float, Kernel>& transform, const Array<const Flo
   }
   Float from[kTileFloats];
   Float to[kTileFloats];
-  for (int p = 0; p < transform.src_floats; ++p) {
-    from[p] = scalar::load(src.first + src.place(p, 0));
-  }
+  gather(from, src, transform.src_floats, 1, 1, 0);
   transform.single(from, to, flag);
-  for (int p = 0; p < transform.dst_floats; ++p) {
-    scalar::store(dst.first + dst.place(p, 0), to[p]);
-  }
+  scatter(dst, to, transform.dst_floats, 1, 1, 0);
 }
 
 /// From transform `first` on: group(src, dst, valid) for groups, the last of which may have fewer
 /// transforms than lanes, or one by one if they are few.
 template <class Float, class Kernel, class Group>
-void in_groups(const Transform<Float, Kernel>& transform, const Call<Float>& call,
+void in_groups(const Transform<Float, Kernel>& transform, const Call<Float>& call, int lanes,
                std::ptrdiff_t first, const Group& group) {
-  for (std::ptrdiff_t t = first; t < call.count; t += kLanes<Float>) {
+  for (std::ptrdiff_t t = first; t < call.count; t += lanes) {
     const std::ptrdiff_t left = call.count - t;
-    if (transform.single != nullptr && few<Float>(left)) {
+    if (transform.single != nullptr && few(left, lanes)) {
       for (std::ptrdiff_t i = t; i < call.count; ++i) {
         run_single(transform, call.src.from(i), call.dst.from(i), call.flag);
       }
       return;
     }
-    const int valid = static_cast<int>(std::min<std::ptrdiff_t>(left, kLanes<Float>));
+    const int valid = static_cast<int>(std::min<std::ptrdiff_t>(left, lanes));
     group(call.src.from(t), call.dst.from(t), valid);
   }
 }
@@ -69,68 +58,113 @@ Values<Float> values_of(Float* first, std::ptrdiff_t step, Format format, int po
   return values;
 }
 
+/// Rows by their kernel; other arrays as rows on the stack, some at a time.
+template <class Float>
+void run_as_rows(const ComplexKernels<Float>& kernels, int floats, const Call<Float>& call,
+                 std::ptrdiff_t first) {
+  const bool from_memory = call.src.is_row();
+  const bool to_memory = call.dst.is_row();
+  const std::ptrdiff_t left = call.count - first;
+  if (from_memory && to_memory) {
+    const Array<const Float> src = call.src.from(first);
+    const Array<Float> dst = call.dst.from(first);
+    kernels.rows({src.first, src.dist, dst.first, dst.dist, left, call.scale});
+    return;
+  }
+  constexpr int kRows = 16;
+  alignas(64) Float from[kRows * kTileFloats];
+  alignas(64) Float to[kRows * kTileFloats];
+  for (std::ptrdiff_t t = first; t < call.count; t += kRows) {
+    const int rows = static_cast<int>(std::min<std::ptrdiff_t>(call.count - t, kRows));
+    const Array<const Float> src = call.src.from(t);
+    const Array<Float> dst = call.dst.from(t);
+    if (!from_memory) gather(from, src, floats, rows, 1, floats);
+    kernels.rows({from_memory ? src.first : from, from_memory ? src.dist : floats,
+                  to_memory ? dst.first : to, to_memory ? dst.dist : floats, rows, call.scale});
+    if (!to_memory) scatter(dst, to, floats, rows, 1, floats);
+  }
+}
+
+template <class Float, Width kWidth>
+void run_real_in(const RealTransform<Float>& transform, const Call<Float>& call, Format src,
+                 Format dst) {
+  using V = Vector<Float, kWidth>;
+  constexpr int kCountOfLanes = kLanes<Float, kWidth>;
+  const int points = src == Format::ccs ? transform.dst_floats : transform.src_floats;
+  // Neighbouring transforms of real numbers are vectors in memory.
+  const bool in_memory = transform.kernel->in_memory;
+  const bool from_memory = in_memory && call.src.parts == 1 && call.src.is_column();
+  const bool to_memory = in_memory && call.dst.parts == 1 && call.dst.is_column();
+  std::ptrdiff_t done = 0;
+  if (from_memory && to_memory && call.count >= kCountOfLanes) {
+    const std::ptrdiff_t groups = call.count / kCountOfLanes;
+    transform.kernel->run({values_of(call.src.first, call.src.step, src, points),
+                           values_of(call.dst.first, call.dst.step, dst, points), groups,
+                           call.scale});
+    done = groups * kCountOfLanes;
+  }
+  if (done == call.count) return;
+  alignas(64) Float from[kTileFloats * kCountOfLanes];
+  alignas(64) Float to[kTileFloats * kCountOfLanes];
+  if (dst == Format::ccs) {
+    *vectors<V>(to, 1) = V{};
+    if (points % 2 == 0) *vectors<V>(to, points + 1) = V{};
+  }
+  const auto loaded = values_of<const Float>(from, kCountOfLanes, src, points);
+  const auto stored = values_of<Float>(to, kCountOfLanes, dst, points);
+  in_groups(transform, call, kCountOfLanes, done,
+            [&](const Array<const Float>& source, const Array<Float>& destination, int valid) {
+              const bool all = valid == kCountOfLanes;
+              const bool load = !from_memory || !all;
+              const bool store = !to_memory || !all;
+              if (load) load_tile<V>(from, source, transform.src_floats, valid);
+              transform.kernel->run(
+                  {load ? loaded : values_of(source.first, source.step, src, points),
+                   store ? stored : values_of(destination.first, destination.step, dst, points), 1,
+                   call.scale});
+              if (store) store_tile<V>(destination, to, transform.dst_floats, valid);
+            });
+}
+
 }  // namespace
 
 template <class Float>
 void run_complex(const ComplexTransform<Float>& transform, const Call<Float>& call,
                  Direction direction) {
+  using V = Vector<Float>;
   const bool forward = direction == Direction::forward;
   const ComplexKernels<Float>& kernels =
       forward ? transform.kernel->forward : transform.kernel->inverse;
+  const int floats = transform.src_floats;
   std::ptrdiff_t done = 0;
-  if (call.src.is_column() && call.dst.is_column() && call.count >= kLanes<Float>) {
+  if (kernels.columns != nullptr && call.src.is_column() && call.dst.is_column() &&
+      call.count >= kLanes<Float>) {
     const std::ptrdiff_t groups = call.count / kLanes<Float>;
     kernels.columns(
         {call.src.first, call.src.step, call.dst.first, call.dst.step, groups, call.scale});
     done = groups * kLanes<Float>;
   }
+  if (done == call.count) return;
+  if (kernels.rows != nullptr) return run_as_rows(kernels, floats, call, done);
   alignas(64) Float from[kTileFloats * kLanes<Float>];
   alignas(64) Float to[kTileFloats * kLanes<Float>];
   const int re = kernels.tile_exchanged ? kLanes<Float> : 0;
   const int im = kLanes<Float> - re;
-  const int floats = transform.src_floats;
-  in_groups(transform, call, done,
+  in_groups(transform, call, kLanes<Float>, done,
             [&](const Array<const Float>& src, const Array<Float>& dst, int valid) {
-              load_tile(from, src, floats, valid);
+              load_tile<V>(from, src, floats, valid);
               kernels.tile({from + re, from + im, to + re, to + im, call.scale});
-              store_tile(dst, to, floats, valid);
+              store_tile<V>(dst, to, floats, valid);
             });
 }
 
 template <class Float>
 void run_real(const RealTransform<Float>& transform, const Call<Float>& call, Format src,
               Format dst) {
-  const int points = src == Format::ccs ? transform.dst_floats : transform.src_floats;
-  // Neighbouring transforms of real numbers are vectors in memory.
-  const bool from_memory = call.src.parts == 1 && call.src.is_column();
-  const bool to_memory = call.dst.parts == 1 && call.dst.is_column();
-  std::ptrdiff_t done = 0;
-  if (from_memory && to_memory && call.count >= kLanes<Float>) {
-    const std::ptrdiff_t groups = call.count / kLanes<Float>;
-    transform.kernel({values_of(call.src.first, call.src.step, src, points),
-                      values_of(call.dst.first, call.dst.step, dst, points), groups, call.scale});
-    done = groups * kLanes<Float>;
+  if (transform.kernel->width == Width::half) {
+    return run_real_in<Float, Width::half>(transform, call, src, dst);
   }
-  alignas(64) Float from[kTileFloats * kLanes<Float>];
-  alignas(64) Float to[kTileFloats * kLanes<Float>];
-  if (dst == Format::ccs) {
-    *vectors(to, 1) = Vector<Float>{};
-    if (points % 2 == 0) *vectors(to, points + 1) = Vector<Float>{};
-  }
-  const auto loaded = values_of<const Float>(from, kLanes<Float>, src, points);
-  const auto stored = values_of<Float>(to, kLanes<Float>, dst, points);
-  in_groups(transform, call, done,
-            [&](const Array<const Float>& source, const Array<Float>& destination, int valid) {
-              const bool all = valid == kLanes<Float>;
-              const bool load = !from_memory || !all;
-              const bool store = !to_memory || !all;
-              if (load) load_tile(from, source, transform.src_floats, valid);
-              transform.kernel(
-                  {load ? loaded : values_of(source.first, source.step, src, points),
-                   store ? stored : values_of(destination.first, destination.step, dst, points), 1,
-                   call.scale});
-              if (store) store_tile(destination, to, transform.dst_floats, valid);
-            });
+  run_real_in<Float, Width::whole>(transform, call, src, dst);
 }
 
 // The levels of the lower bits of the index, then those of the upper ones, each pass a batch of

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <iterator>
 
 #include "batch/array.h"
 
@@ -25,7 +24,7 @@ struct Transform {
 template <class Float>
 using ComplexTransform = Transform<Float, const ComplexPair<Float>>;
 template <class Float>
-using RealTransform = Transform<Float, RealKernel<Float>>;
+using RealTransform = Transform<Float, const RealKernel<Float>>;
 
 /// What a call asks for, its arguments being good.
 template <class Float>
@@ -53,18 +52,18 @@ void run_wht(int order, const RealTransform<Float>& transform, const Call<Float>
 
 /// Orders with a kernel.
 inline constexpr int kKernelOrders = 7;
-template <class Float, int kOrder>
-void run_wht_kernel(const RealRun<Float>& run);
+template <class Float>
+struct WhtKernels {
+  static const RealKernel<Float> by_order[kKernelOrders];  ///< order k at [k - 1]
+};
+
+extern template struct WhtKernels<float>;
+extern template struct WhtKernels<double>;
 
 /// The kernel of an order; null if it has none.
 template <class Float>
-constexpr RealKernel<Float>* wht_kernel(int order) {
-  constexpr RealKernel<Float>* kAll[] = {run_wht_kernel<Float, 1>, run_wht_kernel<Float, 2>,
-                                         run_wht_kernel<Float, 3>, run_wht_kernel<Float, 4>,
-                                         run_wht_kernel<Float, 5>, run_wht_kernel<Float, 6>,
-                                         run_wht_kernel<Float, 7>};
-  static_assert(std::size(kAll) == kKernelOrders);
-  return order <= kKernelOrders ? kAll[order - 1] : nullptr;
+constexpr const RealKernel<Float>* wht_kernel(int order) {
+  return order <= kKernelOrders ? &WhtKernels<Float>::by_order[order - 1] : nullptr;
 }
 
 }  // namespace haldgen::batch

@@ -32,10 +32,8 @@ struct ScaledSink {
   }
 };
 
-}  // namespace
-
 template <class Float, int kOrder>
-void run_wht_kernel(const RealRun<Float>& run) {
+void run_order(const RealRun<Float>& run) {
   Source<Float> from{run.src.first, run.src.step};
   ScaledSink<Float> to{run.dst.first, run.dst.step, lanes::splat<Vector<Float>>(run.scale)};
   for (std::ptrdiff_t group = run.groups; group > 0; --group) {
@@ -45,16 +43,15 @@ void run_wht_kernel(const RealRun<Float>& run) {
   }
 }
 
-#define HALDGEN_ORDER(order)                                         \
-  template void run_wht_kernel<float, order>(const RealRun<float>&); \
-  template void run_wht_kernel<double, order>(const RealRun<double>&);
-HALDGEN_ORDER(1)
-HALDGEN_ORDER(2)
-HALDGEN_ORDER(3)
-HALDGEN_ORDER(4)
-HALDGEN_ORDER(5)
-HALDGEN_ORDER(6)
-HALDGEN_ORDER(7)
-#undef HALDGEN_ORDER
+}  // namespace
+
+template <class Float>
+const RealKernel<Float> WhtKernels<Float>::by_order[kKernelOrders] = {
+    {run_order<Float, 1>, Width::whole, true}, {run_order<Float, 2>, Width::whole, true},
+    {run_order<Float, 3>, Width::whole, true}, {run_order<Float, 4>, Width::whole, true},
+    {run_order<Float, 5>, Width::whole, true}, {run_order<Float, 6>, Width::whole, true},
+    {run_order<Float, 7>, Width::whole, true}};
+template struct WhtKernels<float>;
+template struct WhtKernels<double>;
 
 }  // namespace haldgen::batch

@@ -75,27 +75,42 @@ Program in_lanes(const Program& program) {
 
 family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
   const Element element = family::complex_element(type);
-  const family::Choice single = tuning.of(names::export_name(kForward, element, length));
+  const family::Choice there = tuning.of(names::export_name(kForward, element, length));
+  const family::Choice back = tuning.of(names::export_name(kInverse, element, length));
   const family::Choice choice = tuning.of(family::batch_symbol(kName, element, length));
   const Design& design = design_of(length, type);
-  const Programs programs = programs_of(design, type, single.seed);
-  const auto body = [&](const char* name, const kernelgen::Program& program) {
-    family::LaneBody lanes{name, length, element};
-    if (design.recipe.method == Method::bluestein) {
-      lanes.convolution = design.recipe.first.front().length;
-    }
-    return lane_kernel(lanes, scheduled(program, choice.ordering), choice);
-  };
+  const Programs programs = programs_of(design, type, there.seed);
   const Program forward = in_lanes(programs.forward);
   const Program inverse = in_lanes(programs.inverse);
   const bool exchanged = same_results(parts_exchanged(forward), inverse);
+  const bool light = family::is_light(forward, length);
+  const bool in_blocks = light && family::is_of_blocks(programs.forward);
 
+  family::LaneBody body{"Forward", length, element};
+  if (design.recipe.method == Method::bluestein) {
+    body.convolution = design.recipe.first.front().length;
+  }
   family::Source source = family::batch_source(kName, length, element);
   source.algorithm = algorithm(length, type);
-  source.kernels = {body("Forward", forward)};
-  if (!exchanged) source.kernels.push_back(body("Inverse", inverse));
-  source.functions = {family::complex_batch(kName, length, element,
-                                            exchanged ? "Forward, true" : "Inverse, false")};
+  source.kernels = {lane_kernel(body, scheduled(forward, choice.ordering), choice)};
+  if (!exchanged) {
+    body.name = "Inverse";
+    source.kernels.push_back(lane_kernel(body, scheduled(inverse, choice.ordering), choice));
+  }
+  if (in_blocks) {
+    body.name = "ForwardBlocks";
+    source.kernels.push_back(
+        block_kernel(body, scheduled(programs.forward, there.ordering), there));
+    body.name = "InverseBlocks";
+    source.kernels.push_back(block_kernel(body, scheduled(programs.inverse, back.ordering), back));
+  }
+  const auto kernels = [&](const std::string& lanes, const std::string& blocks) {
+    if (in_blocks) return "rows_and_columns<" + lanes + ", " + blocks + ">()";
+    return (light ? "tile_and_columns<" : "tile_only<") + lanes + ">()";
+  };
+  source.functions = {family::complex_batch(
+      kName, length, element, kernels("Forward, false", "ForwardBlocks"),
+      kernels(exchanged ? "Forward, true" : "Inverse, false", "InverseBlocks"))};
   return source;
 }
 

@@ -119,12 +119,11 @@ struct Family {
     const family::Choice choice = tuning.of(family::batch_symbol(kName, element, length));
     family::Source source = family::batch_source(kName, length, element);
     source.algorithm = algorithm(length, type) + (kForward ? "" : ", transposed");
-    source.kernels = {lane_kernel({"Body", length, element},
-                                  scheduled(program_of(design_of(length, kDirection), type),
-                                            choice.ordering, overlap_of(length, kDirection)),
-                                  choice)};
+    const kernelgen::Program program = scheduled(program_of(design_of(length, kDirection), type),
+                                                 choice.ordering, overlap_of(length, kDirection));
+    source.kernels = {lane_kernel({"Body", length, element}, program, choice)};
     source.functions = {family::real_batch(
-        kName, length, element,
+        kName, length, element, program,
         kForward ? "Side::plain, Side::half_spectrum" : "Side::half_spectrum, Side::plain")};
     return source;
   }

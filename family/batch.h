@@ -26,14 +26,24 @@ struct LaneBody {
 };
 Kernel lane_kernel(const LaneBody& body, kernelgen::Program program, const Choice& choice);
 
+/// The body that runs a scheduled packed program in each block of 128 bits.
+Kernel block_kernel(const LaneBody& body, kernelgen::Program program, const Choice& choice);
+
+/// Whether the code of a body is short for its length: such kernels have more than one, for rows
+/// and columns in both directions, and the others one for all.
+bool is_light(const kernelgen::Program& lanes, int length);
+
+/// Whether a program is packed and mostly moves whole blocks; halves of blocks take longer than
+/// lanes.
+bool is_of_blocks(const kernelgen::Program& packed);
+
 /// Definition of the kernel of a real transform with the body "Body"; `sides` say what it has at
 /// src and at dst.
 std::string real_batch(const std::string& family, int size, names::Element element,
-                       const std::string& sides);
+                       const kernelgen::Program& lanes, const std::string& sides);
 
-/// Definition of the kernels of both directions of a complex transform; the forward body is
-/// "Forward".
+/// Definition of the kernels of both directions of a complex transform, made by these expressions.
 std::string complex_batch(const std::string& family, int size, names::Element element,
-                          const std::string& inverse);
+                          const std::string& forward, const std::string& inverse);
 
 }  // namespace haldgen::family

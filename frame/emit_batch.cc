@@ -43,11 +43,12 @@ constexpr std::string_view prologue = R"(/**
  *   dst, and neighbouring transforms, too. So samples that become a half spectrum in CCS format in
  *   place need rows with room for the bins. The arrays must not overlap in any other way.
  * - Nothing but the elements named is read or written, not even between them.
- * - Complex arrays need the alignment of their floats (4 bytes for Cplx32, 8 bytes for Cplx64). Real
- *   arrays, and with them those in Pack, Perm and CCS format, take any address at all.
- * - There is no planning, no hidden state, no thread, no lock, and nothing is allocated. Any number of
- *   threads may call at once: a batch may be split into calls with smaller counts in any way, and its
- *   bits stay the same.
+ * - Complex arrays need the alignment of their floats (4 bytes for Cplx32, 8 bytes for Cplx64).
+ *   Real arrays, and with them those in Pack, Perm and CCS format, take any address at all.
+ * - There is no planning, no hidden state, no thread and no lock. Nothing is allocated: what is no
+ *   row and no column passes through the stack, of which a call takes up to 64 KiB. Any number of
+ *   threads may call at once: a batch may be split into calls with smaller counts in any way, and
+ *   its bits stay the same.
  * - A failure is only returned as a status, and then dst is not written. With more than one reason,
  *   the status is the first of
  *       haldStatusSizeError      length, or order, is none that the single functions have
@@ -135,14 +136,18 @@ std::string elements_of(Layout layout) {
     case Layout::complex:
       return "N complex numbers";
     case Layout::ccs:
-      return "N/2 + 1 bins, rounded down: complex numbers";
+      return "N/2 + 1 bins, rounded down";
   }
   throw std::logic_error("no arrays of a batch");
 }
 
 std::string definition(const Word& word) {
   const std::string& text = word.text.definition;
-  return text.substr(0, text.find("@param"));
+  const std::string formula = text.substr(0, text.find("@param"));
+  if (!has_order(word)) return formula;
+  return formula +
+         "There is no work area: orders from 8 on are two passes, between which values rest in "
+         "dst.\n\n";
 }
 
 void emit_functions(std::ostream& out, const Word& word) {
@@ -227,8 +232,8 @@ void emit_kernel_declarations(std::ostream& out) {
       const std::string kernel = kernel_of(batch, n);
       if (kernel.empty() || !declared.insert(kernel).second) continue;
       const std::string type = "<" + float_name(batch.element) + "> ";
-      out << "extern " << (is_complex(*batch.word) ? "const ComplexPair" : "RealKernel") << type
-          << kernel << ";\n";
+      out << "extern " << (is_complex(*batch.word) ? "const ComplexPair" : "const RealKernel")
+          << type << kernel << ";\n";
     }
   }
   out << "}  // namespace haldgen::batch\n";
@@ -251,8 +256,7 @@ void emit_entry(std::ostream& out, const Export& batch) {
     const std::string kernel = kernel_of(batch, n);
     const kernelgen::ScaleFactors scales = kernelgen::scale_factors(arrays.points, float_type);
     out << "    {single<" << single << ">, "
-        << (!kernel.empty() ? (is_complex(word) ? "&" : "") + kernel
-                            : "wht_kernel<" + type + ">(" + std::to_string(n) + ")")
+        << (!kernel.empty() ? "&" + kernel : "wht_kernel<" + type + ">(" + std::to_string(n) + ")")
         << ", " << arrays.src_floats << ", " << arrays.dst_floats << ", " << scales.by_n << ", "
         << scales.by_root << "},\n";
   }

@@ -61,10 +61,11 @@ family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
   const family::Choice choice = tuning.of(family::batch_symbol(kName, element, length));
   family::Source source = family::batch_source(kName, length, element);
   source.algorithm = algorithm(length, type);
-  source.kernels = {lane_kernel({"Body", length, element},
-                                scheduled(program_of(design_of(length), type), choice.ordering),
-                                choice)};
-  source.functions = {family::real_batch(kName, length, element, "Side::plain, Side::plain")};
+  const kernelgen::Program program =
+      scheduled(program_of(design_of(length), type), choice.ordering);
+  source.kernels = {lane_kernel({"Body", length, element}, program, choice)};
+  source.functions = {
+      family::real_batch(kName, length, element, program, "Side::plain, Side::plain")};
   return source;
 }
 

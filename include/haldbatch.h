@@ -22,11 +22,12 @@
  *   dst, and neighbouring transforms, too. So samples that become a half spectrum in CCS format in
  *   place need rows with room for the bins. The arrays must not overlap in any other way.
  * - Nothing but the elements named is read or written, not even between them.
- * - Complex arrays need the alignment of their floats (4 bytes for Cplx32, 8 bytes for Cplx64). Real
- *   arrays, and with them those in Pack, Perm and CCS format, take any address at all.
- * - There is no planning, no hidden state, no thread, no lock, and nothing is allocated. Any number of
- *   threads may call at once: a batch may be split into calls with smaller counts in any way, and its
- *   bits stay the same.
+ * - Complex arrays need the alignment of their floats (4 bytes for Cplx32, 8 bytes for Cplx64).
+ *   Real arrays, and with them those in Pack, Perm and CCS format, take any address at all.
+ * - There is no planning, no hidden state, no thread and no lock. Nothing is allocated: what is no
+ *   row and no column passes through the stack, of which a call takes up to 64 KiB. Any number of
+ *   threads may call at once: a batch may be split into calls with smaller counts in any way, and
+ *   its bits stay the same.
  * - A failure is only returned as a status, and then dst is not written. With more than one reason,
  *   the status is the first of
  *       haldStatusSizeError      length, or order, is none that the single functions have
@@ -124,7 +125,7 @@ int32_t haldbDFTInv_CToC_64fc(const Cplx64* src, ptrdiff_t srcStep, ptrdiff_t sr
  * @param src      of the first transform: the first of N floats of the type; only read.
  * @param srcStep  from an element of a transform to its next, in elements of src.
  * @param srcDist  from an element of a transform to that of the next transform, likewise.
- * @param dst      of the first transform: the first of N/2 + 1 bins, rounded down: complex numbers.
+ * @param dst      of the first transform: the first of N/2 + 1 bins, rounded down.
  * @param dstStep  as srcStep, in elements of dst.
  * @param dstDist  as srcDist, likewise.
  * @param length   N: 2..64.
@@ -218,7 +219,7 @@ int32_t haldbDFTFwd_RToPerm_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t 
  * The term of R(N/2) is there for even N only. Whatever the numbers, they are taken as half of a
  * conjugate-symmetric spectrum.
  *
- * @param src      of the first transform: the first of N/2 + 1 bins, rounded down: complex numbers; only read.
+ * @param src      of the first transform: the first of N/2 + 1 bins, rounded down; only read.
  * @param srcStep  from an element of a transform to its next, in elements of src.
  * @param srcDist  from an element of a transform to that of the next transform, likewise.
  * @param dst      of the first transform: the first of N floats of the type.
@@ -349,6 +350,8 @@ int32_t haldbHartley_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t srcDist
  * @name Walsh-Hadamard transform, batch
  *
  *     Y[k] = s * sum over n of (-1)^popcount(k & n) * x[n],   k, n = 0..N-1,   N = 2^order
+ *
+ * There is no work area: orders from 8 on are two passes, between which values rest in dst.
  *
  * @param src      of the first transform: the first of N floats of the type; only read.
  * @param srcStep  from an element of a transform to its next, in elements of src.

@@ -48,6 +48,7 @@ class Printer {
     return std::any_of(program_.code.begin(), program_.code.end(),
                        [](const Instruction& in) { return in.op == Op::scale; });
   }
+  bool blocks() const { return program_.memory == Memory::blocks; }
   bool f32() const { return program_.type == FloatType::f32; }
 
   /// Comments that say which stage an instruction belongs to: that of the comment behind it, else
@@ -98,7 +99,8 @@ class Printer {
   }
 
   void define_scales() {
-    line("const V s0 = lanes::broadcast(scale);");
+    line(blocks() ? "const V s0 = lanes::splat<V>(scale);"
+                  : "const V s0 = lanes::broadcast(scale);");
     for (int mask = 1; mask < 4; ++mask) {
       for (const Instruction& in : program_.code) {
         if (in.op != Op::scale || scale_mask(in) != mask) continue;
@@ -106,8 +108,8 @@ class Printer {
         for (int l = 0; l < program_.lanes; ++l) {
           signs.constant[static_cast<std::size_t>(l)] = (mask >> (l % 2)) & 1 ? -0.0 : 0.0;
         }
-        line("const V s" + std::to_string(mask) + " = lanes::change_sign(s0, " + constants(signs) +
-             ");");
+        line("const V s" + std::to_string(mask) + " = lanes::change_sign" +
+             (blocks() ? "_of_blocks" : "") + "(s0, " + constants(signs) + ");");
         break;
       }
     }
@@ -171,12 +173,12 @@ class Printer {
 
   std::string constants(const Instruction& in) const {
     if (scalar()) return constant(in.constant[0], in.wide ? FloatType::f64 : program_.type);
-    std::string text = "V{";
+    std::string text = blocks() ? "lanes::repeated<V>(" : "V{";
     for (int l = 0; l < program_.lanes; ++l) {
       text +=
           (l > 0 ? ", " : "") + constant(in.constant[static_cast<std::size_t>(l)], program_.type);
     }
-    return text + "}";
+    return text + (blocks() ? ")" : "}");
   }
 
   std::string slot(const Instruction& in) const {
@@ -222,6 +224,53 @@ class Printer {
     }
   }
 
+  /// Whether the instruction is one that programs in blocks say in other words.
+  bool print_in_blocks(int index) {
+    const Instruction& in = program_.code[static_cast<std::size_t>(index)];
+    const std::string a = name(in.a);
+    const std::string first = std::to_string(in.address[0]);
+    const std::string both = first + ", " + std::to_string(in.address[1]);
+    switch (in.op) {
+      case Op::load:
+        define(index, "io.load(" + first + ")");
+        return true;
+      case Op::load_pair:
+        define(index, "io.load_pair(" + both + ")");
+        return true;
+      case Op::load_single:
+        define(index, "io.load_single(" + first + ")");
+        return true;
+      case Op::store:
+        line("io.store(" + first + ", " + a + ");");
+        return true;
+      case Op::store_pair:
+        line("io.store_pair(" + both + ", " + a + ");");
+        return true;
+      case Op::store_single:
+        line("io.template store_half<0>(" + first + ", " + a + ");");
+        return true;
+      case Op::store_upper:
+        line("io.template store_half<1>(" + first + ", " + a + ");");
+        return true;
+      case Op::alternate:
+        define(index, "lanes::alternate_in_blocks(" + a + ", " + name(in.b) + ")");
+        return true;
+      case Op::sign:
+        define(index, "lanes::change_sign_of_blocks(" + a + ", " + constants(in) + ")");
+        return true;
+      case Op::exchange:
+        define(index, "lanes::exchange_in_blocks(" + a + ")");
+        return true;
+      case Op::gather:
+        define(index, "lanes::gather_in_blocks<" + std::to_string(in.half[0]) + ", " +
+                          std::to_string(in.half[1]) + ", " + std::to_string(in.cross[0]) + ", " +
+                          std::to_string(in.cross[1]) + ">(" + a + ", " + name(in.b) + ")");
+        return true;
+      default:
+        return false;
+    }
+  }
+
   void print(int index) {
     const Instruction& in = program_.code[static_cast<std::size_t>(index)];
     const std::string a = name(in.a);
@@ -234,6 +283,7 @@ class Printer {
       }
     }
     if (program_.lanewise && print_lanewise(index)) return;
+    if (blocks() && print_in_blocks(index)) return;
     if (program_.memory == Memory::slots) {
       if (in.op == Op::load) return define(index, "io.template load" + slot(in) + "()");
       if (in.op == Op::store) return line("io.template store" + slot(in) + "(" + a + ");");

@@ -12,21 +12,22 @@
 
 namespace haldgen::lanes {
 
-/// Vectors of so many bytes, in registers and at any address.
+/// Vectors of so many bytes, in registers, at any address, and their bits.
 template <class Float, int kBytes>
 struct WideTypes;
-#define HALDGEN_WIDE_TYPES(Float, bytes)                                                 \
+#define HALDGEN_WIDE_TYPES(Float, Integer, bytes)                                        \
   template <>                                                                            \
   struct WideTypes<Float, bytes> {                                                       \
+    using Bits [[gnu::vector_size(bytes)]] = Integer;                                    \
     using Register [[gnu::vector_size(bytes), gnu::may_alias]] = Float;                  \
     using Anywhere [[gnu::vector_size(bytes), gnu::may_alias, gnu::aligned(1)]] = Float; \
   };
-HALDGEN_WIDE_TYPES(float, 16)
-HALDGEN_WIDE_TYPES(float, 32)
-HALDGEN_WIDE_TYPES(float, 64)
-HALDGEN_WIDE_TYPES(double, 16)
-HALDGEN_WIDE_TYPES(double, 32)
-HALDGEN_WIDE_TYPES(double, 64)
+HALDGEN_WIDE_TYPES(float, int, 16)
+HALDGEN_WIDE_TYPES(float, int, 32)
+HALDGEN_WIDE_TYPES(float, int, 64)
+HALDGEN_WIDE_TYPES(double, long long, 16)
+HALDGEN_WIDE_TYPES(double, long long, 32)
+HALDGEN_WIDE_TYPES(double, long long, 64)
 #undef HALDGEN_WIDE_TYPES
 
 template <class Float, int kBytes>
@@ -41,6 +42,7 @@ struct WideTraits {
   static constexpr int kBlocks = kBytes / 16;
   static constexpr int kBlockLanes = kLanes / kBlocks;
   using Anywhere = typename WideTypes<Float, kBytes>::Anywhere;
+  using Bits = typename WideTypes<Float, kBytes>::Bits;
   using Block = WideVector<Float, 16>;
 };
 template <class V>
@@ -143,6 +145,9 @@ float > HALDGEN_INLINE void transpose_blocks(F (&rows)[4]) {
 
 }  // namespace haldgen::lanes
 
+#if defined(__x86_64__) || defined(__i386__)
+#include "lanes/alternate_x86.h"
+#endif
 #if (defined(__x86_64__) || defined(__i386__)) && !defined(__clang__)
 #include "lanes/wide_x86.h"
 #else
@@ -186,7 +191,16 @@ HALDGEN_INLINE void store_blocks(V v, const Place& place) {
   }
 }
 
-/// A vector of 32-bit floats in 64 bits.
+/// Bytes of the machine's vectors.
+#if defined(__AVX512F__)
+inline constexpr int kMostBytes = 64;
+#elif defined(__AVX__)
+inline constexpr int kMostBytes = 32;
+#else
+inline constexpr int kMostBytes = 16;
+#endif
+
+/// A vector of 32-bit floats in 64 bits: one vector, if the machine has any that long, else two.
 template <class V>
 struct Widened {
   using D = WideVector<double, WideTraits<V>::kBytes>;
@@ -213,12 +227,120 @@ HALDGEN_INLINE Widened<V> operator-(double a, const Widened<V>& b) {
   return {{a - b.half[0], a - b.half[1]}};
 }
 template <class V>
-HALDGEN_INLINE Widened<V> widen(V v) {
-  return {{widened_half<0>(v), widened_half<1>(v)}};
+HALDGEN_INLINE auto widen(V v) {
+  if constexpr (2 * sizeof(V) <= kMostBytes) {
+    return widened(v);
+  } else {
+    return Widened<V>{{widened_half<0>(v), widened_half<1>(v)}};
+  }
 }
 template <class V>
 HALDGEN_INLINE V narrow(const Widened<V>& v) {
   return narrowed(v.half[0], v.half[1]);
+}
+template <class D>
+requires(sizeof(D{}[0]) == sizeof(double)) HALDGEN_INLINE auto narrow(D v) { return narrowed(v); }
+
+// The vocabulary of vectors.h in each block.
+
+template <class V, std::size_t... i>
+HALDGEN_INLINE V
+repeated(const FloatOf<V> (&block)[sizeof(V) / WideTraits<V>::kBlocks / sizeof(FloatOf<V>)],
+         std::index_sequence<i...> /*lanes*/) {
+  return V{block[i % WideTraits<V>::kBlockLanes]...};
+}
+/// The lanes of a block in all blocks.
+template <class V, class... Floats>
+HALDGEN_INLINE V repeated(Floats... lanes) {
+  return repeated<V>({lanes...}, std::make_index_sequence<WideTraits<V>::kLanes>());
+}
+
+template <class V>
+HALDGEN_INLINE V change_sign_of_blocks(V a, V signs) {
+  using Bits = typename WideTraits<V>::Bits;
+  return reinterpret_cast<V>(reinterpret_cast<Bits>(a) ^ reinterpret_cast<Bits>(signs));
+}
+
+struct Exchanged {
+  static constexpr int of(int i) { return i ^ 1; }
+};
+template <class V>
+HALDGEN_INLINE V exchange_in_blocks(V a) {
+  return shuffled<Exchanged>(a, a);
+}
+
+template <int kLanes, int kHalfA, int kHalfB, int kCrossA, int kCrossB>
+struct Gathered {
+  static constexpr int of(int i) {
+    const int first = i / 4 * 4;
+    return i % 4 < 2 ? first + 2 * kHalfA + (i % 2 ^ kCrossA)
+                     : kLanes + first + 2 * kHalfB + (i % 2 ^ kCrossB);
+  }
+};
+template <int kHalfA, int kHalfB, int kCrossA, int kCrossB, class V>
+HALDGEN_INLINE V gather_in_blocks(V a, V b) {
+  return shuffled<Gathered<WideTraits<V>::kLanes, kHalfA, kHalfB, kCrossA, kCrossB>>(a, b);
+}
+
+/// Two halves of 32-bit blocks, each from a place of its own.
+template <class V, class Lower, class Upper>
+HALDGEN_INLINE V load_half_blocks(const Lower& lower, const Upper& upper) {
+  const auto block = [&](int j) {
+    double a, b;
+    __builtin_memcpy(&a, lower(j), sizeof a);
+    __builtin_memcpy(&b, upper(j), sizeof b);
+    return reinterpret_cast<WideVector<float, 16>>(WideVector<double, 16>{a, b});
+  };
+  if constexpr (WideTraits<V>::kBlocks == 1) {
+    return block(0);
+  } else if constexpr (WideTraits<V>::kBlocks == 2) {
+    return joined_blocks(block(0), block(1));
+  } else {
+    return joined_blocks(block(0), block(1), block(2), block(3));
+  }
+}
+template <class V, class Lower>
+HALDGEN_INLINE V load_lower_half_blocks(const Lower& lower) {
+  const auto block = [&](int j) {
+    double a;
+    __builtin_memcpy(&a, lower(j), sizeof a);
+    return reinterpret_cast<WideVector<float, 16>>(WideVector<double, 16>{a, 0});
+  };
+  if constexpr (WideTraits<V>::kBlocks == 1) {
+    return block(0);
+  } else if constexpr (WideTraits<V>::kBlocks == 2) {
+    return joined_blocks(block(0), block(1));
+  } else {
+    return joined_blocks(block(0), block(1), block(2), block(3));
+  }
+}
+template <int kHalf, class Block>
+HALDGEN_INLINE void store_half_block(float* to, Block block) {
+  const double half = reinterpret_cast<WideVector<double, 16>>(block)[kHalf];
+  __builtin_memcpy(to, &half, sizeof half);
+}
+template <int kHalf, class V, class Place>
+HALDGEN_INLINE void store_half_blocks(V v, const Place& place) {
+  store_half_block<kHalf>(place(0), block_of<0>(v));
+  if constexpr (WideTraits<V>::kBlocks > 1) store_half_block<kHalf>(place(1), block_of<1>(v));
+  if constexpr (WideTraits<V>::kBlocks > 2) {
+    store_half_block<kHalf>(place(2), block_of<2>(v));
+    store_half_block<kHalf>(place(3), block_of<3>(v));
+  }
+}
+
+/// a - b in even lanes, a + b in odd ones.
+template <class V>
+HALDGEN_INLINE V alternate_in_blocks(V a, V b) {
+#if defined(__x86_64__) || defined(__i386__)
+  if constexpr (has_alternate<V>) return alternate_x86(a, b);
+#endif
+  using Float = FloatOf<V>;
+  if constexpr (WideTraits<V>::kBlockLanes == 4) {
+    return a + change_sign_of_blocks(b, repeated<V>(-Float{0}, Float{0}, -Float{0}, Float{0}));
+  } else {
+    return a + change_sign_of_blocks(b, repeated<V>(-Float{0}, Float{0}));
+  }
 }
 
 }  // namespace haldgen::lanes

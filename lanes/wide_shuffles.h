@@ -32,15 +32,25 @@ HALDGEN_INLINE auto widened_half(V v) {
   return widened_half<kHalf>(v, std::make_index_sequence<WideTraits<V>::kLanes / 2>());
 }
 
+template <class V>
+HALDGEN_INLINE auto widened(V v) {
+  using D = WideVector<double, 2 * sizeof(V)>;
+  return __builtin_convertvector(v, D);
+}
+
 inline constexpr int kFloatBytes = sizeof(float);
 template <class D>
-HALDGEN_INLINE auto narrowed(D low, D high) {
+HALDGEN_INLINE auto narrowed(D v) {
   constexpr int kLanes = static_cast<int>(sizeof(D) / sizeof(double));
   using Half [[gnu::vector_size(kLanes * kFloatBytes)]] = float;
-  const Half a = __builtin_convertvector(low, Half);
-  const Half b = __builtin_convertvector(high, Half);
+  return __builtin_convertvector(v, Half);
+}
+template <class D>
+HALDGEN_INLINE auto narrowed(D low, D high) {
+  constexpr std::size_t kLanes = 2 * sizeof(D) / sizeof(double);
   using Result = WideVector<float, sizeof(D)>;
-  return static_cast<Result>(concatenated(a, b, std::make_index_sequence<2 * kLanes>()));
+  return static_cast<Result>(
+      concatenated(narrowed(low), narrowed(high), std::make_index_sequence<kLanes>()));
 }
 
 }  // namespace haldgen::lanes

@@ -34,14 +34,20 @@ HALDGEN_INLINE WideVector<double, 32> joined_blocks(WideVector<double, 16> a,
                                                     WideVector<double, 16> b) {
   return __builtin_ia32_vinsertf128_pd256(__builtin_ia32_pd256_pd(a), b, 1);
 }
+HALDGEN_INLINE WideVector<double, 32> widened(WideVector<float, 16> v) {
+  return __builtin_ia32_cvtps2pd256(v);
+}
+HALDGEN_INLINE WideVector<float, 16> narrowed(WideVector<double, 32> v) {
+  return __builtin_ia32_cvtpd2ps256(v);
+}
 template <int kHalf>
 HALDGEN_INLINE WideVector<double, 32> widened_half(WideVector<float, 32> v) {
   constexpr int k = 4 * kHalf;
-  return __builtin_ia32_cvtps2pd256(__builtin_shufflevector(v, v, k, k + 1, k + 2, k + 3));
+  return widened(__builtin_shufflevector(v, v, k, k + 1, k + 2, k + 3));
 }
 HALDGEN_INLINE WideVector<float, 32> narrowed(WideVector<double, 32> low,
                                               WideVector<double, 32> high) {
-  return joined_blocks(__builtin_ia32_cvtpd2ps256(low), __builtin_ia32_cvtpd2ps256(high));
+  return joined_blocks(narrowed(low), narrowed(high));
 }
 #endif
 
@@ -64,19 +70,20 @@ HALDGEN_INLINE WideVector<double, 64> joined_blocks(WideVector<double, 16> a,
   return __builtin_ia32_insertf64x4_mask(low, joined_blocks(c, d), 1, low, -1);
 }
 inline constexpr int kCurrentRounding = 4;
+HALDGEN_INLINE WideVector<double, 64> widened(WideVector<float, 32> v) {
+  return __builtin_ia32_cvtps2pd512_mask(v, WideVector<double, 64>{}, -1, kCurrentRounding);
+}
+HALDGEN_INLINE WideVector<float, 32> narrowed(WideVector<double, 64> v) {
+  return __builtin_ia32_cvtpd2ps512_mask(v, WideVector<float, 32>{}, -1, kCurrentRounding);
+}
 template <int kHalf>
 HALDGEN_INLINE WideVector<double, 64> widened_half(WideVector<float, 64> v) {
   constexpr int k = 8 * kHalf;
-  return __builtin_ia32_cvtps2pd512_mask(
-      __builtin_shufflevector(v, v, k, k + 1, k + 2, k + 3, k + 4, k + 5, k + 6, k + 7),
-      WideVector<double, 64>{}, -1, kCurrentRounding);
+  return widened(__builtin_shufflevector(v, v, k, k + 1, k + 2, k + 3, k + 4, k + 5, k + 6, k + 7));
 }
 HALDGEN_INLINE WideVector<float, 64> narrowed(WideVector<double, 64> low,
                                               WideVector<double, 64> high) {
-  const auto half = [](WideVector<double, 64> d) {
-    return __builtin_ia32_cvtpd2ps512_mask(d, WideVector<float, 32>{}, -1, kCurrentRounding);
-  };
-  return joined_halves(half(low), half(high));
+  return joined_halves(narrowed(low), narrowed(high));
 }
 #endif
 
