@@ -62,9 +62,16 @@ void run_real(const RealRun<typename Body::Float>& run) {
   }
 }
 
+/// Long programs in 64 bits have no kernel in the shortest vectors: of two lanes each, it would be
+/// twice the code of the single function for little gain.
 template <class Body, Width kWidth, bool kInMemory, Side kSrc, Side kDst>
-inline constexpr RealKernel<typename Body::Float> kRealKernel{
-    run_real<Body, kWidth, kInMemory, kSrc, kDst>, kWidth, kInMemory};
+constexpr RealKernel<typename Body::Float> real_kernel() {
+  if constexpr (kWidth == Width::half && !kInMemory && kVectorBytes == 16) {
+    return {nullptr, kWidth, kInMemory};
+  } else {
+    return {run_real<Body, kWidth, kInMemory, kSrc, kDst>, kWidth, kInMemory};
+  }
+}
 
 template <class Float>
 struct TileIo {

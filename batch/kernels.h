@@ -38,7 +38,7 @@ struct RealRun {
 };
 template <class Float>
 struct RealKernel {
-  void (*run)(const RealRun<Float>& run);
+  void (*run)(const RealRun<Float>& run);  ///< null: only the single function does it
   Width width;
   bool in_memory;  ///< takes values at any steps; else tiles only
 };

@@ -161,6 +161,12 @@ void run_complex(const ComplexTransform<Float>& transform, const Call<Float>& ca
 template <class Float>
 void run_real(const RealTransform<Float>& transform, const Call<Float>& call, Format src,
               Format dst) {
+  if (transform.kernel->run == nullptr) {
+    for (std::ptrdiff_t t = 0; t < call.count; ++t) {
+      run_single(transform, call.src.from(t), call.dst.from(t), call.flag);
+    }
+    return;
+  }
   if (transform.kernel->width == Width::half) {
     return run_real_in<Float, Width::half>(transform, call, src, dst);
   }

@@ -44,7 +44,8 @@ Kernel body_kernel(const LaneBody& body, const kernelgen::Program& program, cons
   kernel.remark = ordered_by(choice, program.lanes > 1);
   kernel.members = "  using Float = " + kernelgen::type_name(program.type) + ";\n";
   if (!is_complex(body.element)) {
-    kernel.members += "  static constexpr int kLength = " + std::to_string(body.length) + ";\n";
+    kernel.members +=
+        "  [[maybe_unused]] static constexpr int kLength = " + std::to_string(body.length) + ";\n";
   }
   kernel.members += emit_constants(constants, "  static ");
   kernel.function =
@@ -102,9 +103,9 @@ std::string real_batch(const std::string& family, int size, names::Element eleme
                        const kernelgen::Program& lanes, const std::string& sides) {
   const std::string symbol = "const RealKernel<" + kernelgen::type_name(type_of(element)) + "> " +
                              batch_symbol(family, element, size);
-  return "extern " + symbol + ";\n" + symbol + " = kRealKernel<Body, " +
+  return "extern " + symbol + ";\n" + symbol + " = real_kernel<Body, " +
          (is_mostly_wide(lanes) ? "Width::half" : "Width::whole") + ", " +
-         (is_light(lanes, size) ? "true" : "false") + ", " + sides + ">;\n";
+         (is_light(lanes, size) ? "true" : "false") + ", " + sides + ">();\n";
 }
 
 std::string complex_batch(const std::string& family, int size, names::Element element,

@@ -169,17 +169,6 @@ HALDGEN_INLINE V load_blocks(const Place& place) {
     return joined_blocks(block(0), block(1), block(2), block(3));
   }
 }
-template <int kBlock, class V>
-HALDGEN_INLINE auto block_of(V v) {
-  if constexpr (WideTraits<V>::kBlocks == 1) {
-    return v;
-  } else if constexpr (WideTraits<V>::kBlockLanes == 4) {
-    constexpr int k = 4 * kBlock;
-    return __builtin_shufflevector(v, v, k, k + 1, k + 2, k + 3);
-  } else {
-    return __builtin_shufflevector(v, v, 2 * kBlock, 2 * kBlock + 1);
-  }
-}
 template <class V, class Place>
 HALDGEN_INLINE void store_blocks(V v, const Place& place) {
   using Block = typename WideTraits<V>::Block;

@@ -20,6 +20,17 @@ HALDGEN_INLINE auto joined_blocks(V a, V b, V c, V d) {
   return joined_blocks(joined_blocks(a, b), joined_blocks(c, d));
 }
 
+template <int kBlock, class V>
+HALDGEN_INLINE auto block_of(V v) {
+  if constexpr (WideTraits<V>::kBlocks == 1) {
+    return v;
+  } else if constexpr (WideTraits<V>::kBlockLanes == 4) {
+    constexpr int k = 4 * kBlock;
+    return __builtin_shufflevector(v, v, k, k + 1, k + 2, k + 3);
+  } else {
+    return __builtin_shufflevector(v, v, 2 * kBlock, 2 * kBlock + 1);
+  }
+}
 template <int kHalf, class V, std::size_t... i>
 HALDGEN_INLINE auto widened_half(V v, std::index_sequence<i...> /*lanes*/) {
   using D = WideVector<double, sizeof(V)>;

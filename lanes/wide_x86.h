@@ -25,7 +25,24 @@ HALDGEN_INLINE WideVector<float, 16> narrowed(WideVector<double, 16> low,
   return __builtin_shufflevector(a, b, 0, 1, 4, 5);
 }
 
+template <int kBlock>
+HALDGEN_INLINE WideVector<float, 16> block_of(WideVector<float, 16> v) {
+  return v;
+}
+template <int kBlock>
+HALDGEN_INLINE WideVector<double, 16> block_of(WideVector<double, 16> v) {
+  return v;
+}
+
 #ifdef __AVX__
+template <int kBlock>
+HALDGEN_INLINE WideVector<float, 16> block_of(WideVector<float, 32> v) {
+  return __builtin_ia32_vextractf128_ps256(v, kBlock);
+}
+template <int kBlock>
+HALDGEN_INLINE WideVector<double, 16> block_of(WideVector<double, 32> v) {
+  return __builtin_ia32_vextractf128_pd256(v, kBlock);
+}
 HALDGEN_INLINE WideVector<float, 32> joined_blocks(WideVector<float, 16> a,
                                                    WideVector<float, 16> b) {
   return __builtin_ia32_vinsertf128_ps256(__builtin_ia32_ps256_ps(a), b, 1);
@@ -52,6 +69,14 @@ HALDGEN_INLINE WideVector<float, 32> narrowed(WideVector<double, 32> low,
 #endif
 
 #ifdef __AVX512DQ__
+template <int kBlock>
+HALDGEN_INLINE WideVector<float, 16> block_of(WideVector<float, 64> v) {
+  return __builtin_ia32_extractf32x4_mask(v, kBlock, WideVector<float, 16>{}, -1);
+}
+template <int kBlock>
+HALDGEN_INLINE WideVector<double, 16> block_of(WideVector<double, 64> v) {
+  return __builtin_ia32_extractf64x2_512_mask(v, kBlock, WideVector<double, 16>{}, -1);
+}
 HALDGEN_INLINE WideVector<float, 64> joined_halves(WideVector<float, 32> a,
                                                    WideVector<float, 32> b) {
   const WideVector<float, 64> low = __builtin_ia32_ps512_256ps(a);
