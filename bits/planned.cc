@@ -162,11 +162,11 @@ Finding take_service(const Find& find, const LinkedFunction& service) {
                                          : take_service<double>(find, service);
 }
 
-void take_planned(const Find& find, const LinkedFunction& f, Findings& findings) {
+void take_planned(const Find& find, const LinkedFunction& transform, Findings& findings) {
   for (std::int32_t length = 2; length <= longest; length *= 2) {
-    findings[std::string(f.name) + "/" + std::to_string(length)] =
-        f.element == Element::f32 ? take_transform<float>(find, f.element, length)
-                                  : take_transform<double>(find, f.element, length);
+    findings[std::string(transform.name) + "/" + std::to_string(length)] =
+        transform.element == Element::f32 ? take_transform<float>(find, transform.element, length)
+                                          : take_transform<double>(find, transform.element, length);
   }
 }
 

@@ -69,20 +69,20 @@ void set_up(Choices& choices, std::vector<Held>& held) {
   Dct4State* state = untouched;
   const std::int32_t status = planned.init_alloc(&state, length);
   if (!planned.has(length)) {
-    expect(status == haldStatusSizeError && state == untouched, name + ": set up");
-    expect(allocator.taken.size() == taken, name + " keeps memory");
+    expect(status == haldStatusSizeError && state == untouched, name, ": set up");
+    expect(allocator.taken.size() == taken, name, " keeps memory");
   } else if (fails) {
-    expect(status == haldStatusNullPointer && state == untouched, name + " without memory");
-    expect(allocator.taken.size() == taken, name + " keeps memory");
+    expect(status == haldStatusNullPointer && state == untouched, name, " without memory");
+    expect(allocator.taken.size() == taken, name, " keeps memory");
   } else {
     std::int32_t size = 0;
     planned.get_size(length, &size);
-    expect(status == haldStatusOk && state != untouched, name + ": not set up");
-    expect(allocator.last_size == size, name + " takes another size");
-    expect(allocator.taken.size() == taken + 1, name + " takes no block");
+    expect(status == haldStatusOk && state != untouched, name, ": not set up");
+    expect(allocator.last_size == size, name, " takes another size");
+    expect(allocator.taken.size() == taken + 1, name, " takes no block");
     const auto points = static_cast<std::size_t>(length);
     std::vector<double> x(points), y(points);
-    expect(planned.call(x.data(), y.data(), state) == haldStatusOk, name + " refuses arrays");
+    expect(planned.call(x.data(), y.data(), state) == haldStatusOk, name, " refuses arrays");
     held.push_back({&planned, state});
   }
 }
@@ -127,21 +127,21 @@ void transform(Choices& choices) {
   const auto call = [&] { status = function.call(src.data(), dst.data(), size, flag, nullptr); };
   if (fails) {
     // There is no status for it: the first store faults.
-    expect(test::faults(call), name + " goes on without memory");
+    expect(test::faults(call), name, " goes on without memory");
     dst.expect_unwritten(name);
   } else {
     call();
-    expect(status == (valid(flag) ? haldStatusOk : haldStatusFlagError), name + ": status");
+    expect(status == (valid(flag) ? haldStatusOk : haldStatusFlagError), name, ": status");
     if (valid(flag)) {
       dst.expect_untouched(name);
     } else {
       dst.expect_unwritten(name);
     }
   }
-  expect(allocator.calls == calls + (takes ? 1 : 0), name + ": number of allocations");
-  expect(allocator.taken.size() == taken, name + " keeps memory");
+  expect(allocator.calls == calls + (takes ? 1 : 0), name, ": number of allocations");
+  expect(allocator.taken.size() == taken, name, " keeps memory");
   src.expect_untouched(name);
-  expect(std::memcmp(before.data(), src.data(), bytes) == 0, name + " wrote its source");
+  expect(std::memcmp(before.data(), src.data(), bytes) == 0, name, " wrote its source");
 }
 
 void run(Choices choices) {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <map>
 #include <tuple>
 
@@ -13,8 +13,8 @@ namespace haldgen::fuzz {
 
 using names::Element;
 
-void fail(const std::string& what) {
-  std::fprintf(stderr, "found: %s\n", what.c_str());
+void fail(std::string_view name, std::string_view what) {
+  std::cerr << "found: " << name << what << '\n';
   std::abort();
 }
 
@@ -41,7 +41,7 @@ Place::Place(std::size_t kind, std::size_t bytes, Choices& choices, std::size_t 
   const std::size_t distance = choices.below(kSlack) / step * step;
   const test::Placement placement{choices.chance(2), distance};
   data_ = around_.data() + placement.offset(bytes, size);
-  std::ranges::fill(around_, kKnown);
+  std::memset(around_.data(), static_cast<int>(kKnown), around_.size());
 }
 
 namespace {
@@ -52,19 +52,19 @@ bool known(std::span<const std::byte> bytes) {
 }
 }  // namespace
 
-void Place::expect_untouched(const std::string& what) const {
+void Place::expect_untouched(std::string_view name) const {
   const auto before = static_cast<std::size_t>(data_ - around_.data());
-  expect(known(around_.first(before)) && known(around_.subspan(before + bytes_)),
-         what + " wrote beside an array");
+  expect(known(around_.first(before)) && known(around_.subspan(before + bytes_)), name,
+         " wrote beside an array");
 }
 
-void Place::expect_unwritten(const std::string& what) const {
-  expect(known(around_), what + " wrote although it failed");
+void Place::expect_unwritten(std::string_view name) const {
+  expect(known(around_), name, " wrote although it failed");
 }
 
 void fill(std::span<std::byte> array, Bytes pattern) {
   if (pattern.empty()) {
-    std::ranges::fill(array, std::byte{0});
+    std::memset(array.data(), 0, array.size());
     return;
   }
   for (std::size_t done = 0; done < array.size(); done += pattern.size()) {
@@ -92,7 +92,7 @@ std::vector<Function> all_functions() {
     const bool real = e.element == Element::f32 || e.element == Element::f64;
     all.push_back({&e, narrow ? sizeof(float) : sizeof(double), narrow, is_general(*e.word), real});
     addresses.push_back(bits::linked()(e.name));
-    expect(addresses.back() != nullptr, "no " + e.name);
+    expect(addresses.back() != nullptr, e.name, " is missing");
   }
   return all;
 }

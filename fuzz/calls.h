@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 #include <span>
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "bits/calls.h"
@@ -18,9 +18,9 @@ namespace haldgen::fuzz {
 using Bytes = std::span<const std::uint8_t>;
 
 /// Says what is wrong and ends the program, for the fuzzer to keep the input.
-[[noreturn]] void fail(const std::string& what);
-inline void expect(bool good, const std::string& what) {
-  if (!good) fail(what);
+[[noreturn]] void fail(std::string_view name, std::string_view what);
+inline void expect(bool good, std::string_view name, std::string_view what = {}) {
+  if (!good) fail(name, what);
 }
 
 /// Reads an input from its start. Where it is at its end it gives zeros.
@@ -56,9 +56,9 @@ class Place {
   Place(std::size_t kind, std::size_t bytes, Choices& choices, std::size_t step);
   std::byte* data() const { return data_; }
   /// Fails if a byte besides those of the array was written.
-  void expect_untouched(const std::string& what) const;
+  void expect_untouched(std::string_view name) const;
   /// Fails if any byte was written since fill().
-  void expect_unwritten(const std::string& what) const;
+  void expect_unwritten(std::string_view name) const;
   static constexpr std::byte kKnown{0xA5};
 
  private:

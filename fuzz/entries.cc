@@ -51,7 +51,7 @@ void run(Choices choices) {
   const std::string& name = function.entry->name;
 
   if (expected != haldStatusOk) {
-    expect(call() == expected, name + " answers with another status");
+    expect(call() == expected, name, " answers with another status");
     src_place.expect_unwritten(name);
     dst_place.expect_unwritten(name);
     work.expect_unwritten(name);
@@ -67,19 +67,19 @@ void run(Choices choices) {
   expect(fixed(function, size)
                  .call(from, to, size, flag,
                        reinterpret_cast<std::uint8_t*>(aligned + 2 * kThird)) == haldStatusOk,
-         name + " refuses aligned arrays");
-  expect(call() == haldStatusOk, name + " refuses valid arguments");
+         name, " refuses aligned arrays");
+  expect(call() == haldStatusOk, name, " refuses valid arguments");
   const bool equal = function.narrow ? same<float>(dst, to, arrays.dst_floats)
                                      : same<double>(dst, to, arrays.dst_floats);
-  expect(equal, name + " has other bits there");
+  expect(equal, name, " has other bits there");
   src_place.expect_untouched(name);
   dst_place.expect_untouched(name);
   work.expect_untouched(name);
   // In place, what is longer than the result keeps its end.
   const std::size_t written = in_place ? dst_bytes : 0;
   if (written < src_bytes) {
-    expect(std::memcmp(src + written, from + written, src_bytes - written) == 0,
-           name + " wrote its source");
+    expect(std::memcmp(src + written, from + written, src_bytes - written) == 0, name,
+           " wrote its source");
   }
   if (in_place) dst_place.expect_unwritten(name);
 }

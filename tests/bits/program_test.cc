@@ -135,7 +135,7 @@ std::string published() {
 
 /// A file with this text.
 std::string file_of(const std::string& name, const std::string& text) {
-  const std::string path = testing::TempDir() + name;
+  std::string path = testing::TempDir() + name;
   std::ofstream(path) << text;
   return path;
 }

@@ -22,7 +22,9 @@ for place in one another/place; do
     -name '*.inc' -print | tar cf - -T -) | tar xf - -C "$folder/source"
   sed -E 's/.* -c //' "$scratch/commands" | grep "^$binary/" | sed "s|^$binary/||" |
     (cd "$binary" && tar cf - -T - frame/generated) | tar xf - -C "$folder/binary"
-  sed "s|$binary|$folder/binary|g; s|$source|$folder/source|g" "$scratch/commands" |
+  # The folders of the build first, since the new ones may lie in them.
+  sed "s|$binary|@binary@|g; s|$source|@source@|g; s|@binary@|$folder/binary|g; s|@source@|$folder/source|g" \
+    "$scratch/commands" |
     while read -r command; do
       object=$(printf '%s\n' "$command" | sed -E 's/.* -o ([^ ]+) .*/\1/')
       mkdir -p "$folder/binary/$(dirname "$object")"
