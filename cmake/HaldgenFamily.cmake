@@ -45,11 +45,14 @@ endfunction()
 
 # Sources that haldgen-generate writes, one for each kernel and element type so that a build
 # parallelises, in <binary dir>/generated. A kernel that is missing fails the link of the library.
-#   haldgen_generated_sources(VARIABLE FAMILY KERNELS kernel... TYPES type...)
+#   haldgen_generated_sources(VARIABLE FAMILY KERNELS kernel... TYPES type... [COMMAND batch])
 set(HALDGEN_TUNING "" CACHE STRING
     "Tuning of all kernels, such as critical:16:0, to measure with; empty for the table")
 function(haldgen_generated_sources variable family)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "KERNELS;TYPES")
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "COMMAND" "KERNELS;TYPES")
+  if(NOT arg_COMMAND)
+    set(arg_COMMAND source)
+  endif()
   set(folder ${CMAKE_CURRENT_BINARY_DIR}/generated)
   file(MAKE_DIRECTORY ${folder})
   set(sources ${${variable}})
@@ -58,7 +61,7 @@ function(haldgen_generated_sources variable family)
       set(source ${folder}/${family}_${kernel}_${type}.cc)
       add_custom_command(
         OUTPUT ${source}
-        COMMAND ${haldgen_generate} source ${family} ${kernel} ${type} ${source} ${HALDGEN_TUNING}
+        COMMAND ${haldgen_generate} ${arg_COMMAND} ${family} ${kernel} ${type} ${source} ${HALDGEN_TUNING}
         DEPENDS ${haldgen_generate}
         VERBATIM)
       list(APPEND sources ${source})

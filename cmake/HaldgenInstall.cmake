@@ -1,10 +1,11 @@
 # Installation: headers, libraries, haldgen-bits with the published sums, CMake package, pkg-config files.
 include(CMakePackageConfigHelpers)
 
-install(TARGETS haldgenp8 haldcore EXPORT haldgenTargets
+install(TARGETS haldgenp8 haldbatch haldcore EXPORT haldgenTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(FILES ${PROJECT_SOURCE_DIR}/include/haldgen.h ${PROJECT_SOURCE_DIR}/haldcore/haldcore.h
+install(FILES ${PROJECT_SOURCE_DIR}/include/haldgen.h ${PROJECT_SOURCE_DIR}/include/haldbatch.h
+  ${PROJECT_SOURCE_DIR}/haldcore/haldcore.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(TARGETS haldgen-bits RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/bits/published.tsv
@@ -34,7 +35,7 @@ if(includedir_is_absolute)
 else()
   set(pc_includedir "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
 endif()
-foreach(package IN ITEMS haldgenp8 haldcore)
+foreach(package IN ITEMS haldgenp8 haldbatch haldcore)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/${package}.pc.in ${PROJECT_BINARY_DIR}/${package}.pc
     @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${package}.pc

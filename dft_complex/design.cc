@@ -5,6 +5,7 @@
 #include "kernelgen/lower.h"
 #include "kernelgen/parts.h"
 #include "kernelgen/precision.h"
+#include "kernelgen/unpack.h"
 
 namespace haldgen::dft_complex {
 namespace {
@@ -25,13 +26,6 @@ Program reversed(Program program, int length) {
   return program;
 }
 
-Program mirrored(Program program) {
-  for (auto& in : program.code) {
-    if (kernelgen::is_load(in.op) || kernelgen::is_store(in.op)) in.address[0] ^= 1;
-  }
-  return program;
-}
-
 Programs scalar_programs(const Design& design, FloatType type) {
   if (design.inverse != Inverse::mirror) {
     throw std::logic_error("a scalar kernel has its mirror as its inverse");
@@ -39,7 +33,7 @@ Programs scalar_programs(const Design& design, FloatType type) {
   Graph parts = kernelgen::gather_statements(kernelgen::split_parts(graph_of(design)));
   if (design.products == Products::wide) kernelgen::widen_products(parts);
   const Program forward = kernelgen::lower_real(parts, {type});
-  return {forward, mirrored(forward)};
+  return {forward, kernelgen::parts_exchanged(forward)};
 }
 
 Programs packed_programs(const Design& design, FloatType type, int seed) {

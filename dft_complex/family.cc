@@ -1,21 +1,25 @@
 // The complex DFT as a family: both directions of a length and type share a source.
 #include "family/family.h"
+#include "family/batch.h"
 
 #include <stdexcept>
 
 #include "dft_complex/recipes.h"
 #include "dft_complex/text.h"
 #include "kernelgen/count.h"
+#include "kernelgen/unpack.h"
 
 namespace haldgen::dft_complex {
 namespace {
 
 using family::FloatType;
 using kernelgen::Divides;
+using kernelgen::Program;
 using names::Element;
 using names::Layout;
 using names::Scaling;
 
+constexpr auto kName = "complex";
 constexpr auto kForward = "DFTFwd_CToC";
 constexpr auto kInverse = "DFTInv_CToC";
 
@@ -64,14 +68,60 @@ family::Source source(int length, FloatType type, const family::Tuning& tuning) 
   return source;
 }
 
+/// The program of one lane.
+Program in_lanes(const Program& program) {
+  return program.lanes == 1 ? program : kernelgen::unpacked(program);
+}
+
+family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
+  const Element element = family::complex_element(type);
+  const family::Choice there = tuning.of(names::export_name(kForward, element, length));
+  const family::Choice back = tuning.of(names::export_name(kInverse, element, length));
+  const family::Choice choice = tuning.of(family::batch_symbol(kName, element, length));
+  const Design& design = design_of(length, type);
+  const Programs programs = programs_of(design, type, there.seed);
+  const Program forward = in_lanes(programs.forward);
+  const Program inverse = in_lanes(programs.inverse);
+  const bool exchanged = same_results(parts_exchanged(forward), inverse);
+  const bool light = family::is_light(forward, length);
+  const bool in_blocks = light && family::is_of_blocks(programs.forward);
+
+  family::LaneBody body{"Forward", length, element};
+  if (design.recipe.method == Method::bluestein) {
+    body.convolution = design.recipe.first.front().length;
+  }
+  family::Source source = family::batch_source(kName, length, element);
+  source.algorithm = algorithm(length, type);
+  source.kernels = {lane_kernel(body, scheduled(forward, choice.ordering), choice)};
+  if (!exchanged) {
+    body.name = "Inverse";
+    source.kernels.push_back(lane_kernel(body, scheduled(inverse, choice.ordering), choice));
+  }
+  if (in_blocks) {
+    body.name = "ForwardBlocks";
+    source.kernels.push_back(
+        block_kernel(body, scheduled(programs.forward, there.ordering), there));
+    body.name = "InverseBlocks";
+    source.kernels.push_back(block_kernel(body, scheduled(programs.inverse, back.ordering), back));
+  }
+  const auto kernels = [&](const std::string& lanes, const std::string& blocks) {
+    if (in_blocks) return "rows_and_columns<" + lanes + ", " + blocks + ">()";
+    return (light ? "tile_and_columns<" : "tile_only<") + lanes + ">()";
+  };
+  source.functions = {family::complex_batch(
+      kName, length, element, kernels("Forward, false", "ForwardBlocks"),
+      kernels(exchanged ? "Forward, true" : "Inverse, false", "InverseBlocks"))};
+  return source;
+}
+
 }  // namespace
 
 family::Family complex(const names::Sizes& lengths) {
-  family::Family result{"complex",
+  family::Family result{kName,
                         "complex DFT, forward and inverse",
                         lengths,
                         {},
-                        family::Generated{algorithm, graph, work, source}};
+                        family::Generated{algorithm, graph, work, source, {}, batch}};
   add_transform(result, kForward, names::kComplex,
                 {Scaling::forward, Layout::complex, Layout::complex}, text("Forward", "-"));
   add_transform(result, kInverse, names::kComplex,

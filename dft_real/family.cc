@@ -1,6 +1,7 @@
 // The real DFT as two families, one for each direction: the kernels of all packed formats share a
 // source.
 #include "family/family.h"
+#include "family/batch.h"
 
 #include "dft_real/recipes.h"
 #include "dft_real/text.h"
@@ -29,6 +30,18 @@ std::string packing_name(Packing packing) {
       return "perm";
   }
   return "";
+}
+
+Layout layout_of(Packing packing) {
+  switch (packing) {
+    case Packing::ccs:
+      return Layout::ccs;
+    case Packing::pack:
+      return Layout::pack;
+    case Packing::perm:
+      return Layout::perm;
+  }
+  return Layout::none;
 }
 
 /// Whether a load and a store meet in any format when the kernel works in place.
@@ -101,11 +114,25 @@ struct Family {
     return source;
   }
 
+  static family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
+    const Element element = family::real_element(type);
+    const family::Choice choice = tuning.of(family::batch_symbol(kName, element, length));
+    family::Source source = family::batch_source(kName, length, element);
+    source.algorithm = algorithm(length, type) + (kForward ? "" : ", transposed");
+    const kernelgen::Program program = scheduled(program_of(design_of(length, kDirection), type),
+                                                 choice.ordering, overlap_of(length, kDirection));
+    source.kernels = {lane_kernel({"Body", length, element}, program, choice)};
+    source.functions = {family::real_batch(
+        kName, length, element, program,
+        kForward ? "Side::plain, Side::half_spectrum" : "Side::half_spectrum, Side::plain")};
+    return source;
+  }
+
   static family::Family make(const names::Sizes& lengths) {
     family::Family result{
-        kName, kTitle, lengths, {}, family::Generated{algorithm, graph, work, source}};
+        kName, kTitle, lengths, {}, family::Generated{algorithm, graph, work, source, {}, batch}};
     for (const Packing packing : kPackings) {
-      const Layout spectrum = packing == Packing::ccs ? Layout::ccs : Layout::real;
+      const Layout spectrum = layout_of(packing);
       const names::Usage usage = kForward ? names::Usage{Scaling::forward, Layout::real, spectrum}
                                           : names::Usage{Scaling::inverse, spectrum, Layout::real};
       add_transform(result, transform_word(kDirection, packing), names::kReal, usage,

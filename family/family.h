@@ -31,6 +31,8 @@ struct Generated {
   /// The source file of all kernels of the size and type.
   Source (*source)(int size, FloatType type, const Tuning& tuning);
   std::vector<std::string> kernels = {};  ///< names, where kernels are no whole transforms
+  /// The source file of the kernels of batches.
+  Source (*batch)(int size, FloatType type, const Tuning& tuning) = nullptr;
 };
 
 /// Transforms that are planned at run time, made of several kernels each.

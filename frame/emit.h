@@ -27,6 +27,15 @@ std::string emit_implementations();
 /// C++ source: the general entries.
 std::string emit_general_entries();
 
+/// The public header of batches, include/haldbatch.h.
+std::string emit_batch_header();
+
+/// Linker version script of the library of batches.
+std::string emit_batch_exports();
+
+/// C++ source: the entries of batches.
+std::string emit_batch_entries();
+
 /// C++ source: the functions that a program is linked with (linked_functions.h).
 std::string emit_linked_functions();
 

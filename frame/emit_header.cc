@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "frame/emit.h"
+#include "frame/text.h"
 #include "registry/registry.h"
 
 namespace haldgen::frame {
@@ -144,30 +145,6 @@ std::string scaling_table(std::string_view fwd, std::string_view inv) {
          "    - haldScaleNone:    s = 1";
 }
 
-std::string scaling_text(Scaling scaling) {
-  switch (scaling) {
-    case Scaling::none:
-      return "";
-    case Scaling::forward:
-      return scaling_table("1/N", "1");
-    case Scaling::inverse:
-      return scaling_table("1", "1/N");
-    case Scaling::directionless:
-      return scaling_table("1/N", "1/N");
-  }
-  throw std::logic_error("unknown scaling");
-}
-
-// Prints the parts of a comment that are not empty.
-void emit_comment(std::ostream& out, std::initializer_list<std::string_view> parts) {
-  for (const std::string_view part : parts) {
-    std::istringstream lines{std::string(part)};
-    for (std::string line; std::getline(lines, line);) {
-      out << (line.empty() ? " *" : " * ") << line << "\n";
-    }
-  }
-}
-
 bool takes_state(const Word& word) {
   return word.signature == Signature::plan_init || word.signature == Signature::plan_init_alloc ||
          word.signature == Signature::plan_free || word.signature == Signature::planned_transform;
@@ -196,6 +173,29 @@ void emit_word(std::ostream& out, const Word& word) {
 }
 
 }  // namespace
+
+std::string scaling_text(Scaling scaling) {
+  switch (scaling) {
+    case Scaling::none:
+      return "";
+    case Scaling::forward:
+      return scaling_table("1/N", "1");
+    case Scaling::inverse:
+      return scaling_table("1", "1/N");
+    case Scaling::directionless:
+      return scaling_table("1/N", "1/N");
+  }
+  throw std::logic_error("unknown scaling");
+}
+
+void emit_comment(std::ostream& out, std::initializer_list<std::string_view> parts) {
+  for (const std::string_view part : parts) {
+    std::istringstream lines{std::string(part)};
+    for (std::string line; std::getline(lines, line);) {
+      out << (line.empty() ? " *" : " * ") << line << "\n";
+    }
+  }
+}
 
 std::string emit_header() {
   std::ostringstream out;

@@ -24,6 +24,9 @@ constexpr Output outputs[] = {
     {"implementations", haldgen::frame::emit_implementations, "hidden declarations, C++"},
     {"general_entries", haldgen::frame::emit_general_entries, "general entries, C++"},
     {"linked_functions", haldgen::frame::emit_linked_functions, "names, addresses and arrays, C++"},
+    {"batch_header", haldgen::frame::emit_batch_header, "the public header of batches"},
+    {"batch_exports", haldgen::frame::emit_batch_exports, "their linker version script"},
+    {"batch_entries", haldgen::frame::emit_batch_entries, "their entries, C++"},
     {"list", haldgen::frame::emit_list, "all names"},
     {"summary", haldgen::frame::emit_summary, "families and how many functions they have"},
 };

@@ -21,13 +21,14 @@ constexpr std::string_view kUsage =
     "usage: haldgen-generate list\n"
     "       haldgen-generate counts [FAMILY]\n"
     "       haldgen-generate recipe|counts|graph|code FAMILY KERNEL TYPE\n"
-    "       haldgen-generate source FAMILY KERNEL TYPE FILE [ORDER:CAP:SEED]\n"
+    "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [ORDER:CAP:SEED]\n"
     "       haldgen-generate constants FAMILY FILE\n"
     "  list     the families with their kernels and element types\n"
     "  counts   operation counts of all transforms, of a family's kernels or of one, as a table\n"
     "  recipe   the factorisation of a kernel\n"
     "  graph    its statements for Graphviz\n"
     "  code     its C++ source, as source writes it to a file\n"
+    "  batch    the source of its batches\n"
     "  constants  a source file of constants for the planner of a family\n"
     "  KERNEL   a length, or the name of a part of planned transforms\n"
     "  TYPE     32f or 64f; of complex elements 32fc or 64fc\n"
@@ -146,10 +147,13 @@ void run(const std::vector<std::string>& args) {
   const Family& family = generated_family(args[1]);
   const int number = kernel_named(family, args[2]);
   const FloatType type = type_named(family, args[3]);
-  if (command == "source" && (args.size() == 5 || args.size() == 6)) {
+  const bool batch = command == "batch";
+  if ((command == "source" || batch) && (args.size() == 5 || args.size() == 6)) {
+    if (batch && family.generated->batch == nullptr) throw UsageError("a family without batches");
+    const auto source = batch ? family.generated->batch : family.generated->source;
     const Tuning tuning =
         args.size() == 5 ? Tuning() : Tuning(haldgen::family::parse_choice(args[5]));
-    return write_file(args[4], print(family.generated->source(number, type, tuning)));
+    return write_file(args[4], print(source(number, type, tuning)));
   }
   if (args.size() != 4) throw UsageError("arguments");
   if (command == "counts") {

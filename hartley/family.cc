@@ -1,5 +1,6 @@
 // The Hartley transform as a family.
 #include "family/family.h"
+#include "family/batch.h"
 
 #include "hartley/recipes.h"
 
@@ -10,6 +11,7 @@ using family::FloatType;
 using names::Element;
 using names::Layout;
 
+constexpr auto kName = "hartley";
 constexpr auto kWord = "Hartley";
 
 const names::TransformText kText{
@@ -54,14 +56,27 @@ family::Source source(int length, FloatType type, const family::Tuning& tuning) 
   return source;
 }
 
+family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
+  const Element element = family::real_element(type);
+  const family::Choice choice = tuning.of(family::batch_symbol(kName, element, length));
+  family::Source source = family::batch_source(kName, length, element);
+  source.algorithm = algorithm(length, type);
+  const kernelgen::Program program =
+      scheduled(program_of(design_of(length), type), choice.ordering);
+  source.kernels = {lane_kernel({"Body", length, element}, program, choice)};
+  source.functions = {
+      family::real_batch(kName, length, element, program, "Side::plain, Side::plain")};
+  return source;
+}
+
 }  // namespace
 
 family::Family hartley(const names::Sizes& lengths) {
-  family::Family result{"hartley",
+  family::Family result{kName,
                         "Hartley transform",
                         lengths,
                         {},
-                        family::Generated{algorithm, graph, work, source}};
+                        family::Generated{algorithm, graph, work, source, {}, batch}};
   add_transform(result, kWord, names::kReal,
                 {names::Scaling::directionless, Layout::real, Layout::real}, kText);
   return result;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
+#include <stdexcept>
 
 #include "kernelgen/wide.h"
 
@@ -24,8 +26,13 @@ class Printer {
       : program_(program), subscripts_(subscripts), constants_(constants) {}
 
   std::string run() {
-    if (!scalar() && has_scales()) define_scales();
-    if (scalar()) define_two();
+    if (program_.lanewise) {
+      define_lanewise_scales();
+    } else if (scalar()) {
+      define_two();
+    } else if (has_scales()) {
+      define_scales();
+    }
     find_stages();
     for (std::size_t i = 0; i < program_.code.size(); ++i) {
       if (!marks_[i].above.empty()) line("// " + marks_[i].above);
@@ -41,6 +48,7 @@ class Printer {
     return std::any_of(program_.code.begin(), program_.code.end(),
                        [](const Instruction& in) { return in.op == Op::scale; });
   }
+  bool blocks() const { return program_.memory == Memory::blocks; }
   bool f32() const { return program_.type == FloatType::f32; }
 
   /// Comments that say which stage an instruction belongs to: that of the comment behind it, else
@@ -91,7 +99,8 @@ class Printer {
   }
 
   void define_scales() {
-    line("const V s0 = lanes::broadcast(scale);");
+    line(blocks() ? "const V s0 = lanes::splat<V>(scale);"
+                  : "const V s0 = lanes::broadcast(scale);");
     for (int mask = 1; mask < 4; ++mask) {
       for (const Instruction& in : program_.code) {
         if (in.op != Op::scale || scale_mask(in) != mask) continue;
@@ -99,11 +108,31 @@ class Printer {
         for (int l = 0; l < program_.lanes; ++l) {
           signs.constant[static_cast<std::size_t>(l)] = (mask >> (l % 2)) & 1 ? -0.0 : 0.0;
         }
-        line("const V s" + std::to_string(mask) + " = lanes::change_sign(s0, " + constants(signs) +
-             ");");
+        line("const V s" + std::to_string(mask) + " = lanes::change_sign" +
+             (blocks() ? "_of_blocks" : "") + "(s0, " + constants(signs) + ");");
         break;
       }
     }
+  }
+
+  bool in64(const Instruction& in) const { return in.wide && f32(); }
+
+  bool any(const auto& condition) const {
+    return std::any_of(program_.code.begin(), program_.code.end(), condition);
+  }
+
+  /// A value may be multiplied by the scale or, carrying a minus, by its negative; wide values by
+  /// the scale in 64 bits.
+  void define_lanewise_scales() {
+    const auto takes = [&](bool wide, bool minus) {
+      return any([&](const Instruction& in) {
+        return in.op == Op::scale && in64(in) == wide && (in.constant[0] < 0) == minus;
+      });
+    };
+    if (takes(false, false) || takes(false, true)) line("const V s = lanes::splat<V>(scale);");
+    if (takes(false, true)) line("const V minus_s = -s;");
+    if (takes(true, false)) line("const auto wide_s = lanes::widen(lanes::splat<V>(scale));");
+    if (takes(true, true)) throw std::logic_error("a wide value carries a minus");
   }
 
   static bool is_doubling(const Instruction& in) {
@@ -127,7 +156,9 @@ class Printer {
   void define(int index, const std::string& expression) {
     const Instruction& in = program_.code[static_cast<std::size_t>(index)];
     std::string type = "V";
-    if (scalar()) {
+    if (program_.lanewise) {
+      if (in64(in) && in.op != Op::narrow) type = "auto";
+    } else if (scalar()) {
       const bool in32 = f32() && !(in.wide && in.op != Op::narrow);
       type = type_name(in32 ? FloatType::f32 : FloatType::f64);
     }
@@ -142,22 +173,117 @@ class Printer {
 
   std::string constants(const Instruction& in) const {
     if (scalar()) return constant(in.constant[0], in.wide ? FloatType::f64 : program_.type);
-    std::string text = "V{";
+    std::string text = blocks() ? "lanes::repeated<V>(" : "V{";
     for (int l = 0; l < program_.lanes; ++l) {
       text +=
           (l > 0 ? ", " : "") + constant(in.constant[static_cast<std::size_t>(l)], program_.type);
     }
-    return text + "}";
+    return text + (blocks() ? ")" : "}");
   }
 
   std::string slot(const Instruction& in) const {
     return "<" + std::to_string(in.address[0] / program_.lanes) + ">";
   }
 
+  /// Both parts of an element are stored where the second of them is there.
+  void store_part(const Instruction& in) {
+    const int element = in.address[0] / 2;
+    const auto [first, fresh] = stored_.try_emplace(element, in.a);
+    if (fresh) return;
+    const bool second_is_re = in.address[0] % 2 == 0;
+    const int re = second_is_re ? in.a : first->second;
+    const int im = second_is_re ? first->second : in.a;
+    line("io.template store<" + std::to_string(element) + ">(" + name(re) + ", " + name(im) + ");");
+  }
+
+  /// Whether the instruction is one that lanewise programs say in other words.
+  bool print_lanewise(int index) {
+    const Instruction& in = program_.code[static_cast<std::size_t>(index)];
+    const std::string a = name(in.a);
+    switch (in.op) {
+      case Op::zero:
+        define(index, "V{}");
+        return true;
+      case Op::multiply:
+        define(index, constants(in) + " * " + a);
+        return true;
+      case Op::sign:
+        define(index, "-" + a);
+        return true;
+      case Op::widen:
+        define(index, "lanes::widen(" + a + ")");
+        return true;
+      case Op::narrow:
+        define(index, "lanes::narrow(" + a + ")");
+        return true;
+      case Op::scale:
+        define(index, (in64(in) ? "wide_s" : in.constant[0] < 0 ? "minus_s" : "s") + (" * " + a));
+        return true;
+      default:
+        return false;
+    }
+  }
+
+  /// Whether the instruction is one that programs in blocks say in other words.
+  bool print_in_blocks(int index) {
+    const Instruction& in = program_.code[static_cast<std::size_t>(index)];
+    const std::string a = name(in.a);
+    const std::string first = std::to_string(in.address[0]);
+    const std::string both = first + ", " + std::to_string(in.address[1]);
+    switch (in.op) {
+      case Op::load:
+        define(index, "io.load(" + first + ")");
+        return true;
+      case Op::load_pair:
+        define(index, "io.load_pair(" + both + ")");
+        return true;
+      case Op::load_single:
+        define(index, "io.load_single(" + first + ")");
+        return true;
+      case Op::store:
+        line("io.store(" + first + ", " + a + ");");
+        return true;
+      case Op::store_pair:
+        line("io.store_pair(" + both + ", " + a + ");");
+        return true;
+      case Op::store_single:
+        line("io.template store_half<0>(" + first + ", " + a + ");");
+        return true;
+      case Op::store_upper:
+        line("io.template store_half<1>(" + first + ", " + a + ");");
+        return true;
+      case Op::alternate:
+        define(index, "lanes::alternate_in_blocks(" + a + ", " + name(in.b) + ")");
+        return true;
+      case Op::sign:
+        define(index, "lanes::change_sign_of_blocks(" + a + ", " + constants(in) + ")");
+        return true;
+      case Op::exchange:
+        define(index, "lanes::exchange_in_blocks(" + a + ")");
+        return true;
+      case Op::gather:
+        define(index, "lanes::gather_in_blocks<" + std::to_string(in.half[0]) + ", " +
+                          std::to_string(in.half[1]) + ", " + std::to_string(in.cross[0]) + ", " +
+                          std::to_string(in.cross[1]) + ">(" + a + ", " + name(in.b) + ")");
+        return true;
+      default:
+        return false;
+    }
+  }
+
   void print(int index) {
     const Instruction& in = program_.code[static_cast<std::size_t>(index)];
     const std::string a = name(in.a);
     const std::string b = name(in.b);
+    if (program_.memory == Memory::elements) {
+      if (in.op == Op::store) return store_part(in);
+      if (in.op == Op::load) {
+        return define(index, "io.template load<" + std::to_string(in.address[0] / 2) + ", " +
+                                 std::to_string(in.address[0] % 2) + ">()");
+      }
+    }
+    if (program_.lanewise && print_lanewise(index)) return;
+    if (blocks() && print_in_blocks(index)) return;
     if (program_.memory == Memory::slots) {
       if (in.op == Op::load) return define(index, "io.template load" + slot(in) + "()");
       if (in.op == Op::store) return line("io.template store" + slot(in) + "(" + a + ");");
@@ -226,6 +352,7 @@ class Printer {
   const std::vector<NamedConstant>& constants_;
   std::string text_;
   std::vector<Mark> marks_;
+  std::map<int, int> stored_;  ///< the first part that is there of elements, where both go at once
 };
 
 }  // namespace
@@ -255,16 +382,21 @@ std::string describe(const Tally& t, FloatType type) {
          " widenings, " + std::to_string(t.narrowings) + " narrowings\n";
 }
 
+ScaleFactors scale_factors(int points, FloatType type) {
+  const Wide n(points);
+  return {literal(rounded(Wide(1.0) / n, type), type),
+          literal(rounded(Wide(1.0) / sqrt(n), type), type)};
+}
+
 std::string scale_members(int length, Divides divides, FloatType type) {
-  const Wide n(length);
-  const auto member = [&](const char* name, Wide factor) {
-    return std::string("  static constexpr Float ") + name + " = " +
-           literal(rounded(factor, type), type) + ";\n";
+  const auto member = [&](const char* name, const std::string& factor) {
+    return std::string("  static constexpr Float ") + name + " = " + factor + ";\n";
   };
-  const Wide by_length = Wide(1.0) / n;
-  return member("kFwdByN", divides == Divides::inverse ? Wide(1.0) : by_length) +
-         member("kInvByN", divides == Divides::forward ? Wide(1.0) : by_length) +
-         member("kBySqrtN", Wide(1.0) / sqrt(n));
+  const ScaleFactors factors = scale_factors(length, type);
+  const std::string one = literal(1.0, type);
+  return member("kFwdByN", divides == Divides::inverse ? one : factors.by_n) +
+         member("kInvByN", divides == Divides::forward ? one : factors.by_n) +
+         member("kBySqrtN", factors.by_root);
 }
 
 std::string emit_body(const Program& program, const Subscripts& subscripts,

@@ -12,7 +12,8 @@ namespace haldgen::kernelgen {
 
 /// Statements of a function body over `src`, `dst` (pointers to floats) and `scale`, one per
 /// instruction; programs over slots call `io` instead. Vector programs speak the vocabulary of
-/// lanes/vectors.h and touch memory through a type `Access`; scalar programs are plain expressions.
+/// lanes/vectors.h and touch memory through a type `Access`; scalar programs are plain expressions,
+/// on vectors of type V and the vocabulary of lanes/wide.h if they are lanewise.
 ///
 /// Scalar programs may reach source or destination through a function of the address, such as
 /// `Format::at`: the name of that function, or nothing.
@@ -44,6 +45,13 @@ std::string describe(const Tally& tally, FloatType type);
 
 /// Which of the flags for the two directions divides by the length.
 enum class Divides { forward, inverse, both };
+
+struct ScaleFactors {
+  std::string by_n;
+  std::string by_root;
+};
+/// Literals of 1/N and 1/sqrt(N), as single transforms and batches have them.
+ScaleFactors scale_factors(int points, FloatType type);
 
 /// The members of a kernel's struct that hold the factors of its scaling flags.
 std::string scale_members(int length, Divides divides, FloatType type);

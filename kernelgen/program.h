@@ -60,13 +60,19 @@ double rounded(Wide value, FloatType type);
 /// What the addresses of a program mean. Arrays: floats from the bases of `src` and `dst`, which
 /// may be one array. Slots: an accessor `io` knows where each whole vector lies, vector k being
 /// loaded or stored at the address k times the lanes; it never loads what the program has stored.
-enum class Memory { arrays, slots };
+/// Elements: an accessor knows where both parts of each complex element lie, and is given both at
+/// once to store. Blocks: an accessor touches the arrays of as many transforms as wider vectors have
+/// blocks of 128 bits, in each of which the program of one runs.
+enum class Memory { arrays, slots, elements, blocks };
 
 struct Program {
   FloatType type = FloatType::f64;
   int lanes = 1;  ///< floats in a vector; 1 for scalar programs
   std::vector<Instruction> code;
   Memory memory = Memory::arrays;
+  /// Of scalar programs: in each lane of vectors, whose type V the code is a template over, runs
+  /// the program of another transform.
+  bool lanewise = false;
   /// The values of which the magnitudes of its constants are roundings.
   std::map<double, Wide> exact = {};
 };

@@ -10,6 +10,8 @@ std::size_t floats(Layout layout, std::size_t points) {
     case Layout::none:
       break;
     case Layout::real:
+    case Layout::pack:
+    case Layout::perm:
       return points;
     case Layout::complex:
       return 2 * points;
@@ -28,9 +30,7 @@ std::vector<std::size_t> gaps(Layout layout, std::size_t points) {
 }  // namespace
 
 Arrays arrays(const Word& word, int size) {
-  const bool order = word.signature == Signature::buffered_transform ||
-                     word.signature == Signature::sized_buffered_transform;
-  const int points = order ? 1 << size : size;
+  const int points = has_order(word) ? 1 << size : size;
   const auto n = static_cast<std::size_t>(points);
   return {points, floats(word.usage.src, n), floats(word.usage.dst, n), gaps(word.usage.src, n)};
 }

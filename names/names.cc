@@ -40,6 +40,11 @@ bool size_in_name(const Word& word) {
   return word.signature == Signature::transform || word.signature == Signature::buffered_transform;
 }
 
+bool has_order(const Word& word) {
+  return word.signature == Signature::buffered_transform ||
+         word.signature == Signature::sized_buffered_transform;
+}
+
 bool is_general(const Word& word) {
   return word.signature == Signature::sized_transform ||
          word.signature == Signature::sized_buffered_transform;

@@ -31,9 +31,11 @@ enum class Scaling {
 /// What an array holds for N points.
 enum class Layout {
   none,     ///< there are no such arrays, or a state says what they hold
-  real,     ///< N real elements: samples, or a half spectrum in Pack or Perm format
+  real,     ///< N real elements
   complex,  ///< N complex elements
   ccs,      ///< a half spectrum in CCS format
+  pack,     ///< in Pack format: N real elements
+  perm,     ///< in Perm format, likewise
 };
 
 /// How a transform uses its flag and its arrays.
@@ -62,6 +64,9 @@ struct Word {
 
 /// Whether the size is part of the names (and not an argument or absent).
 bool size_in_name(const Word& word);
+
+/// Whether the size is an order, of which the length is a power of two.
+bool has_order(const Word& word);
 
 /// Whether the functions are general entries: the size is an argument and selects one of the
 /// fixed-size functions of the same word.

@@ -11,6 +11,7 @@
 
 #include "kernelgen/forms.h"
 #include "kernelgen/lower.h"
+#include "kernelgen/unpack.h"
 #include "tests/kernelgen/random_graph.h"
 
 namespace haldgen::kernelgen {
@@ -192,6 +193,73 @@ TEST(Forms, TheMirrorHasTheSameSignsOfZeros) {
           << "seed " << seed << " wild " << wild;
     }
   }
+}
+
+/// The unpacked program gives all bits of the packed one on zeros and small numbers, and the same
+/// expressions as the unpacked mirror.
+template <class Float>
+void expect_unpacked(const PackedGraph& packed, const std::vector<Choice>& choices, FloatType type,
+                     const std::vector<Float>& source, std::size_t outputs) {
+  const Program program = lower_packed(packed, choices, type);
+  const Program lanes = unpacked(program);
+  ASSERT_EQ(lanes.lanes, 1);
+  std::vector<Float> expected(2 * outputs), actual(2 * outputs);
+  for (const Float scale : {Float{1}, static_cast<Float>(0.3)}) {
+    interpret(program, source, scale, expected);
+    interpret(lanes, source, scale, actual);
+    ASSERT_EQ(std::memcmp(expected.data(), actual.data(), expected.size() * sizeof(Float)), 0);
+  }
+  const Program mirror =
+      unpacked(lower_packed(packed, choose_mirrored_forms(packed, choices, kSweeps), type));
+  ASSERT_TRUE(same_results(parts_exchanged(lanes), mirror));
+  ASSERT_FALSE(same_results(lanes, mirror));
+}
+
+TEST(Unpacking, KeepsAllBitsInChosenAndWildForms) {
+  int negations = 0;
+  for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
+    const Graph graph = test::random_complex_graph(seed);
+    const std::size_t outputs = graph.outputs().size();
+    Dice dice(seed);
+    std::vector<float> source;
+    for (std::size_t i = 0; i < 2 * outputs; ++i) {
+      const int n = dice.below(4);
+      source.push_back(n == 3 ? -0.0F : static_cast<float>(n - 1));
+    }
+    const std::vector<double> source64(source.begin(), source.end());
+    for (const auto& [halves, access] : kLayouts) {
+      const PackedGraph packed = pack(graph, halves, access);
+      for (const auto& choices : {choose(packed, false), wild_choices(packed, false, dice)}) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed << ", halves " << halves);
+        if (halves == 1) {
+          ASSERT_NO_FATAL_FAILURE(
+              expect_unpacked<double>(packed, choices, FloatType::f64, source64, outputs));
+        } else {
+          ASSERT_NO_FATAL_FAILURE(
+              expect_unpacked<float>(packed, choices, FloatType::f32, source, outputs));
+          negations +=
+              count_ops(unpacked(lower_packed(packed, choices, FloatType::f32)), {Op::sign});
+        }
+      }
+    }
+  }
+  EXPECT_GT(negations, 0);
+}
+
+TEST(Unpacking, TellsATurnedDifferenceFromTheSame) {
+  Graph g(Field::complex);
+  g.set_outputs({g.subtract(g.input(0), g.input(1)), g.add(g.input(0), g.input(1))});
+  const PackedGraph packed = pack(g, 1);
+  const Program one = unpacked(lower_packed(packed, choose(packed, false), FloatType::f64));
+  Program other = one;
+  for (Instruction& in : other.code) {
+    if (in.op == Op::add) std::swap(in.a, in.b);
+  }
+  EXPECT_TRUE(same_results(one, other));
+  for (Instruction& in : other.code) {
+    if (in.op == Op::subtract) std::swap(in.a, in.b);
+  }
+  EXPECT_FALSE(same_results(one, other));
 }
 
 TEST(Forms, AreBetterThanNone) {

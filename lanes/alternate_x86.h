@@ -1,0 +1,53 @@
+// The alternating sum of wide.h on x86 processors, which have an instruction for it.
+#pragma once
+
+#include "lanes/wide.h"
+
+namespace haldgen::lanes {
+
+/// Whether there is one for vectors of this type.
+template <class V>
+#if defined(__AVX512F__)
+inline constexpr bool has_alternate = true;
+#elif defined(__AVX__)
+inline constexpr bool has_alternate = sizeof(V) <= 32;
+#elif defined(__SSE3__)
+inline constexpr bool has_alternate = sizeof(V) == 16;
+#else
+inline constexpr bool has_alternate = false;
+#endif
+
+#ifdef __SSE3__
+HALDGEN_INLINE WideVector<float, 16> alternate_x86(WideVector<float, 16> a,
+                                                   WideVector<float, 16> b) {
+  return __builtin_ia32_addsubps(a, b);
+}
+HALDGEN_INLINE WideVector<double, 16> alternate_x86(WideVector<double, 16> a,
+                                                    WideVector<double, 16> b) {
+  return __builtin_ia32_addsubpd(a, b);
+}
+#endif
+#ifdef __AVX__
+HALDGEN_INLINE WideVector<float, 32> alternate_x86(WideVector<float, 32> a,
+                                                   WideVector<float, 32> b) {
+  return __builtin_ia32_addsubps256(a, b);
+}
+HALDGEN_INLINE WideVector<double, 32> alternate_x86(WideVector<double, 32> a,
+                                                    WideVector<double, 32> b) {
+  return __builtin_ia32_addsubpd256(a, b);
+}
+#endif
+#ifdef __AVX512F__
+// Of 512 bits there is one that multiplies before: by one, which is exact.
+inline constexpr int kRounding = 4;
+HALDGEN_INLINE WideVector<float, 64> alternate_x86(WideVector<float, 64> a,
+                                                   WideVector<float, 64> b) {
+  return __builtin_ia32_vfmaddsubps512_mask(a, splat<WideVector<float, 64>>(1), b, -1, kRounding);
+}
+HALDGEN_INLINE WideVector<double, 64> alternate_x86(WideVector<double, 64> a,
+                                                    WideVector<double, 64> b) {
+  return __builtin_ia32_vfmaddsubpd512_mask(a, splat<WideVector<double, 64>>(1), b, -1, kRounding);
+}
+#endif
+
+}  // namespace haldgen::lanes
