@@ -1,11 +1,15 @@
 # Installation: headers, libraries, haldgen-bits with the published sums, CMake package, pkg-config files.
 include(CMakePackageConfigHelpers)
 
-install(TARGETS haldgenp8 haldbatch haldcore EXPORT haldgenTargets
+set(haldgen_installed haldgenp8 haldcore)
+if(TARGET haldbatch)
+  list(APPEND haldgen_installed haldbatch)
+  install(FILES ${PROJECT_SOURCE_DIR}/include/haldbatch.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+endif()
+install(TARGETS ${haldgen_installed} EXPORT haldgenTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(FILES ${PROJECT_SOURCE_DIR}/include/haldgen.h ${PROJECT_SOURCE_DIR}/include/haldbatch.h
-  ${PROJECT_SOURCE_DIR}/haldcore/haldcore.h
+install(FILES ${PROJECT_SOURCE_DIR}/include/haldgen.h ${PROJECT_SOURCE_DIR}/haldcore/haldcore.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(TARGETS haldgen-bits RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/bits/published.tsv
@@ -35,7 +39,7 @@ if(includedir_is_absolute)
 else()
   set(pc_includedir "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
 endif()
-foreach(package IN ITEMS haldgenp8 haldbatch haldcore)
+foreach(package IN LISTS haldgen_installed)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/${package}.pc.in ${PROJECT_BINARY_DIR}/${package}.pc
     @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${package}.pc
