@@ -6,7 +6,13 @@ if(TARGET haldbatch)
   list(APPEND haldgen_installed haldbatch)
   install(FILES ${PROJECT_SOURCE_DIR}/include/haldbatch.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 endif()
-install(TARGETS ${haldgen_installed} EXPORT haldgenTargets
+set(targets ${haldgen_installed})
+foreach(library IN LISTS haldgen_installed)
+  if(TARGET ${library}_static)
+    list(APPEND targets ${library}_static)
+  endif()
+endforeach()
+install(TARGETS ${targets} EXPORT haldgenTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/include/haldgen.h ${PROJECT_SOURCE_DIR}/haldcore/haldcore.h
