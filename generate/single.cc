@@ -113,10 +113,9 @@ same input gives the same bits on every call, compiler and machine.
 )";
 
 std::string flags_text(names::Scaling scaling) {
-  const bool directed = scaling != names::Scaling::directionless;
   return "@param flag    the scale s: haldScaleFwdByN is " +
          std::string(scaling == names::Scaling::inverse ? "1" : "1/N") + ", haldScaleInvByN " +
-         (directed && scaling == names::Scaling::forward ? "1" : "1/N") +
+         (scaling == names::Scaling::forward ? "1" : "1/N") +
          ", haldScaleBySqrtN 1/sqrt(N),\n               haldScaleNone 1\n";
 }
 
