@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -18,6 +19,7 @@
 #include "bench/core/duel.h"
 #include "bench/core/size_list.h"
 #include "bench/core/statistics.h"
+#include "lanes/processor.h"
 
 namespace haldgen::bench {
 namespace {
@@ -251,12 +253,6 @@ void measure(const Options& options, const std::vector<Build>& builds, void* sin
   }
 }
 
-bool processor_can(const std::string& flavour) {
-  __builtin_cpu_init();
-  if (flavour == "x86-64-v3") return __builtin_cpu_supports("avx2") != 0;
-  return __builtin_cpu_supports("avx512vl") != 0 && __builtin_cpu_supports("avx512dq") != 0;
-}
-
 void* opened(const std::string& path) {
   void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) throw std::runtime_error(dlerror());
@@ -266,14 +262,13 @@ void* opened(const std::string& path) {
 int run(const Options& options) {
   std::vector<Build> builds;
   const std::string folder = HALDGEN_FOLDER;
-  for (const std::string flavour : {"x86-64-v4", "x86-64-v3"}) {
-    const std::string path = folder + "/glibc-hwcaps/" + flavour + "/libhaldbatch.so.8";
-    if (std::FILE* const file = std::fopen(path.c_str(), "r"); file != nullptr) {
-      std::fclose(file);
-      if (processor_can(flavour)) builds.push_back({flavour, opened(path)});
-    }
+  for (const std::string flavour : {"glibc-hwcaps/x86-64-v4", "glibc-hwcaps/x86-64-v3", "."}) {
+    const std::string path = folder + "/" + flavour + "/libhaldbatch.so.8";
+    if (!std::filesystem::exists(path)) continue;
+    void* const library = opened(path);
+    const int bits = function<std::int32_t (*)()>(library, "haldbGetVectorBits")();
+    if (lanes::processor_has(bits)) builds.push_back({std::to_string(bits) + " bits", library});
   }
-  builds.push_back({"x86-64", opened(folder + "/libhaldbatch.so.8")});
   void* const singles = opened(folder + "/libhaldgenp8.so.8");
 
   Ratios ratios;

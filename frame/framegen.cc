@@ -27,6 +27,7 @@ constexpr Output outputs[] = {
     {"batch_header", haldgen::frame::emit_batch_header, "the public header of batches"},
     {"batch_exports", haldgen::frame::emit_batch_exports, "their linker version script"},
     {"batch_entries", haldgen::frame::emit_batch_entries, "their entries, C++"},
+    {"linked_batches", haldgen::frame::emit_linked_batches, "their names and addresses, C++"},
     {"list", haldgen::frame::emit_list, "all names"},
     {"summary", haldgen::frame::emit_summary, "families and how many functions they have"},
 };

@@ -23,7 +23,11 @@ class Printer {
  public:
   Printer(const Program& program, const Subscripts& subscripts,
           const std::vector<NamedConstant>& constants)
-      : program_(program), subscripts_(subscripts), constants_(constants) {}
+      : program_(program), subscripts_(subscripts), constants_(constants) {
+    for (const Instruction& in : program.code) {
+      if (is_store(in.op)) last_stored_ = std::max(last_stored_, in.address[0]);
+    }
+  }
 
   std::string run() {
     if (program_.lanewise) {
@@ -185,15 +189,21 @@ class Printer {
     return "<" + std::to_string(in.address[0] / program_.lanes) + ">";
   }
 
-  /// Both parts of an element are stored where the second of them is there.
+  /// Both parts of an element, or of a bin, are stored where the second of them is there.
   void store_part(const Instruction& in) {
-    const int element = in.address[0] / 2;
-    const auto [first, fresh] = stored_.try_emplace(element, in.a);
+    const int address = in.address[0];
+    const bool bins = program_.memory == Memory::half_spectrum;
+    const int pair = (address + (bins ? 1 : 0)) / 2;
+    const std::string at = "io.template store<" + std::to_string(bins ? 2 * pair - 1 : pair) + ">(";
+    if (bins && (address == 0 || 2 * pair > last_stored_)) {
+      return line("io.template store" + slot(in) + "(" + name(in.a) + ");");
+    }
+    const auto [first, fresh] = stored_.try_emplace(pair, in.a);
     if (fresh) return;
-    const bool second_is_re = in.address[0] % 2 == 0;
+    const bool second_is_re = (address % 2 == 0) != bins;
     const int re = second_is_re ? in.a : first->second;
     const int im = second_is_re ? first->second : in.a;
-    line("io.template store<" + std::to_string(element) + ">(" + name(re) + ", " + name(im) + ");");
+    line(at + name(re) + ", " + name(im) + ");");
   }
 
   /// Whether the instruction is one that lanewise programs say in other words.
@@ -275,16 +285,15 @@ class Printer {
     const Instruction& in = program_.code[static_cast<std::size_t>(index)];
     const std::string a = name(in.a);
     const std::string b = name(in.b);
-    if (program_.memory == Memory::elements) {
-      if (in.op == Op::store) return store_part(in);
-      if (in.op == Op::load) {
-        return define(index, "io.template load<" + std::to_string(in.address[0] / 2) + ", " +
-                                 std::to_string(in.address[0] % 2) + ">()");
-      }
+    const bool bins = program_.memory == Memory::half_spectrum;
+    if (program_.memory == Memory::elements && in.op == Op::load) {
+      return define(index, "io.template load<" + std::to_string(in.address[0] / 2) + ", " +
+                               std::to_string(in.address[0] % 2) + ">()");
     }
+    if ((program_.memory == Memory::elements || bins) && in.op == Op::store) return store_part(in);
     if (program_.lanewise && print_lanewise(index)) return;
     if (blocks() && print_in_blocks(index)) return;
-    if (program_.memory == Memory::slots) {
+    if (program_.memory == Memory::slots || bins) {
       if (in.op == Op::load) return define(index, "io.template load" + slot(in) + "()");
       if (in.op == Op::store) return line("io.template store" + slot(in) + "(" + a + ");");
     }
@@ -352,6 +361,7 @@ class Printer {
   const std::vector<NamedConstant>& constants_;
   std::string text_;
   std::vector<Mark> marks_;
+  int last_stored_ = 0;        ///< highest address of a store
   std::map<int, int> stored_;  ///< the first part that is there of elements, where both go at once
 };
 

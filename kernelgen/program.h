@@ -61,9 +61,11 @@ double rounded(Wide value, FloatType type);
 /// may be one array. Slots: an accessor `io` knows where each whole vector lies, vector k being
 /// loaded or stored at the address k times the lanes; it never loads what the program has stored.
 /// Elements: an accessor knows where both parts of each complex element lie, and is given both at
-/// once to store. Blocks: an accessor touches the arrays of as many transforms as wider vectors have
-/// blocks of 128 bits, in each of which the program of one runs.
-enum class Memory { arrays, slots, elements, blocks };
+/// once to store. Half spectrum: slots, and of what is stored the values 2j - 1 and 2j, the parts
+/// of bin j, are given at once; value 0, and the last of an even number, have no other part.
+/// Blocks: an accessor touches the arrays of as many transforms as wider vectors have blocks of 128
+/// bits, in each of which the program of one runs.
+enum class Memory { arrays, slots, elements, half_spectrum, blocks };
 
 struct Program {
   FloatType type = FloatType::f64;

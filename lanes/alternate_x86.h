@@ -38,15 +38,18 @@ HALDGEN_INLINE WideVector<double, 32> alternate_x86(WideVector<double, 32> a,
 }
 #endif
 #ifdef __AVX512F__
+/// Instructions of 512 bits are told how to round: as the processor is set.
+inline constexpr int kCurrentRounding = 4;
 // Of 512 bits there is one that multiplies before: by one, which is exact.
-inline constexpr int kRounding = 4;
 HALDGEN_INLINE WideVector<float, 64> alternate_x86(WideVector<float, 64> a,
                                                    WideVector<float, 64> b) {
-  return __builtin_ia32_vfmaddsubps512_mask(a, splat<WideVector<float, 64>>(1), b, -1, kRounding);
+  return __builtin_ia32_vfmaddsubps512_mask(a, splat<WideVector<float, 64>>(1), b, -1,
+                                            kCurrentRounding);
 }
 HALDGEN_INLINE WideVector<double, 64> alternate_x86(WideVector<double, 64> a,
                                                     WideVector<double, 64> b) {
-  return __builtin_ia32_vfmaddsubpd512_mask(a, splat<WideVector<double, 64>>(1), b, -1, kRounding);
+  return __builtin_ia32_vfmaddsubpd512_mask(a, splat<WideVector<double, 64>>(1), b, -1,
+                                            kCurrentRounding);
 }
 #endif
 
