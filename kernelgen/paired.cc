@@ -306,7 +306,7 @@ class PairedLowering {
         }
       }
     }
-    for (std::size_t v = 0; v < count; ++v) values_[v].order = std::max(fixed[v], 0);
+    for (Value& value : values_) value.order = mirrored_ ? 1 : 0;
     for (int sweep = 0; sweep < 20; ++sweep) {
       bool changed = false;
       for (std::size_t v = 0; v < count; ++v) {
