@@ -18,4 +18,12 @@ inline Find linked() {
   };
 }
 
+inline Find linked_batches() {
+  return [](const std::string& name) -> Address {
+    const auto all = frame::linked_batches();
+    const auto found = std::ranges::find(all, name, &frame::LinkedBatch::name);
+    return found != all.end() ? found->address : nullptr;
+  };
+}
+
 }  // namespace haldgen::bits

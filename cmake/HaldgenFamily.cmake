@@ -45,9 +45,12 @@ endfunction()
 
 # Sources that haldgen-generate writes, one for each kernel and element type so that a build
 # parallelises, in <binary dir>/generated. A kernel that is missing fails the link of the library.
+# They are the same for all machines: a build with the programs of another has its sources, too, if
+# they are there. Target haldgen_generated makes all.
 #   haldgen_generated_sources(VARIABLE FAMILY KERNELS kernel... TYPES type... [COMMAND batch])
 set(HALDGEN_TUNING "" CACHE STRING
     "Tuning of all kernels, such as critical:16:0, to measure with; empty for the table")
+add_custom_target(haldgen_generated)
 function(haldgen_generated_sources variable family)
   cmake_parse_arguments(PARSE_ARGV 2 arg "" "COMMAND" "KERNELS;TYPES")
   if(NOT arg_COMMAND)
@@ -55,10 +58,20 @@ function(haldgen_generated_sources variable family)
   endif()
   set(folder ${CMAKE_CURRENT_BINARY_DIR}/generated)
   file(MAKE_DIRECTORY ${folder})
+  set(made)
+  if(HALDGEN_HOST_TOOLS AND NOT HALDGEN_TUNING)
+    file(RELATIVE_PATH made ${PROJECT_BINARY_DIR} ${folder})
+    set(made ${HALDGEN_HOST_TOOLS}/${made})
+  endif()
   set(sources ${${variable}})
   foreach(kernel IN LISTS arg_KERNELS)
     foreach(type IN LISTS arg_TYPES)
-      set(source ${folder}/${family}_${kernel}_${type}.cc)
+      set(name ${family}_${kernel}_${type}.cc)
+      if(made AND EXISTS ${made}/${name})
+        list(APPEND sources ${made}/${name})
+        continue()
+      endif()
+      set(source ${folder}/${name})
       add_custom_command(
         OUTPUT ${source}
         COMMAND ${haldgen_generate} ${arg_COMMAND} ${family} ${kernel} ${type} ${source} ${HALDGEN_TUNING}
@@ -68,11 +81,15 @@ function(haldgen_generated_sources variable family)
     endforeach()
   endforeach()
   set(${variable} ${sources} PARENT_SCOPE)
+  string(MAKE_C_IDENTIFIER "${CMAKE_CURRENT_BINARY_DIR}/${family}/${arg_COMMAND}" target)
+  add_custom_target(generated_${target} DEPENDS ${sources})
+  add_dependencies(haldgen_generated generated_${target})
 endfunction()
 
 # What is compiled into the library.
 function(haldgen_family_kernels folder)
   add_library(haldgen_${folder} OBJECT ${ARGN})
+  add_dependencies(haldgen_${folder} haldgen_generated)
   target_include_directories(haldgen_${folder} PRIVATE
     ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/haldcore)
   haldgen_kernels(haldgen_${folder})

@@ -3,17 +3,27 @@
 #include <algorithm>
 #include <iterator>
 #include <sstream>
+#include <stdexcept>
 
 namespace haldgen::family {
 namespace {
 
 using kernelgen::Order;
 
+/// What a flavour has instead; nothing where it takes the program of the baseline.
+struct Wider {
+  Order order = Order::program;
+  int cap = 0;
+  kernelgen::Pairs pairs = {0, 0};
+};
+
 struct Row {
   std::string_view name;
   Order order;
   int cap;
   int seed;
+  Wider v3 = {};
+  Wider v4 = {};
 };
 
 constexpr auto program = Order::program;
@@ -31,19 +41,35 @@ static_assert(std::ranges::is_sorted(kRows, {}, &Row::name));
 
 Choice parse_choice(const std::string& text) {
   std::istringstream parts(text);
-  std::string order, cap, seed;
+  std::string order, cap, seed, source, destination;
   std::getline(parts, order, ':');
   std::getline(parts, cap, ':');
-  std::getline(parts, seed);
-  return {{kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap)},
-          seed.empty() ? 0 : std::stoi(seed)};
+  std::getline(parts, seed, ':');
+  std::getline(parts, source, ':');
+  std::getline(parts, destination);
+  Choice choice{{kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap)},
+                seed.empty() ? 0 : std::stoi(seed)};
+  if (!source.empty()) choice.pairs = {std::stoi(source), std::stoi(destination)};
+  return choice;
+}
+
+Flavour flavour_named(std::string_view name) {
+  if (name == "x86-64-v3") return Flavour::v3;
+  if (name == "x86-64-v4") return Flavour::v4;
+  throw std::invalid_argument("no flavour: " + std::string(name));
 }
 
 Choice Tuning::of(std::string_view exported_name) const {
   if (everywhere_) return *everywhere_;
   const Row* const row = std::ranges::lower_bound(kRows, exported_name, {}, &Row::name);
   if (row == std::end(kRows) || row->name != exported_name) return {};
-  return {{row->order, row->cap}, row->seed};
+  Choice choice{{row->order, row->cap}, row->seed};
+  const Wider& wider = flavour_ == Flavour::v4 ? row->v4 : row->v3;
+  if (flavour_ != Flavour::baseline && wider.pairs.source != 0) {
+    choice.ordering = {wider.order, wider.cap};
+    choice.pairs = wider.pairs;
+  }
+  return choice;
 }
 
 }  // namespace haldgen::family

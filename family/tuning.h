@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "kernelgen/paired.h"
 #include "kernelgen/schedule.h"
 
 namespace haldgen::family {
@@ -16,16 +17,27 @@ namespace haldgen::family {
 struct Choice {
   kernelgen::Ordering ordering;
   int seed = 0;
+  /// How nodes are paired in vectors of twice the width; none: they are not.
+  std::optional<kernelgen::Pairs> pairs = {};
 };
 
-/// ORDER, ORDER:CAP or ORDER:CAP:SEED; throws if it is none.
+/// ORDER, ORDER:CAP, ORDER:CAP:SEED or ORDER:CAP:SEED:SOURCE:DESTINATION, the last two for pairs;
+/// throws if it is none.
 Choice parse_choice(const std::string& text);
+
+/// What a build is for: all processors of a machine, or some with wider vectors. A flavour has its
+/// own orders and pairs, and of all else what the baseline has, since its bits are the same.
+enum class Flavour { baseline, v3, v4 };
+
+/// By what compilers call the processors: "x86-64-v3". Throws if there is none.
+Flavour flavour_named(std::string_view name);
 
 /// The choices of all kernels.
 class Tuning {
  public:
   /// Those of the table.
   Tuning() = default;
+  explicit Tuning(Flavour flavour) : flavour_(flavour) {}
   /// The same choice everywhere, to measure with.
   explicit Tuning(const Choice& everywhere) : everywhere_(everywhere) {}
 
@@ -34,6 +46,7 @@ class Tuning {
 
  private:
   std::optional<Choice> everywhere_;
+  Flavour flavour_ = Flavour::baseline;
 };
 
 }  // namespace haldgen::family

@@ -39,6 +39,8 @@ std::string emit_batch_exports();
 
 /// C++ source: the entries of batches.
 std::string emit_batch_entries();
+/// C++ source: what a program that is linked with them has (linked_functions.h).
+std::string emit_linked_batches();
 
 /// C++ source: the functions that a program is linked with (linked_functions.h).
 std::string emit_linked_functions();

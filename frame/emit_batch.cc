@@ -319,6 +319,22 @@ std::string emit_batch_exports() {
   return text + "  local:\n    *;\n};\n";
 }
 
+std::string emit_linked_batches() {
+  std::ostringstream out;
+  out << "// Written by haldgen-framegen.\n"
+      << "#include \"frame/linked_functions.h\"\n\n#include \"haldbatch.h\"\n\n"
+      << "namespace haldgen::frame {\n\n"
+      << "std::span<const LinkedBatch> linked_batches() {\n"
+      << "  static const LinkedBatch all[] = {\n";
+  const auto row = [&](const std::string& name) {
+    out << "      {\"" << name << "\", reinterpret_cast<void (*)()>(" << name << ")},\n";
+  };
+  row(kVectorBits);
+  for (const Export& batch : batches()) row(batch.name);
+  out << "  };\n  return all;\n}\n\n}  // namespace haldgen::frame\n";
+  return out.str();
+}
+
 std::string emit_batch_entries() {
   std::ostringstream out;
   out << "// Written by haldgen-framegen.\n"

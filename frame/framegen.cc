@@ -29,6 +29,7 @@ constexpr Output outputs[] = {
     {"batch_tables", haldgen::frame::emit_batch_tables, "what their C++ header looks up"},
     {"batch_exports", haldgen::frame::emit_batch_exports, "their linker version script"},
     {"batch_entries", haldgen::frame::emit_batch_entries, "their entries, C++"},
+    {"linked_batches", haldgen::frame::emit_linked_batches, "their names and addresses, C++"},
     {"list", haldgen::frame::emit_list, "all names"},
     {"summary", haldgen::frame::emit_summary, "families and how many functions they have"},
 };

@@ -21,7 +21,7 @@ constexpr std::string_view kUsage =
     "usage: haldgen-generate list\n"
     "       haldgen-generate counts [FAMILY]\n"
     "       haldgen-generate recipe|counts|graph|code FAMILY KERNEL TYPE\n"
-    "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [ORDER:CAP:SEED]\n"
+    "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [TUNING | --flavour FLAVOUR]\n"
     "       haldgen-generate constants FAMILY FILE\n"
     "  list     the families with their kernels and element types\n"
     "  counts   operation counts of all transforms, of a family's kernels or of one, as a table\n"
@@ -32,8 +32,11 @@ constexpr std::string_view kUsage =
     "  constants  a source file of constants for the planner of a family\n"
     "  KERNEL   a length, or the name of a part of planned transforms\n"
     "  TYPE     32f or 64f; of complex elements 32fc or 64fc\n"
+    "  TUNING   ORDER:CAP:SEED[:SOURCE:DESTINATION] instead of the table's\n"
+    "  FLAVOUR  x86-64-v3 or x86-64-v4: its vectors and its column of the table\n"
     "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
-    "           SEED a number that varies the choice of forms of vector kernels\n";
+    "           SEED a number that varies the choice of forms of vector kernels,\n"
+    "           SOURCE and DESTINATION distances of elements that share a wider vector\n";
 
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
@@ -148,11 +151,13 @@ void run(const std::vector<std::string>& args) {
   const int number = kernel_named(family, args[2]);
   const FloatType type = type_named(family, args[3]);
   const bool batch = command == "batch";
-  if ((command == "source" || batch) && (args.size() == 5 || args.size() == 6)) {
+  const bool flavoured = args.size() == 7 && args[5] == "--flavour";
+  if ((command == "source" || batch) && (args.size() == 5 || args.size() == 6 || flavoured)) {
     if (batch && family.generated->batch == nullptr) throw UsageError("a family without batches");
     const auto source = batch ? family.generated->batch : family.generated->source;
-    const Tuning tuning =
-        args.size() == 5 ? Tuning() : Tuning(haldgen::family::parse_choice(args[5]));
+    const Tuning tuning = flavoured          ? Tuning(haldgen::family::flavour_named(args[6]))
+                          : args.size() == 5 ? Tuning()
+                                             : Tuning(haldgen::family::parse_choice(args[5]));
     return write_file(args[4], print(source(number, type, tuning)));
   }
   if (args.size() != 4) throw UsageError("arguments");

@@ -115,9 +115,12 @@ int Mnemonics::packed_arithmetic() const {
 }
 
 const std::map<std::string, Mnemonics>& disassembly() {
-  static const auto functions =
-      parsed(output_of(OBJDUMP " -d --no-show-raw-insn '" HALDGEN_LIBRARY "'"));
+  static const auto functions = disassembly(HALDGEN_LIBRARY);
   return functions;
+}
+
+std::map<std::string, Mnemonics> disassembly(const std::string& path) {
+  return parsed(output_of(OBJDUMP " -d --no-show-raw-insn '" + path + "'"));
 }
 
 ScalarOperations scalar_operations(const Mnemonics& m) {

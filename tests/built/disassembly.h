@@ -35,6 +35,8 @@ class Mnemonics {
 
 /// By symbol; of symbols at one address only one is there.
 const std::map<std::string, Mnemonics>& disassembly();
+/// Of another library.
+std::map<std::string, Mnemonics> disassembly(const std::string& path);
 
 /// Additions and so on by precision, as compiled.
 struct ScalarOperations {
