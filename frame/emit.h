@@ -9,6 +9,10 @@ namespace haldgen::frame {
 /// The public header, include/haldgen.h.
 std::string emit_header();
 
+/// The tables of the C++ headers, include/haldgen_tables.hpp and include/haldbatch_tables.hpp.
+std::string emit_tables();
+std::string emit_batch_tables();
+
 /// Assembly: the table of entry slots and the forwarding entries.
 std::string emit_entries();
 
