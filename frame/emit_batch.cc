@@ -265,7 +265,7 @@ void emit_entry(std::ostream& out, const Export& batch) {
   };
   const std::string size = size_name(word);
   out << "};\n}  // namespace\n\n"
-      << declaration(batch, "\n    ") << " {\n  return checked(" << table << ", " << size
+      << "HALDGEN_NOTHROW " << declaration(batch, "\n    ") << " {\n  return checked(" << table << ", " << size
       << " - std::ptrdiff_t{" << word.sizes.first() << "},\n      Elements<const " << type << ">"
       << array("src", word.usage.src, "const " + type) << ",\n      Elements<" << type << ">"
       << array("dst", word.usage.dst, type) << ",\n      count, flag, "
