@@ -7,7 +7,13 @@ if(TARGET haldbatch)
   list(APPEND haldgen_installed haldbatch)
   list(APPEND haldgen_headers haldbatch.h haldbatch.hpp haldbatch_tables.hpp)
 endif()
-install(TARGETS ${haldgen_installed} EXPORT haldgenTargets
+set(targets ${haldgen_installed})
+foreach(library IN LISTS haldgen_installed)
+  if(TARGET ${library}_static)
+    list(APPEND targets ${library}_static)
+  endif()
+endforeach()
+install(TARGETS ${targets} EXPORT haldgenTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 list(TRANSFORM haldgen_headers PREPEND ${PROJECT_SOURCE_DIR}/include/)

@@ -20,6 +20,10 @@ configure build 8.1 >/dev/null
 "$cmake" --build "$scratch/build" >/dev/null
 "$scratch/build/consumer"
 "$scratch/build/consumer_cpp"
+"$scratch/build/static_consumer"
+if readelf -d "$scratch/build/static_consumer" | grep hald; then
+  exit 1
+fi
 for other in 7.0 8.2; do
   if configure "$other" "$other" >/dev/null 2>&1; then
     echo "8.1 passes for $other"
@@ -51,6 +55,12 @@ for package in haldgenp8 haldcore; do
   test "$(pkg-config --modversion "$package")" = 8.1.0
 done
 test "$(pkg-config --print-requires-private haldgenp8)" = haldcore
+
+# The static libraries: nothing of haldgen's is left to load.
+# shellcheck disable=SC2046,SC2086
+"$cc" "$consumer/consumer.c" $(pkg-config --static --cflags --libs haldgenp8) -static \
+  -Wl,--gc-sections -lm -o "$scratch/static"
+"$scratch/static"
 
 echo "The installed bits:"
 # Elsewhere, and with neither the build tree nor a search path to find the library and the sums by.
