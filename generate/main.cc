@@ -1,4 +1,5 @@
 // haldgen-generate: writes the source of a kernel, or shows its recipe, counts, graph or code.
+#include <algorithm>
 #include <exception>
 #include <fstream>
 #include <iostream>
@@ -14,14 +15,17 @@ namespace {
 
 using haldgen::family::Family;
 using haldgen::family::FloatType;
+using haldgen::family::Source;
 using haldgen::family::Tuning;
 using haldgen::family::Work;
+using haldgen::names::Flavour;
 
 constexpr std::string_view kUsage =
     "usage: haldgen-generate list\n"
     "       haldgen-generate counts [FAMILY]\n"
     "       haldgen-generate recipe|counts|graph|code FAMILY KERNEL TYPE\n"
     "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [ORDER:CAP:SEED]\n"
+    "       haldgen-generate source|code ... --flavour TAG\n"
     "       haldgen-generate constants FAMILY FILE\n"
     "  list     the families with their kernels and element types\n"
     "  counts   operation counts of all transforms, of a family's kernels or of one, as a table\n"
@@ -30,6 +34,7 @@ constexpr std::string_view kUsage =
     "  code     its C++ source, as source writes it to a file\n"
     "  batch    the source of its batches\n"
     "  constants  a source file of constants for the planner of a family\n"
+    "  TAG      v3 or v4: the kernels of a flavour, in families that have some of their own\n"
     "  KERNEL   a length, or the name of a part of planned transforms\n"
     "  TYPE     32f or 64f; of complex elements 32fc or 64fc\n"
     "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
@@ -130,8 +135,34 @@ void write_file(const std::string& path, const std::string& text) {
   if (!file.flush()) throw std::runtime_error("cannot write " + path);
 }
 
-void run(const std::vector<std::string>& args) {
+/// The source of a kernel, or of its batches or flavour.
+Source source_of(const Family& family, int number, FloatType type, const Tuning& tuning, bool batch,
+                 const Flavour* flavour) {
+  const auto& generated = *family.generated;
+  if (batch) {
+    if (generated.batch == nullptr) throw UsageError("a family without batches");
+    return generated.batch(number, type, tuning);
+  }
+  if (flavour == nullptr) return generated.source(number, type, tuning);
+  if (generated.flavoured == nullptr) throw UsageError("a family without flavours of its own");
+  return generated.flavoured(number, type, tuning, *flavour);
+}
+
+/// Takes an option and its value from the arguments; null if it is not there.
+const Flavour* take_flavour(std::vector<std::string>& args) {
+  const auto option = std::find(args.begin(), args.end(), "--flavour");
+  if (option == args.end()) return nullptr;
+  if (option + 1 == args.end()) throw UsageError("no flavour");
+  const Flavour* const flavour = haldgen::names::flavour_of(*(option + 1));
+  if (flavour == nullptr) throw UsageError("no flavour: " + *(option + 1));
+  if (args[0] != "source" && args[0] != "code") throw UsageError("flavours have sources only");
+  args.erase(option, option + 2);
+  return flavour;
+}
+
+void run(std::vector<std::string> args) {
   if (args.empty()) throw UsageError("no command");
+  const Flavour* const flavour = take_flavour(args);
   const std::string& command = args[0];
   if (command == "list" && args.size() == 1) return print_list();
   if (command == "counts" && args.size() <= 2) {
@@ -149,11 +180,9 @@ void run(const std::vector<std::string>& args) {
   const FloatType type = type_named(family, args[3]);
   const bool batch = command == "batch";
   if ((command == "source" || batch) && (args.size() == 5 || args.size() == 6)) {
-    if (batch && family.generated->batch == nullptr) throw UsageError("a family without batches");
-    const auto source = batch ? family.generated->batch : family.generated->source;
     const Tuning tuning =
         args.size() == 5 ? Tuning() : Tuning(haldgen::family::parse_choice(args[5]));
-    return write_file(args[4], print(source(number, type, tuning)));
+    return write_file(args[4], print(source_of(family, number, type, tuning, batch, flavour)));
   }
   if (args.size() != 4) throw UsageError("arguments");
   if (command == "counts") {
@@ -164,7 +193,7 @@ void run(const std::vector<std::string>& args) {
   } else if (command == "graph") {
     std::cout << haldgen::kernelgen::to_dot(family.generated->graph(number, type));
   } else if (command == "code") {
-    std::cout << print(family.generated->source(number, type, Tuning()));
+    std::cout << print(source_of(family, number, type, Tuning(), false, flavour));
   } else {
     throw UsageError("unknown command");
   }
