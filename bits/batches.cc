@@ -166,7 +166,7 @@ Findings take_batch_sums(const Find& find_batch) {
   return findings;
 }
 
-int vector_bits(const Find& find_batch) {
+int batch_vector_bits(const Find& find_batch) {
   const Address address = find_batch("haldbGetVectorBits");
   return address == nullptr ? 128 : reinterpret_cast<std::int32_t (*)()>(address)();
 }

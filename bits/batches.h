@@ -11,6 +11,6 @@ namespace haldgen::bits {
 Findings take_batch_sums(const Find& find_batch);
 
 /// Bits of the vectors of the library; 128 if it does not say.
-int vector_bits(const Find& find_batch);
+int batch_vector_bits(const Find& find_batch);
 
 }  // namespace haldgen::bits

@@ -135,22 +135,21 @@ int run(const Find& find, std::span<const std::string> arguments, const std::str
     out << usage;
     return 0;
   }
-  if (command == "record" && arguments.size() == 2) {
-    return record(take_sums(find), arguments[1], out, errors);
-  }
+  const bool records = command == "record" && arguments.size() == 2;
   const bool batches = command == "batches";
-  if ((command != "compare" && !batches) || arguments.size() > 2) {
+  if ((command != "compare" && !batches && !records) || arguments.size() > 2) {
     errors << usage;
     return 2;
   }
-  auto lines = read(arguments.size() == 2 ? arguments[1] : published, errors);
-  if (!lines) return 2;
-  if (!batches) return compare(take_sums(find), *lines, "", out);
-  const int bits = vector_bits(find);
+  const int bits = batches ? batch_vector_bits(find) : vector_bits(find);
   if (!lanes::processor_has(bits)) {
     errors << "this processor has no vectors of " << bits << " bits\n";
     return 2;
   }
+  if (records) return record(take_sums(find), arguments[1], out, errors);
+  auto lines = read(arguments.size() == 2 ? arguments[1] : published, errors);
+  if (!lines) return 2;
+  if (!batches) return compare(take_sums(find), *lines, "", out);
   const Findings findings = take_batch_sums(find);
   std::erase_if(*lines, [&](const auto& line) { return !findings.contains(line.first); });
   return compare(findings, *lines, ", in batches of " + std::to_string(bits) + " bits", out);

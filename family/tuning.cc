@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 #include <sstream>
-#include <stdexcept>
 
 namespace haldgen::family {
 namespace {
@@ -53,19 +52,13 @@ Choice parse_choice(const std::string& text) {
   return choice;
 }
 
-Flavour flavour_named(std::string_view name) {
-  if (name == "x86-64-v3") return Flavour::v3;
-  if (name == "x86-64-v4") return Flavour::v4;
-  throw std::invalid_argument("no flavour: " + std::string(name));
-}
-
 Choice Tuning::of(std::string_view exported_name) const {
   if (everywhere_) return *everywhere_;
   const Row* const row = std::ranges::lower_bound(kRows, exported_name, {}, &Row::name);
   if (row == std::end(kRows) || row->name != exported_name) return {};
   Choice choice{{row->order, row->cap}, row->seed};
-  const Wider& wider = flavour_ == Flavour::v4 ? row->v4 : row->v3;
-  if (flavour_ != Flavour::baseline && wider.pairs.source != 0) {
+  const Wider& wider = vector_bits_ == 512 ? row->v4 : row->v3;
+  if (vector_bits_ > 128 && wider.pairs.source != 0) {
     choice.ordering = {wider.order, wider.cap};
     choice.pairs = wider.pairs;
   }

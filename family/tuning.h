@@ -8,6 +8,7 @@
 
 #include "kernelgen/paired.h"
 #include "kernelgen/schedule.h"
+#include "names/flavour.h"
 
 namespace haldgen::family {
 
@@ -25,19 +26,15 @@ struct Choice {
 /// throws if it is none.
 Choice parse_choice(const std::string& text);
 
-/// What a build is for: all processors of a machine, or some with wider vectors. A flavour has its
-/// own orders and pairs, and of all else what the baseline has, since its bits are the same.
-enum class Flavour { baseline, v3, v4 };
-
-/// By what compilers call the processors: "x86-64-v3". Throws if there is none.
-Flavour flavour_named(std::string_view name);
-
 /// The choices of all kernels.
 class Tuning {
  public:
   /// Those of the table.
   Tuning() = default;
-  explicit Tuning(Flavour flavour) : flavour_(flavour) {}
+  /// Those of a flavour: orders and pairs of its own, and of all else what the baseline has, since
+  /// its bits are the same. Families with such rows are told to the build by haldgen_flavoured in
+  /// cmake/HaldgenFamily.cmake.
+  explicit Tuning(const names::Flavour& flavour) : vector_bits_(flavour.vector_bits) {}
   /// The same choice everywhere, to measure with.
   explicit Tuning(const Choice& everywhere) : everywhere_(everywhere) {}
 
@@ -46,7 +43,7 @@ class Tuning {
 
  private:
   std::optional<Choice> everywhere_;
-  Flavour flavour_ = Flavour::baseline;
+  int vector_bits_ = 128;
 };
 
 }  // namespace haldgen::family

@@ -68,6 +68,15 @@ echo "The installed bits:"
 cat "$scratch/bits"
 test "$(cat "$scratch/bits")" = "1,193 of 1,193 as published"
 
+echo "Installed flavours:"
+# Those that the build has; each finds haldcore in the moved tree.
+for built in "$build"/glibc-hwcaps/*/libhaldgenp8.so.8; do
+  [ -e "$built" ] || continue
+  flavour=$libdir/${built#"$build"/}
+  echo "$flavour"
+  "$scratch/moved/bin/haldgen-bits" --library "$flavour" --help >/dev/null
+done
+
 echo "Absolute library folder:"
 "$cmake" -S "$source" -B "$scratch/absolute" -G "$generator" -DHALDGEN_BUILD_TESTS=OFF \
   -DHALDGEN_BUILD_EXAMPLES=OFF -DCMAKE_INSTALL_PREFIX=/prefix -DCMAKE_INSTALL_LIBDIR=/libraries \
