@@ -579,7 +579,7 @@ PyMODINIT_FUNC PyInit__core(void) {
   PyObject* module = PyModule_Create(&definition);
   if (!module) return NULL;
   if (!add_gufuncs(module) ||
-      PyModule_AddStringConstant(module, "__version__", HALDGEN_VERSION) < 0) {
+      PyModule_AddStringConstant(module, "__version__", HALDGEN_PYTHON_VERSION) < 0) {
     Py_DECREF(module);
     return NULL;
   }
