@@ -1,4 +1,4 @@
-// Many transforms in one call from JavaScript, which costs more than a small kernel does.
+// Many transforms in one call from JavaScript, which costs about as much as a small kernel does.
 #include <cstddef>
 #include <cstdint>
 
