@@ -31,8 +31,8 @@ constexpr std::string_view prologue =
 namespace haldgen::detail {
 
 // For each transform: its elements in src and dst and how many of them there are for n points, the
-// size of n points as a general function takes it, the functions from the first size on. No
-// function have sizes with a null pointer, sizes behind the end, and 0.
+// size of n points as a general function takes it, whether there is one, the functions from the
+// first size on. Not all compilers, with all options, know that a function is not null.
 )";
 
 std::string cpp_type(Element element) {
@@ -57,6 +57,19 @@ std::string point_list(const Word& word) {
   return (has_order(word) ? "2 to the power of " : "") + to_string(word.sizes);
 }
 
+/// A condition on size: "(size >= 2 && size <= 64) || (size >= 72 && size <= 72)".
+std::string is_one_of(const names::Sizes& sizes) {
+  std::string text;
+  for (auto first = sizes.begin(); first != sizes.end();) {
+    auto last = first;
+    while (last + 1 != sizes.end() && *(last + 1) == *last + 1) ++last;
+    text += (text.empty() ? "" : " || ") + ("(size >= " + std::to_string(*first)) +
+            " && size <= " + std::to_string(*last) + ")";
+    first = last + 1;
+  }
+  return text;
+}
+
 /// What does not depend on the element type.
 void emit_lengths(std::ostream& out, const Word& word) {
   const std::string size =
@@ -73,7 +86,10 @@ void emit_lengths(std::ostream& out, const Word& word) {
          "\"\n                  \""
       << transform_title(word) << ": " << point_list(word) << " points\");\n  }\n";
   out << "  static constexpr std::size_t first = " << word.sizes.first() << ";\n";
-  function("size", size);
+  function("size_of", size);
+  out << "  static constexpr bool has(std::size_t n) noexcept {\n"
+      << "    const std::size_t size = size_of(n);\n    return " << is_one_of(word.sizes)
+      << ";\n  }\n";
   function("src_size", elements_in(word.usage.src));
   function("dst_size", elements_in(word.usage.dst));
   out << "};\n\ntemplate <class T>\nstruct " << word.word << ";\n";

@@ -116,16 +116,15 @@ auto transform_all(const blocks<Src, N>& src, const blocks<Dst, M>& dst, scale s
                                 Shape<Dst, std::dynamic_extent>>())
       return status::ok;
     const std::size_t n = counts_destination<Table> ? dst.length : src.length;
-    if (find<Table>(n) == nullptr || src.length != Table::src_size(n) ||
-        dst.length != Table::dst_size(n)) {
+    if (!Table::has(n) || src.length != Table::src_size(n) || dst.length != Table::dst_size(n)) {
       return status::size_error;
     }
     if (src.count != dst.count) return status::bad_argument;
-    return static_cast<status>(call(batch_function<Table>, src, dst, Table::size(n), s));
+    return static_cast<status>(call(batch_function<Table>, src, dst, Table::size_of(n), s));
   } else {
     constexpr std::size_t n = points<Table, Shape<Src, N>, Shape<Dst, M>>();
     assert(src.count == dst.count);
-    if constexpr (n != 0) call(batch_function<Table>, src, dst, Table::size(n), s);
+    if constexpr (n != 0) call(batch_function<Table>, src, dst, Table::size_of(n), s);
   }
 }
 

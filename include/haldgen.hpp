@@ -155,23 +155,20 @@ using FloatOf = typename FloatOfElement<typename ShapeOf<B>::Value>::Type;
 /// The function of n points; null if there is none.
 template <class Table>
 [[nodiscard]] constexpr typename Table::Function find(std::size_t n) noexcept {
-  const std::size_t i = Table::size(n) - Table::first;
-  return i < std::size(Table::functions) ? Table::functions[i] : nullptr;
+  return Table::has(n) ? Table::functions[Table::size_of(n) - Table::first] : nullptr;
 }
 
 /// Whether there is a transform of n points; if not, the compiler says which there are.
 template <class Table, std::size_t n>
 [[nodiscard]] consteval bool is_length() noexcept {
-  constexpr bool is_there = find<Table>(n) != nullptr;
-  Table::template check_length<is_there>();
-  return is_there;
+  Table::template check_length<Table::has(n)>();
+  return Table::has(n);
 }
 
 /// Bytes of the work area of n points.
 template <class Table>
 [[nodiscard]] constexpr std::size_t work_bytes(std::size_t n) noexcept {
-  const std::size_t i = Table::size(n) - Table::first;
-  return i < std::size(Table::work_bytes) ? Table::work_bytes[i] : 0;
+  return Table::has(n) ? Table::work_bytes[Table::size_of(n) - Table::first] : 0;
 }
 
 /// Whether the points are counted in the destination: a half spectrum does not tell them.

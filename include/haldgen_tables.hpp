@@ -14,8 +14,8 @@
 namespace haldgen::detail {
 
 // For each transform: its elements in src and dst and how many of them there are for n points, the
-// size of n points as a general function takes it, the functions from the first size on. No
-// function have sizes with a null pointer, sizes behind the end, and 0.
+// size of n points as a general function takes it, whether there is one, the functions from the
+// first size on. Not all compilers, with all options, know that a function is not null.
 
 struct DFTFwd_CToC_lengths {
   static constexpr const char* title = "Forward complex DFT";
@@ -27,8 +27,12 @@ struct DFTFwd_CToC_lengths {
                   "Forward complex DFT: 2..64 points");
   }
   static constexpr std::size_t first = 2;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return n;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 2 && size <= 64);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n;
@@ -195,8 +199,12 @@ struct DFTInv_CToC_lengths {
                   "Inverse complex DFT: 2..64 points");
   }
   static constexpr std::size_t first = 2;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return n;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 2 && size <= 64);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n;
@@ -363,8 +371,12 @@ struct DFTFwd_RToCCS_lengths {
                   "Forward real DFT to CCS: 2..64 points");
   }
   static constexpr std::size_t first = 2;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return n;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 2 && size <= 64);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n;
@@ -531,8 +543,12 @@ struct DFTFwd_RToPack_lengths {
                   "Forward real DFT to Pack: 2..64 points");
   }
   static constexpr std::size_t first = 2;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return n;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 2 && size <= 64);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n;
@@ -699,8 +715,12 @@ struct DFTFwd_RToPerm_lengths {
                   "Forward real DFT to Perm: 2..64 points");
   }
   static constexpr std::size_t first = 2;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return n;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 2 && size <= 64);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n;
@@ -867,8 +887,12 @@ struct DFTInv_CCSToR_lengths {
                   "Inverse real DFT from CCS: 2..64 points");
   }
   static constexpr std::size_t first = 2;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return n;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 2 && size <= 64);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n / 2 + 1;
@@ -1035,8 +1059,12 @@ struct DFTInv_PackToR_lengths {
                   "Inverse real DFT from Pack: 2..64 points");
   }
   static constexpr std::size_t first = 2;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return n;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 2 && size <= 64);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n;
@@ -1203,8 +1231,12 @@ struct DFTInv_PermToR_lengths {
                   "Inverse real DFT from Perm: 2..64 points");
   }
   static constexpr std::size_t first = 2;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return n;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 2 && size <= 64);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n;
@@ -1371,8 +1403,12 @@ struct Hartley_lengths {
                   "Hartley transform: 2..64 points");
   }
   static constexpr std::size_t first = 2;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return n;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 2 && size <= 64);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n;
@@ -1539,8 +1575,12 @@ struct WHT_lengths {
                   "Walsh-Hadamard transform: 2 to the power of 1..13 points");
   }
   static constexpr std::size_t first = 1;
-  static constexpr std::size_t size(std::size_t n) noexcept {
+  static constexpr std::size_t size_of(std::size_t n) noexcept {
     return std::has_single_bit(n) ? std::size_t(std::countr_zero(n)) : 0;
+  }
+  static constexpr bool has(std::size_t n) noexcept {
+    const std::size_t size = size_of(n);
+    return (size >= 1 && size <= 13);
   }
   static constexpr std::size_t src_size(std::size_t n) noexcept {
     return n;
