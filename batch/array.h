@@ -33,13 +33,14 @@ struct Array {
   bool is_column() const { return dist == parts; }
 };
 
-/// Rows and positions that are transposed at once; rows that are shorter are moved by floats.
-template <class Float>
-inline constexpr int kSquare = 16 / static_cast<int>(sizeof(Float));
-
 /// Lanes of a vector type.
 template <class V>
 inline constexpr int kCount = static_cast<int>(sizeof(V) / sizeof(lanes::FloatOf<V>));
+
+/// Rows and positions that are transposed at once, in pieces of as many lanes; shorter rows are
+/// moved by floats.
+template <class V>
+inline constexpr int kSquare = sizeof(lanes::FloatOf<V>) == 4 || sizeof(V) == 64 ? 4 : 2;
 
 /// The longest transform of a tile: floats of 2^7 real or 2^6 complex numbers, or of the half
 /// spectrum of 2^6 real ones.
@@ -55,89 +56,85 @@ HALDGEN_INLINE const V* vectors(const lanes::FloatOf<V>* tile, int position) {
   return reinterpret_cast<const V*>(tile + position * kCount<V>);
 }
 
-/// The places of blocks from position 0 on: row r of block j is that of transform kSquare j + r.
-template <class Pointer, int kLaneCount>
+/// The places of pieces from position 0 on: row r of piece j is that of transform kSquare j + r.
+template <class V, class Pointer>
 struct RowsOfAll {
-  using Float = std::remove_const_t<Pointer>;
-  Pointer* block[kLaneCount / kSquare<Float>];
+  Pointer* first;
   std::ptrdiff_t dist;
 
-  explicit RowsOfAll(const Array<Pointer>& array) : dist(array.dist) {
-    Pointer* at = array.first;
-    for (Pointer*& first : block) {
-      first = at;
-      at += kSquare<Float> * dist;
-    }
+  explicit RowsOfAll(const Array<Pointer>& array) : first(array.first), dist(array.dist) {}
+  HALDGEN_INLINE Pointer* place(int j, int r, int p) const {
+    return first + (kSquare<V> * j + r) * dist + p;
   }
-  HALDGEN_INLINE Pointer* place(int j, int r, int p) const { return block[j] + r * dist + p; }
 };
 
 /// The same for fewer transforms than lanes: the rest have the row `other`.
-template <class Pointer, int kLaneCount>
+template <class V, class Pointer>
 struct RowsOfSome {
-  using Float = std::remove_const_t<Pointer>;
-  Pointer* row[kLaneCount];
+  Pointer* row[kCount<V>];
 
   RowsOfSome(const Array<Pointer>& array, int valid, Pointer* other) {
-    for (int l = 0; l < kLaneCount; ++l) row[l] = l < valid ? array.from(l).first : other;
+    for (int l = 0; l < kCount<V>; ++l) row[l] = l < valid ? array.from(l).first : other;
   }
-  HALDGEN_INLINE Pointer* place(int j, int r, int p) const {
-    return row[j * kSquare<Float> + r] + p;
-  }
+  HALDGEN_INLINE Pointer* place(int j, int r, int p) const { return row[kSquare<V> * j + r] + p; }
 };
 
-/// A square of each block, the vectors of kSquare positions from p on. Straight-line, since
+/// A square of each piece, the vectors of as many positions from p on. Straight-line, since
 /// compilers would keep vectors that loops index in memory.
-template <class Float>
-using Square = std::make_integer_sequence<int, kSquare<Float>>;
 template <class V, class Rows, int... r>
 HALDGEN_INLINE void load_square(lanes::FloatOf<V>* tile, const Rows& rows, int p,
-                                std::integer_sequence<int, r...> /*rows of a block*/) {
-  V square[] = {lanes::load_blocks<V>([&](int block) { return rows.place(block, r, p); })...};
-  lanes::transpose_blocks(square);
+                                std::integer_sequence<int, r...> /*rows of a piece*/) {
+  constexpr int kBytes = sizeof...(r) * sizeof(lanes::FloatOf<V>);
+  V square[] = {
+      lanes::load_pieces<kBytes, V>([&](int piece) { return rows.place(piece, r, p); })...};
+  lanes::transpose_pieces(square);
   ((vectors<V>(tile, p)[r] = square[r]), ...);
 }
 template <class V, class Rows, int... r>
 HALDGEN_INLINE void store_square(const Rows& rows, const lanes::FloatOf<V>* tile, int p,
-                                 std::integer_sequence<int, r...> /*rows of a block*/) {
+                                 std::integer_sequence<int, r...> /*rows of a piece*/) {
+  constexpr int kBytes = sizeof...(r) * sizeof(lanes::FloatOf<V>);
   V square[] = {vectors<V>(tile, p)[r]...};
-  lanes::transpose_blocks(square);
-  (lanes::store_blocks<V>(square[r], [&](int block) { return rows.place(block, r, p); }), ...);
+  lanes::transpose_pieces(square);
+  (lanes::store_pieces<kBytes, V>(square[r], [&](int piece) { return rows.place(piece, r, p); }),
+   ...);
 }
 
-/// All squares; the last two may overlap. Places are found here: what is copied in words and read
-/// in vectors waits for the stores.
-template <class V, class Rows, class Float, class... Arguments>
-void load_squares(Float* tile, int positions, const Arguments&... arguments) {
-  const Rows rows(arguments...);
-  constexpr int kSide = kSquare<Float>;
+/// Calls move(p) for squares that cover all positions; the last two may overlap.
+template <class V, class Move>
+HALDGEN_INLINE void each_square(int positions, const Move& move) {
+  constexpr int kSide = kSquare<V>;
   int p = 0;
-  for (; p + kSide <= positions; p += kSide) load_square<V>(tile, rows, p, Square<Float>());
-  if (p < positions) load_square<V>(tile, rows, positions - kSide, Square<Float>());
+  for (; p + kSide <= positions; p += kSide) move(p);
+  if (p < positions) move(positions - kSide);
 }
-template <class V, class Rows, class Float, class... Arguments>
+
+/// Places are found here: what is copied in words and read in vectors waits for the stores.
+template <class V, template <class, class> class Rows, class Float, class... Arguments>
+void load_squares(Float* tile, int positions, const Arguments&... arguments) {
+  const Rows<V, const Float> rows(arguments...);
+  each_square<V>(positions, [&](int p) HALDGEN_INLINE_BODY {
+    load_square<V>(tile, rows, p, std::make_integer_sequence<int, kSquare<V>>());
+  });
+}
+template <class V, template <class, class> class Rows, class Float, class... Arguments>
 void store_squares(const Float* tile, int positions, const Arguments&... arguments) {
-  const Rows rows(arguments...);
-  constexpr int kSide = kSquare<Float>;
-  int p = 0;
-  for (; p + kSide <= positions; p += kSide) store_square<V>(rows, tile, p, Square<Float>());
-  if (p < positions) store_square<V>(rows, tile, positions - kSide, Square<Float>());
+  const Rows<V, Float> rows(arguments...);
+  each_square<V>(positions, [&](int p) HALDGEN_INLINE_BODY {
+    store_square<V>(rows, tile, p, std::make_integer_sequence<int, kSquare<V>>());
+  });
 }
 template <class V, class Float>
 void load_rows(Float* tile, const Array<const Float>& from, int positions, int valid) {
-  if (valid == kCount<V>) {
-    return load_squares<V, RowsOfAll<const Float, kCount<V>>>(tile, positions, from);
-  }
-  load_squares<V, RowsOfSome<const Float, kCount<V>>>(tile, positions, from, valid, from.first);
+  if (valid == kCount<V>) return load_squares<V, RowsOfAll>(tile, positions, from);
+  load_squares<V, RowsOfSome>(tile, positions, from, valid, from.first);
 }
 template <class V, class Float>
 void store_rows(const Array<Float>& to, const Float* tile, int positions, int valid) {
-  if (valid == kCount<V>) {
-    return store_squares<V, RowsOfAll<Float, kCount<V>>>(tile, positions, to);
-  }
+  if (valid == kCount<V>) return store_squares<V, RowsOfAll>(tile, positions, to);
   Float unused[kTileFloats];
   Float* const other = unused;
-  store_squares<V, RowsOfSome<Float, kCount<V>>>(tile, positions, to, valid, other);
+  store_squares<V, RowsOfSome>(tile, positions, to, valid, other);
 }
 
 template <class V, class Float>
@@ -207,7 +204,7 @@ template <class V, class Float>
 void load_tile(Float* tile, const Array<const Float>& from, int positions, int valid) {
   const bool all = valid == kCount<V>;
   if (from.is_column() && all) return load_columns<V>(tile, from, positions / from.parts);
-  if (from.is_row() && positions >= kSquare<Float>) {
+  if (from.is_row() && positions >= kSquare<V>) {
     return load_rows<V>(tile, from, positions, valid);
   }
   if (!all) std::memset(tile, 0, static_cast<std::size_t>(positions) * sizeof(V));
@@ -217,7 +214,7 @@ template <class V, class Float>
 void store_tile(const Array<Float>& to, const Float* tile, int positions, int valid) {
   const bool all = valid == kCount<V>;
   if (to.is_column() && all) return store_columns<V>(to, tile, positions / to.parts);
-  if (to.is_row() && positions >= kSquare<Float>) {
+  if (to.is_row() && positions >= kSquare<V>) {
     return store_rows<V>(to, tile, positions, valid);
   }
   scatter(to, tile, positions, valid, kCount<V>, 1);

@@ -11,12 +11,15 @@ namespace haldgen::batch {
 template <class Float, Width kWidth = Width::whole>
 using Vector = lanes::WideVector<Float, kBytes<kWidth>>;
 
-enum class Side { plain, half_spectrum };
+/// Values of a half spectrum as the three formats have them, or as bins, both parts of each side by
+/// side.
+enum class Side { plain, half_spectrum, bins };
 
 template <class Body, Width kWidth, bool kInMemory, Side kSrc, Side kDst>
 struct RealIo {
   using Float = typename Body::Float;
   using V = Vector<Float, kWidth>;
+  static constexpr int kPart = kLanes<Float, kWidth>;
   Values<const Float> src;
   Values<Float> dst;
 
@@ -27,23 +30,52 @@ struct RealIo {
                   Body::kLength % 2 == 0) {
       return values.last;
     }
-    return values.middle + k * (kInMemory ? values.step : kLanes<Float, kWidth>);
+    return values.middle + k * (kInMemory ? values.step : kPart);
+  }
+
+  /// The bin of value k.
+  template <int k, class Pointer>
+  HALDGEN_INLINE static Pointer* bin(const Values<Pointer>& values) {
+    return values.first + (k + 1) / 2 * values.step;
   }
 
   template <int k>
   HALDGEN_INLINE V load() const {
-    return lanes::load_wide<V>(place<k, kSrc>(src));
+    if constexpr (kSrc == Side::bins) {
+      const Float* const from = bin<k>(src);
+      constexpr int part = k == 0 ? 0 : 1 - k % 2;
+      return lanes::every_second<part>(lanes::load_wide<V>(from),
+                                       lanes::load_wide<V>(from + kPart));
+    } else {
+      return lanes::load_wide<V>(place<k, kSrc>(src));
+    }
   }
   template <int k>
   HALDGEN_INLINE void store(V value) const {
-    lanes::store_wide<V>(place<k, kDst>(dst), value);
+    if constexpr (kDst == Side::bins) {
+      store<k>(value, V{});
+    } else {
+      lanes::store_wide<V>(place<k, kDst>(dst), value);
+    }
+  }
+  /// Values k and k + 1, a bin.
+  template <int k>
+  HALDGEN_INLINE void store(V re, V im) const {
+    if constexpr (kDst == Side::bins) {
+      lanes::store_wide<V>(bin<k>(dst), lanes::in_turns<0>(re, im));
+      lanes::store_wide<V>(bin<k>(dst) + kPart, lanes::in_turns<1>(re, im));
+    } else {
+      store<k>(re);
+      store<k + 1>(im);
+    }
   }
 
-  template <class Pointer>
+  template <Side kSide, class Pointer>
   HALDGEN_INLINE static void advance(Values<Pointer>& values) {
-    values.first += kLanes<Float, kWidth>;
-    values.middle += kLanes<Float, kWidth>;
-    values.last += kLanes<Float, kWidth>;
+    const int floats = kSide == Side::bins ? 2 * kPart : kPart;
+    values.first += floats;
+    values.middle += floats;
+    values.last += floats;
   }
 };
 
@@ -57,19 +89,28 @@ void run_real(const RealRun<typename Body::Float>& run) {
   const Float scale = run.scale;
   for (std::ptrdiff_t group = run.groups; group > 0; --group) {
     Body::template run<Vector<Float, kWidth>>(io, scale);
-    Io::advance(io.src);
-    Io::advance(io.dst);
+    Io::template advance<kSrc>(io.src);
+    Io::template advance<kDst>(io.dst);
   }
 }
 
 /// Long programs in 64 bits have no kernel in the shortest vectors: of two lanes each, it would be
 /// twice the code of the single function for little gain.
-template <class Body, Width kWidth, bool kInMemory, Side kSrc, Side kDst>
+template <class Body, Width kWidth, Reach kReach, Side kSrc, Side kDst>
 constexpr RealKernel<typename Body::Float> real_kernel() {
+  constexpr bool kInMemory = kReach != Reach::tiles;
   if constexpr (kWidth == Width::half && !kInMemory && kVectorBytes == 16) {
     return {nullptr, kWidth, kInMemory};
   } else {
-    return {run_real<Body, kWidth, kInMemory, kSrc, kDst>, kWidth, kInMemory};
+    RealKernel<typename Body::Float> kernel{run_real<Body, kWidth, kInMemory, kSrc, kDst>, kWidth,
+                                            kInMemory};
+    if constexpr (kReach == Reach::bins) {
+      constexpr auto as_bins = [](Side side) {
+        return side == Side::half_spectrum ? Side::bins : side;
+      };
+      kernel.bins = run_real<Body, kWidth, kInMemory, as_bins(kSrc), as_bins(kDst)>;
+    }
+    return kernel;
   }
 }
 
@@ -109,9 +150,9 @@ struct ColumnsIo {
   template <int element, int part>
   HALDGEN_INLINE V load() const {
     const Float* const from = src + element * src_step;
-    return lanes::every_second_of_blocks < kExchanged
-               ? 1 - part
-               : part > (lanes::load_wide<V>(from), lanes::load_wide<V>(from + kLanes<Float>));
+    constexpr int kPart = kExchanged ? 1 - part : part;
+    return lanes::every_second_of_blocks<kPart>(lanes::load_wide<V>(from),
+                                                lanes::load_wide<V>(from + kLanes<Float>));
   }
   template <int element>
   HALDGEN_INLINE void store(V re, V im) const {

@@ -5,9 +5,11 @@
 
 #include <cstddef>
 
-#include "batch/width.h"
+#include "lanes/width.h"
 
 namespace haldgen::batch {
+
+using lanes::kVectorBytes;
 
 /// Whole vectors, or half of them.
 enum class Width { whole, half };
@@ -17,6 +19,10 @@ inline constexpr int kBytes =
 
 template <class Float, Width kWidth = Width::whole>
 inline constexpr int kLanes = kBytes<kWidth> / static_cast<int>(sizeof(Float));
+
+/// Where the arrays of a kernel of real data may lie: in tiles; in columns as well; in columns of
+/// bins as well.
+enum class Reach { tiles, columns, bins };
 
 /// Values of transforms of real data. Value k is the vector at `middle + k * step`; of a half
 /// spectrum the first lies at `first`, and the last of an even number at `last`.
@@ -41,6 +47,8 @@ struct RealKernel {
   void (*run)(const RealRun<Float>& run);  ///< null: only the single function does it
   Width width;
   bool in_memory;  ///< takes values at any steps; else tiles only
+  /// Columns of samples and of bins, these at `first`; null: bins in tiles only.
+  void (*bins)(const RealRun<Float>& run) = nullptr;
 };
 
 /// A group in tiles, the parts of each element one behind the other.

@@ -96,11 +96,15 @@ void run_real_in(const RealTransform<Float>& transform, const Call<Float>& call,
   const bool from_memory = in_memory && call.src.parts == 1 && call.src.is_column();
   const bool to_memory = in_memory && call.dst.parts == 1 && call.dst.is_column();
   std::ptrdiff_t done = 0;
-  if (from_memory && to_memory && call.count >= kCountOfLanes) {
+  const bool bins = src == Format::ccs || dst == Format::ccs;
+  auto* const columns = bins ? transform.kernel->bins : transform.kernel->run;
+  if (in_memory && columns != nullptr && call.src.is_column() && call.dst.is_column() &&
+      call.count >= kCountOfLanes) {
     const std::ptrdiff_t groups = call.count / kCountOfLanes;
-    transform.kernel->run({values_of(call.src.first, call.src.step, src, points),
-                           values_of(call.dst.first, call.dst.step, dst, points), groups,
-                           call.scale});
+    const auto values = [&](auto& array, Format format) {
+      return values_of(array.first, array.step, bins ? Format::real : format, points);
+    };
+    columns({values(call.src, src), values(call.dst, dst), groups, call.scale});
     done = groups * kCountOfLanes;
   }
   if (done == call.count) return;

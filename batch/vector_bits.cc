@@ -1,6 +1,6 @@
 #include <cstdint>
 
-#include "batch/width.h"
 #include "haldbatch.h"
+#include "lanes/width.h"
 
-std::int32_t haldbGetVectorBits() { return 8 * haldgen::batch::kVectorBytes; }
+HALDGEN_NOTHROW std::int32_t haldbGetVectorBits() { return 8 * haldgen::lanes::kVectorBytes; }

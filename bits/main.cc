@@ -51,6 +51,9 @@ std::string published() {
 int main(int argc, char** argv) {
   std::vector<std::string> arguments(argv + 1, argv + argc);
   haldgen::bits::Find find = haldgen::bits::linked();
+#ifdef HALDGEN_BATCHES
+  if (!arguments.empty() && arguments[0] == "batches") find = haldgen::bits::linked_batches();
+#endif
   if (arguments.size() >= 2 && arguments[0] == "--library") {
     std::string error;
     find = haldgen::bits::loaded(arguments[1], error);

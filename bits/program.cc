@@ -10,16 +10,21 @@
 #include <ostream>
 #include <set>
 
+#include "bits/batches.h"
+#include "lanes/processor.h"
+
 namespace haldgen::bits {
 namespace {
 
 constexpr std::string_view usage =
     "usage: haldgen-bits [--library PATH] [compare [FILE]]\n"
+    "       haldgen-bits [--library PATH] batches [FILE]\n"
     "       haldgen-bits [--library PATH] record FILE\n"
     "       haldgen-bits --help\n"
     "Calls every function of the library that the program is linked with, or of the one at PATH,\n"
     "takes a checksum of the results and compares it with the published one, or with that in "
     "FILE.\n"
+    "batches does the same with the library of batches: every transform, many in a call.\n"
     "The exit status is 0 if all are equal, 1 if not, and 2 if there is nothing to compare with.\n"
     "record writes the checksums to FILE.\n";
 
@@ -78,7 +83,8 @@ std::string difference(const std::string& name, const Finding& finding, const Li
 }
 
 // What counts is functions.
-int compare(const Findings& findings, const Lines& published, std::ostream& out) {
+int compare(const Findings& findings, const Lines& published, const std::string& remark,
+            std::ostream& out) {
   std::set<std::string> all;
   std::set<std::string> bad;
   const auto take = [&](const std::string& name, const std::string& text) {
@@ -92,7 +98,7 @@ int compare(const Findings& findings, const Lines& published, std::ostream& out)
     if (!findings.contains(name)) take(name, "published, but there is no such function");
   }
   out << with_commas(all.size() - bad.size()) << " of " << with_commas(all.size())
-      << " as published\n";
+      << " as published" << remark << "\n";
   return bad.empty() ? 0 : 1;
 }
 
@@ -129,15 +135,24 @@ int run(const Find& find, std::span<const std::string> arguments, const std::str
     out << usage;
     return 0;
   }
-  if (command == "record" && arguments.size() == 2) {
-    return record(take_sums(find), arguments[1], out, errors);
-  }
-  if (command != "compare" || arguments.size() > 2) {
+  const bool records = command == "record" && arguments.size() == 2;
+  const bool batches = command == "batches";
+  if ((command != "compare" && !batches && !records) || arguments.size() > 2) {
     errors << usage;
     return 2;
   }
-  const auto lines = read(arguments.size() == 2 ? arguments[1] : published, errors);
-  return lines ? compare(take_sums(find), *lines, out) : 2;
+  const int bits = batches ? batch_vector_bits(find) : vector_bits(find);
+  if (!lanes::processor_has(bits)) {
+    errors << "this processor has no vectors of " << bits << " bits\n";
+    return 2;
+  }
+  if (records) return record(take_sums(find), arguments[1], out, errors);
+  auto lines = read(arguments.size() == 2 ? arguments[1] : published, errors);
+  if (!lines) return 2;
+  if (!batches) return compare(take_sums(find), *lines, "", out);
+  const Findings findings = take_batch_sums(find);
+  std::erase_if(*lines, [&](const auto& line) { return !findings.contains(line.first); });
+  return compare(findings, *lines, ", in batches of " + std::to_string(bits) + " bits", out);
 }
 
 }  // namespace haldgen::bits

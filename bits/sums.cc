@@ -2,6 +2,7 @@
 
 #include "bits/planned.h"
 #include "bits/taker.h"
+#include "names/flavour.h"
 
 namespace haldgen::bits {
 namespace {
@@ -80,9 +81,22 @@ Finding take_general(const Find& find, const LinkedFunction& general, const Find
   return {checksum.value(), {}};
 }
 
+using Version = const LibraryVersion*();
+
+/// The flavour that a record is of; null if its words are none's.
+const names::Flavour* flavour_of(const LibraryVersion& record) {
+  for (const names::Flavour& flavour : names::flavours) {
+    if (std::memcmp(flavour.tag, record.processorTag, sizeof flavour.tag) == 0 &&
+        std::strcmp(flavour.name, record.name) == 0) {
+      return &flavour;
+    }
+  }
+  return nullptr;
+}
+
 Finding take_version(const Find& find, const LinkedFunction& f) {
   Library library(find);
-  auto* const version = library.function<const LibraryVersion*()>(f.name);
+  auto* const version = library.function<Version>(f.name);
   if (!library.complete()) return library.lack();
   const LibraryVersion* const record = version();
   if (record == nullptr) return {0, "no record"};
@@ -91,8 +105,12 @@ Finding take_version(const Find& find, const LinkedFunction& f) {
        {record->majorVersion, record->minorVersion, record->updateLevel, record->sourceRevision}) {
     checksum.add_number(static_cast<std::uint32_t>(number));
   }
-  std::string text(record->processorTag, sizeof record->processorTag);
-  for (const char* const part : {record->name, record->versionText, record->buildDate}) {
+  // Flavours differ in the two words that tell them apart: the sum is that of the baseline.
+  const bool known = flavour_of(*record) != nullptr;
+  const char* const tag = known ? names::flavours[0].tag : record->processorTag;
+  const char* const name = known ? names::flavours[0].name : record->name;
+  std::string text(tag, sizeof record->processorTag);
+  for (const char* const part : {name, record->versionText, record->buildDate}) {
     text += part;
     text += '\0';
   }
@@ -125,6 +143,14 @@ Findings take_sums(const Find& find) {
     }
   }
   return findings;
+}
+
+int vector_bits(const Find& find) {
+  const Address address = find("haldgenGetLibVersion");
+  const LibraryVersion* const record =
+      address == nullptr ? nullptr : reinterpret_cast<Version*>(address)();
+  const names::Flavour* const flavour = record == nullptr ? nullptr : flavour_of(*record);
+  return (flavour == nullptr ? names::flavours[0] : *flavour).vector_bits;
 }
 
 }  // namespace haldgen::bits

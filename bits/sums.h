@@ -31,11 +31,16 @@ using Findings = std::map<std::string, Finding>;
 /// not;
 /// - of a set-up, of all statuses for such lengths, and of what transforms do with the states;
 /// - of a release, of its statuses;
-/// - of the version, of all that its record says.
+/// - of the version, of all that its record says; where that names a flavour, of what the
+/// baseline's
+///   says.
 ///
 /// Faults: a missing function, a status, results that hang on where the arrays lie, on the work
 /// buffer or on the place of a state, general entries whose results are not those of the fixed
 /// size.
 Findings take_sums(const Find& find);
+
+/// Bits of the vectors of the library, as its version record has them; 128 if it does not say.
+int vector_bits(const Find& find);
 
 }  // namespace haldgen::bits

@@ -57,35 +57,78 @@ endfunction()
 
 # Sources that haldgen-generate writes, one for each kernel and element type so that a build
 # parallelises, in <binary dir>/generated. A kernel that is missing fails the link of the library.
-#   haldgen_generated_sources(VARIABLE FAMILY KERNELS kernel... TYPES type... [COMMAND batch])
+# They are the same for all machines: a build with the programs of another has its sources, too, if
+# they are there. Target haldgen_generated makes all.
+#   haldgen_generated_sources(VARIABLE FAMILY KERNELS kernel... TYPES type... [COMMAND batch]
+#                             [FLAVOUR flavour])
+# Families in haldgen_flavoured have sources of their own in each flavour; others have the same.
+set(haldgen_flavoured complex)
 set(HALDGEN_TUNING "" CACHE STRING
     "Tuning of all kernels, such as critical:16:0, to measure with; empty for the table")
+add_custom_target(haldgen_generated)
 function(haldgen_generated_sources variable family)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "" "COMMAND" "KERNELS;TYPES")
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "COMMAND;FLAVOUR" "KERNELS;TYPES")
   if(NOT arg_COMMAND)
     set(arg_COMMAND source)
   endif()
   set(folder ${CMAKE_CURRENT_BINARY_DIR}/generated)
+  set(written_before OFF)
+  set(options ${HALDGEN_TUNING})
+  if(arg_FLAVOUR AND family IN_LIST haldgen_flavoured)
+    string(APPEND folder /${arg_FLAVOUR})
+    string(REPLACE x86-64- "" tag ${arg_FLAVOUR})
+    list(APPEND options --flavour ${tag})
+  elseif(arg_FLAVOUR)
+    set(written_before ON)
+  endif()
   file(MAKE_DIRECTORY ${folder})
+  set(made)
+  if(HALDGEN_HOST_TOOLS AND NOT HALDGEN_TUNING)
+    file(RELATIVE_PATH made ${PROJECT_BINARY_DIR} ${folder})
+    set(made ${HALDGEN_HOST_TOOLS}/${made})
+  endif()
   set(sources ${${variable}})
   foreach(kernel IN LISTS arg_KERNELS)
     foreach(type IN LISTS arg_TYPES)
-      set(source ${folder}/${family}_${kernel}_${type}.cc)
+      set(name ${family}_${kernel}_${type}.cc)
+      if(made AND EXISTS ${made}/${name})
+        list(APPEND sources ${made}/${name})
+        continue()
+      endif()
+      set(source ${folder}/${name})
+      list(APPEND sources ${source})
+      if(written_before)
+        continue()
+      endif()
       add_custom_command(
         OUTPUT ${source}
-        COMMAND ${haldgen_generate} ${arg_COMMAND} ${family} ${kernel} ${type} ${source} ${HALDGEN_TUNING}
+        COMMAND ${haldgen_generate} ${arg_COMMAND} ${family} ${kernel} ${type} ${source} ${options}
         DEPENDS ${haldgen_generate}
         VERBATIM)
-      list(APPEND sources ${source})
     endforeach()
   endforeach()
   set(${variable} ${sources} PARENT_SCOPE)
+  string(MAKE_C_IDENTIFIER "${folder}/${family}/${arg_COMMAND}" target)
+  if(NOT written_before)
+    add_custom_target(generated_${target} DEPENDS ${sources})
+    add_dependencies(haldgen_generated generated_${target})
+  endif()
 endfunction()
 
-# What is compiled into the library.
-function(haldgen_family_kernels folder)
-  add_library(haldgen_${folder} OBJECT ${ARGN})
-  target_include_directories(haldgen_${folder} PRIVATE
+# What is compiled into the library in a flavour, and what all flavours share.
+#   haldgen_family_kernels(FOLDER FLAVOUR SOURCE... [OPTIONS option...])
+#   haldgen_family_common(FOLDER SOURCE...)
+function(haldgen_family_kernels folder flavour)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "OPTIONS")
+  haldgen_flavour_target(target haldgen_${folder} "${flavour}")
+  add_library(${target} OBJECT ${arg_UNPARSED_ARGUMENTS})
+  add_dependencies(${target} haldgen_generated)
+  target_include_directories(${target} PRIVATE
     ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/haldcore)
-  haldgen_kernels(haldgen_${folder})
+  haldgen_kernels(${target})
+  target_compile_options(${target} PRIVATE ${arg_OPTIONS})
+  haldgen_compile_for("${flavour}" ${target})
+endfunction()
+function(haldgen_family_common folder)
+  haldgen_family_kernels(${folder}_common "" ${ARGN})
 endfunction()

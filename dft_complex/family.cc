@@ -41,7 +41,8 @@ family::Transforms transforms(int length, FloatType type, const family::Tuning& 
   const family::Choice there = tuning.of(forward);
   const family::Choice back = tuning.of(inverse);
   if (there.seed != back.seed) throw std::logic_error("two seeds for the forms of " + forward);
-  const Programs programs = programs_of(design_of(length, type), type, there.seed);
+  const Programs programs =
+      programs_of(design_of(length, type), type, there.seed, {there.pairs, back.pairs});
   const family::Work counts = work(length, type);
 
   family::Transforms result;
@@ -55,6 +56,7 @@ family::Transforms transforms(int length, FloatType type, const family::Tuning& 
                       std::to_string(counts.depth) + ", and the scale\n";
   result.command = "complex " + std::to_string(length) + " " + std::string(names::suffix(element));
   result.includes = {"family/contract.h"};
+  if (there.pairs || back.pairs) result.includes.emplace_back("lanes/paired.h");
   result.scope = "dft_complex";
   family::Transform transform{"Forward", length, Divides::forward, element};
   const Recipe& recipe = design_of(length, type).recipe;

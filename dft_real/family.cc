@@ -124,7 +124,9 @@ struct Family {
     source.algorithm = algorithm(length, type) + (kForward ? "" : ", transposed");
     const kernelgen::Program program = scheduled(program_of(design_of(length, kDirection), type),
                                                  choice.ordering, overlap_of(length, kDirection));
-    source.kernels = {lane_kernel({"Body", length, element}, program, choice)};
+    source.kernels = {
+        lane_kernel({.name = "Body", .length = length, .element = element, .stores_bins = kForward},
+                    program, choice)};
     source.functions = {family::real_batch(
         kName, length, element, program,
         kForward ? "Side::plain, Side::half_spectrum" : "Side::half_spectrum, Side::plain")};

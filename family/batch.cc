@@ -67,8 +67,9 @@ bool is_mostly_wide(const kernelgen::Program& lanes) {
 
 Kernel lane_kernel(const LaneBody& body, kernelgen::Program program, const Choice& choice) {
   program.lanewise = true;
-  program.memory =
-      is_complex(body.element) ? kernelgen::Memory::elements : kernelgen::Memory::slots;
+  program.memory = is_complex(body.element) ? kernelgen::Memory::elements
+                   : body.stores_bins       ? kernelgen::Memory::half_spectrum
+                                            : kernelgen::Memory::slots;
   return body_kernel(body, program, choice);
 }
 
@@ -77,12 +78,23 @@ Kernel block_kernel(const LaneBody& body, kernelgen::Program program, const Choi
   return body_kernel(body, program, choice);
 }
 
+namespace {
+
+/// What a point of a program costs: its instructions but loads and stores, those in 64 bits of a
+/// mixed program, which take two vectors, counted so many times.
+double work_of_point(const kernelgen::Program& lanes, int length, int wide) {
+  int work = 0;
+  for (const kernelgen::Instruction& in : lanes.code) {
+    if (kernelgen::is_load(in.op) || kernelgen::is_store(in.op)) continue;
+    work += in.wide && lanes.type == FloatType::f32 ? wide : 1;
+  }
+  return static_cast<double>(work) / length;
+}
+
+}  // namespace
+
 bool is_light(const kernelgen::Program& lanes, int length) {
-  constexpr int kInstructionsOfPoint = 25;
-  const auto count = std::ranges::count_if(lanes.code, [](const kernelgen::Instruction& in) {
-    return !kernelgen::is_load(in.op) && !kernelgen::is_store(in.op);
-  });
-  return count <= kInstructionsOfPoint * length;
+  return work_of_point(lanes, length, 1) <= 25;
 }
 
 bool is_of_blocks(const kernelgen::Program& packed) {
@@ -101,11 +113,15 @@ bool is_of_blocks(const kernelgen::Program& packed) {
 
 std::string real_batch(const std::string& family, int size, names::Element element,
                        const kernelgen::Program& lanes, const std::string& sides) {
+  // The less there is to do, the more a way through tiles counts.
+  const std::string reach = work_of_point(lanes, size, 2) <= 12 ? "bins"
+                            : is_light(lanes, size)             ? "columns"
+                                                                : "tiles";
   const std::string symbol = "const RealKernel<" + kernelgen::type_name(type_of(element)) + "> " +
                              batch_symbol(family, element, size);
   return "extern " + symbol + ";\n" + symbol + " = real_kernel<Body, " +
-         (is_mostly_wide(lanes) ? "Width::half" : "Width::whole") + ", " +
-         (is_light(lanes, size) ? "true" : "false") + ", " + sides + ">();\n";
+         (is_mostly_wide(lanes) ? "Width::half" : "Width::whole") + ", " + "Reach::" + reach +
+         ", " + sides + ">();\n";
 }
 
 std::string complex_batch(const std::string& family, int size, names::Element element,

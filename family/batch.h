@@ -23,6 +23,7 @@ struct LaneBody {
   int length = 0;
   names::Element element = names::Element::none;
   std::optional<int> convolution = {};  ///< as in Transform
+  bool stores_bins = false;             ///< its results are a half spectrum
 };
 Kernel lane_kernel(const LaneBody& body, kernelgen::Program program, const Choice& choice);
 

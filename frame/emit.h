@@ -13,6 +13,10 @@ namespace haldgen::frame {
 /// The public header, include/haldgen.h.
 std::string emit_header();
 
+/// The tables of the C++ headers, include/haldgen_tables.hpp and include/haldbatch_tables.hpp.
+std::string emit_tables();
+std::string emit_batch_tables();
+
 /// Assembly: the table of entry slots and the forwarding entries.
 std::string emit_entries();
 
@@ -43,6 +47,8 @@ std::string emit_batch_exports();
 
 /// C++ source: the entries of batches.
 std::string emit_batch_entries();
+/// C++ source: what a program that is linked with them has (linked_functions.h).
+std::string emit_linked_batches();
 
 /// C++ source: the functions that a program is linked with (linked_functions.h), those of the
 /// library or of kernels that stand alone, in order of their names.

@@ -116,7 +116,8 @@ std::string emit_entry_functions() {
       << "#include \"implementations.h\"\n\nextern \"C\" {\n\n";
   for (const Export& function : registry::exports()) {
     const Signature signature = function.word->signature;
-    out << declaration(signature, function.element, function.name) << " {\n  return "
+    out << "HALDGEN_NOTHROW " << declaration(signature, function.element, function.name)
+        << " {\n  return "
         << implementation_symbol(function.name) << "("
         << joined_names(parameters(signature, function.element)) << ");\n}\n";
   }

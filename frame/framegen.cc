@@ -24,6 +24,7 @@ struct Output {
 
 constexpr Output outputs[] = {
     {"header", haldgen::frame::emit_header, "the public header"},
+    {"tables", haldgen::frame::emit_tables, "what the C++ header looks up"},
     {"entries", haldgen::frame::emit_entries, "slots and forwarding entries, assembly"},
     {"entry_functions", haldgen::frame::emit_entry_functions, "entries without slots, C++"},
     {"exports", haldgen::frame::emit_exports, "linker version script"},
@@ -33,8 +34,10 @@ constexpr Output outputs[] = {
     {"linked_functions", [] { return haldgen::frame::emit_linked_functions(registry::exports()); },
      "names, addresses and arrays, C++"},
     {"batch_header", haldgen::frame::emit_batch_header, "the public header of batches"},
+    {"batch_tables", haldgen::frame::emit_batch_tables, "what their C++ header looks up"},
     {"batch_exports", haldgen::frame::emit_batch_exports, "their linker version script"},
     {"batch_entries", haldgen::frame::emit_batch_entries, "their entries, C++"},
+    {"linked_batches", haldgen::frame::emit_linked_batches, "their names and addresses, C++"},
     {"list", haldgen::frame::emit_list, "all names"},
     {"summary", haldgen::frame::emit_summary, "families and how many functions they have"},
 };

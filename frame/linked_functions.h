@@ -30,4 +30,12 @@ struct LinkedFunction {
 /// All of them, in ascending byte order of their names.
 std::span<const LinkedFunction> linked_functions();
 
+struct LinkedBatch {
+  std::string_view name;
+  void (*address)();
+};
+
+/// Those of the library of batches, in any order; defined where a program is linked with it.
+std::span<const LinkedBatch> linked_batches();
+
 }  // namespace haldgen::frame

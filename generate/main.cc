@@ -18,14 +18,16 @@ using haldgen::family::Family;
 using haldgen::family::FloatType;
 using haldgen::family::Tuning;
 using haldgen::family::Work;
+using haldgen::names::Flavour;
 
 constexpr std::string_view kUsage =
     "usage: haldgen-generate list\n"
     "       haldgen-generate counts [FAMILY]\n"
     "       haldgen-generate recipe|counts|graph|code FAMILY KERNEL TYPE\n"
-    "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [ORDER:CAP:SEED]\n"
+    "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [TUNING]\n"
+    "       haldgen-generate source|code ... --flavour TAG\n"
     "       haldgen-generate constants FAMILY FILE\n"
-    "       haldgen-generate single FAMILY LENGTH TYPE [ORDER:CAP:SEED] [-o FILE]\n"
+    "       haldgen-generate single FAMILY LENGTH TYPE [TUNING] [-o FILE]\n"
     "       haldgen-generate single-header [FAMILY LENGTH TYPE]... [-o FILE]\n"
     "  list     the families with their kernels and element types\n"
     "  counts   operation counts of all transforms, of a family's kernels or of one, as a table\n"
@@ -37,10 +39,13 @@ constexpr std::string_view kUsage =
     "  single   a kernel to go: its source in C, which is C++ as well, for a file that stands "
     "alone\n"
     "  single-header  the declarations of such kernels\n"
+    "  TAG      v3 or v4, a flavour: its vectors and its column of the table\n"
     "  KERNEL   a length, or the name of a part of planned transforms\n"
     "  TYPE     32f or 64f; of complex elements 32fc or 64fc\n"
+    "  TUNING   ORDER:CAP:SEED[:SOURCE:DESTINATION] instead of the table's\n"
     "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
-    "           SEED a number that varies the choice of forms of vector kernels\n";
+    "           SEED a number that varies the choice of forms of vector kernels,\n"
+    "           SOURCE and DESTINATION distances of elements that share a wider vector\n";
 
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
@@ -161,7 +166,9 @@ void run_single(std::vector<std::string> args) {
   const bool header = args[0] == "single-header";
   Tuning tuning;
   if (!header && args.size() == 5) {
-    tuning = Tuning(haldgen::family::parse_choice(args.back()));
+    const haldgen::family::Choice choice = haldgen::family::parse_choice(args.back());
+    if (choice.pairs) throw UsageError("kernels to go have vectors of one width");
+    tuning = Tuning(choice);
     args.pop_back();
   }
   if (args.size() % 3 != 1 || (!header && args.size() != 4)) throw UsageError("arguments");
@@ -176,8 +183,21 @@ void run_single(std::vector<std::string> args) {
   if (!(std::cout << text << std::flush)) throw std::runtime_error("cannot write the output");
 }
 
-void run(const std::vector<std::string>& args) {
+/// Takes an option and its value from the arguments; null if it is not there.
+const Flavour* take_flavour(std::vector<std::string>& args) {
+  const auto option = std::find(args.begin(), args.end(), "--flavour");
+  if (option == args.end()) return nullptr;
+  if (option + 1 == args.end()) throw UsageError("no flavour");
+  const Flavour* const flavour = haldgen::names::flavour_of(*(option + 1));
+  if (flavour == nullptr) throw UsageError("no flavour: " + *(option + 1));
+  if (args[0] != "source" && args[0] != "code") throw UsageError("flavours have sources only");
+  args.erase(option, option + 2);
+  return flavour;
+}
+
+void run(std::vector<std::string> args) {
   if (args.empty()) throw UsageError("no command");
+  const Flavour* const flavour = take_flavour(args);
   const std::string& command = args[0];
   if (command == "list" && args.size() == 1) return print_list();
   if (command == "counts" && args.size() <= 2) {
@@ -195,11 +215,11 @@ void run(const std::vector<std::string>& args) {
   const int number = kernel_named(family, args[2]);
   const FloatType type = type_named(family, args[3]);
   const bool batch = command == "batch";
+  Tuning tuning = flavour == nullptr ? Tuning() : Tuning(*flavour);
   if ((command == "source" || batch) && (args.size() == 5 || args.size() == 6)) {
+    if (args.size() == 6) tuning = Tuning(haldgen::family::parse_choice(args[5]));
     if (batch && family.generated->batch == nullptr) throw UsageError("a family without batches");
     const auto source = batch ? family.generated->batch : family.generated->source;
-    const Tuning tuning =
-        args.size() == 5 ? Tuning() : Tuning(haldgen::family::parse_choice(args[5]));
     return write_file(args[4], print(source(number, type, tuning)));
   }
   if (args.size() != 4) throw UsageError("arguments");
@@ -211,7 +231,7 @@ void run(const std::vector<std::string>& args) {
   } else if (command == "graph") {
     std::cout << haldgen::kernelgen::to_dot(family.generated->graph(number, type));
   } else if (command == "code") {
-    std::cout << print(family.generated->source(number, type, Tuning()));
+    std::cout << print(family.generated->source(number, type, tuning));
   } else {
     throw UsageError("unknown command");
   }

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "lanes/inline.h"
+#include "lanes/width.h"
 
 namespace haldgen::lanes {
 
@@ -99,6 +100,15 @@ struct InTurnsOfBlocks {
   }
 };
 
+/// In each pair of blocks of a and b, their first ones, or their second ones.
+template <int kBlockLanes, int kLanes, int kHalf>
+struct SameBlocks {
+  static constexpr int of(int i) {
+    const bool second = i / kBlockLanes % 2 != 0;
+    return i - (second ? kBlockLanes : 0) + kHalf * kBlockLanes + (second ? kLanes : 0);
+  }
+};
+
 /// Of complex elements in a and b the real or imaginary parts; and back again.
 template <int kFirst, class V>
 HALDGEN_INLINE V every_second(V a, V b) {
@@ -121,15 +131,13 @@ HALDGEN_INLINE V in_turns_of_blocks(V a, V b) {
 
 /// The rows of a square matrix in each block, transposed.
 template <class D>
-requires std::is_same_v < FloatOf<D>,
-double > HALDGEN_INLINE void transpose_blocks(D (&rows)[2]) {
+requires(std::is_same_v<FloatOf<D>, double>) HALDGEN_INLINE void transpose_blocks(D (&rows)[2]) {
   const D low = in_turns_of_blocks<0>(rows[0], rows[1]);
   rows[1] = in_turns_of_blocks<1>(rows[0], rows[1]);
   rows[0] = low;
 }
 template <class F>
-requires std::is_same_v < FloatOf<F>,
-float > HALDGEN_INLINE void transpose_blocks(F (&rows)[4]) {
+requires(std::is_same_v<FloatOf<F>, float>) HALDGEN_INLINE void transpose_blocks(F (&rows)[4]) {
   using D = WideVector<double, WideTraits<F>::kBytes>;
   D low[2] = {reinterpret_cast<D>(in_turns_of_blocks<0>(rows[0], rows[1])),
               reinterpret_cast<D>(in_turns_of_blocks<0>(rows[2], rows[3]))};
@@ -141,6 +149,30 @@ float > HALDGEN_INLINE void transpose_blocks(F (&rows)[4]) {
   rows[1] = reinterpret_cast<F>(low[1]);
   rows[2] = reinterpret_cast<F>(high[0]);
   rows[3] = reinterpret_cast<F>(high[1]);
+}
+
+/// Likewise in each pair of blocks: by blocks first, whose pairs then change places.
+template <class V, std::size_t... r>
+HALDGEN_INLINE void transpose_pairs_of_blocks(V (&rows)[2 * sizeof...(r)],
+                                              std::index_sequence<r...> /*half of the rows*/) {
+  using T = WideTraits<V>;
+  constexpr std::size_t kHalf = sizeof...(r);
+  V low[] = {rows[r]...};
+  V high[] = {rows[kHalf + r]...};
+  transpose_blocks(low);
+  transpose_blocks(high);
+  ((rows[r] = shuffled<SameBlocks<T::kBlockLanes, T::kLanes, 0>>(low[r], high[r])), ...);
+  ((rows[kHalf + r] = shuffled<SameBlocks<T::kBlockLanes, T::kLanes, 1>>(low[r], high[r])), ...);
+}
+
+/// The rows of a square matrix in each piece of a vector, a block or two, transposed.
+template <class V, std::size_t kRows>
+HALDGEN_INLINE void transpose_pieces(V (&rows)[kRows]) {
+  if constexpr (kRows == WideTraits<V>::kBlockLanes) {
+    transpose_blocks(rows);
+  } else {
+    transpose_pairs_of_blocks(rows, std::make_index_sequence<kRows / 2>());
+  }
 }
 
 }  // namespace haldgen::lanes
@@ -156,11 +188,9 @@ float > HALDGEN_INLINE void transpose_blocks(F (&rows)[4]) {
 
 namespace haldgen::lanes {
 
-/// Blocks from `place(0)`, `place(1)`, ...
-template <class V, class Place>
-HALDGEN_INLINE V load_blocks(const Place& place) {
-  using Block = typename WideTraits<V>::Block;
-  const auto block = [&](int j) { return load_wide<Block>(place(j)); };
+/// The vector of the blocks that `block` makes of 0, 1, ...
+template <class V, class MakeBlock>
+HALDGEN_INLINE V of_blocks(const MakeBlock& block) {
   if constexpr (WideTraits<V>::kBlocks == 1) {
     return block(0);
   } else if constexpr (WideTraits<V>::kBlocks == 2) {
@@ -169,25 +199,53 @@ HALDGEN_INLINE V load_blocks(const Place& place) {
     return joined_blocks(block(0), block(1), block(2), block(3));
   }
 }
-template <class V, class Place>
-HALDGEN_INLINE void store_blocks(V v, const Place& place) {
-  using Block = typename WideTraits<V>::Block;
-  store_wide<Block>(place(0), block_of<0>(v));
-  if constexpr (WideTraits<V>::kBlocks > 1) store_wide<Block>(place(1), block_of<1>(v));
+/// Calls take(j, block j) for each block.
+template <class V, class Take>
+HALDGEN_INLINE void each_block(V v, const Take& take) {
+  take(0, block_of<0>(v));
+  if constexpr (WideTraits<V>::kBlocks > 1) take(1, block_of<1>(v));
   if constexpr (WideTraits<V>::kBlocks > 2) {
-    store_wide<Block>(place(2), block_of<2>(v));
-    store_wide<Block>(place(3), block_of<3>(v));
+    take(2, block_of<2>(v));
+    take(3, block_of<3>(v));
   }
 }
 
-/// Bytes of the machine's vectors.
-#if defined(__AVX512F__)
-inline constexpr int kMostBytes = 64;
-#elif defined(__AVX__)
-inline constexpr int kMostBytes = 32;
-#else
-inline constexpr int kMostBytes = 16;
-#endif
+/// Blocks from `place(0)`, `place(1)`, ...
+template <class V, class Place>
+HALDGEN_INLINE V load_blocks(const Place& place) {
+  using Block = typename WideTraits<V>::Block;
+  return of_blocks<V>([&](int j) { return load_wide<Block>(place(j)); });
+}
+template <class V, class Place>
+HALDGEN_INLINE void store_blocks(V v, const Place& place) {
+  using Block = typename WideTraits<V>::Block;
+  each_block(v, [&](int j, Block block) { store_wide<Block>(place(j), block); });
+}
+
+/// The same for pieces of so many bytes.
+template <int kBytes, class V, class Place>
+HALDGEN_INLINE V load_pieces(const Place& place) {
+  if constexpr (kBytes == 16) {
+    return load_blocks<V>(place);
+  } else if constexpr (kBytes == sizeof(V)) {
+    return load_wide<V>(place(0));
+  } else {
+    using Half = WideVector<FloatOf<V>, sizeof(V) / 2>;
+    return joined_halves(load_wide<Half>(place(0)), load_wide<Half>(place(1)));
+  }
+}
+template <int kBytes, class V, class Place>
+HALDGEN_INLINE void store_pieces(V v, const Place& place) {
+  if constexpr (kBytes == 16) {
+    store_blocks<V>(v, place);
+  } else if constexpr (kBytes == sizeof(V)) {
+    store_wide<V>(place(0), v);
+  } else {
+    using Half = WideVector<FloatOf<V>, sizeof(V) / 2>;
+    store_wide<Half>(place(0), half_of<0>(v));
+    store_wide<Half>(place(1), half_of<1>(v));
+  }
+}
 
 /// A vector of 32-bit floats in 64 bits: one vector, if the machine has any that long, else two.
 template <class V>
@@ -217,7 +275,7 @@ HALDGEN_INLINE Widened<V> operator-(double a, const Widened<V>& b) {
 }
 template <class V>
 HALDGEN_INLINE auto widen(V v) {
-  if constexpr (2 * sizeof(V) <= kMostBytes) {
+  if constexpr (2 * sizeof(V) <= kVectorBytes) {
     return widened(v);
   } else {
     return Widened<V>{{widened_half<0>(v), widened_half<1>(v)}};
@@ -271,51 +329,32 @@ HALDGEN_INLINE V gather_in_blocks(V a, V b) {
   return shuffled<Gathered<WideTraits<V>::kLanes, kHalfA, kHalfB, kCrossA, kCrossB>>(a, b);
 }
 
-/// Two halves of 32-bit blocks, each from a place of its own.
+HALDGEN_INLINE double two_floats_at(const float* from) {
+  double element;
+  __builtin_memcpy(&element, from, sizeof element);
+  return element;
+}
+/// Blocks of two floats from each of two places, or from one, with zeros above.
 template <class V, class Lower, class Upper>
 HALDGEN_INLINE V load_half_blocks(const Lower& lower, const Upper& upper) {
-  const auto block = [&](int j) {
-    double a, b;
-    __builtin_memcpy(&a, lower(j), sizeof a);
-    __builtin_memcpy(&b, upper(j), sizeof b);
-    return reinterpret_cast<WideVector<float, 16>>(WideVector<double, 16>{a, b});
-  };
-  if constexpr (WideTraits<V>::kBlocks == 1) {
-    return block(0);
-  } else if constexpr (WideTraits<V>::kBlocks == 2) {
-    return joined_blocks(block(0), block(1));
-  } else {
-    return joined_blocks(block(0), block(1), block(2), block(3));
-  }
+  return of_blocks<V>([&](int j) {
+    return reinterpret_cast<WideVector<float, 16>>(
+        WideVector<double, 16>{two_floats_at(lower(j)), two_floats_at(upper(j))});
+  });
 }
 template <class V, class Lower>
 HALDGEN_INLINE V load_lower_half_blocks(const Lower& lower) {
-  const auto block = [&](int j) {
-    double a;
-    __builtin_memcpy(&a, lower(j), sizeof a);
-    return reinterpret_cast<WideVector<float, 16>>(WideVector<double, 16>{a, 0});
-  };
-  if constexpr (WideTraits<V>::kBlocks == 1) {
-    return block(0);
-  } else if constexpr (WideTraits<V>::kBlocks == 2) {
-    return joined_blocks(block(0), block(1));
-  } else {
-    return joined_blocks(block(0), block(1), block(2), block(3));
-  }
-}
-template <int kHalf, class Block>
-HALDGEN_INLINE void store_half_block(float* to, Block block) {
-  const double half = reinterpret_cast<WideVector<double, 16>>(block)[kHalf];
-  __builtin_memcpy(to, &half, sizeof half);
+  return of_blocks<V>([&](int j) {
+    return reinterpret_cast<WideVector<float, 16>>(
+        WideVector<double, 16>{two_floats_at(lower(j)), 0});
+  });
 }
 template <int kHalf, class V, class Place>
 HALDGEN_INLINE void store_half_blocks(V v, const Place& place) {
-  store_half_block<kHalf>(place(0), block_of<0>(v));
-  if constexpr (WideTraits<V>::kBlocks > 1) store_half_block<kHalf>(place(1), block_of<1>(v));
-  if constexpr (WideTraits<V>::kBlocks > 2) {
-    store_half_block<kHalf>(place(2), block_of<2>(v));
-    store_half_block<kHalf>(place(3), block_of<3>(v));
-  }
+  each_block(v, [&](int j, WideVector<float, 16> block) {
+    const double half = reinterpret_cast<WideVector<double, 16>>(block)[kHalf];
+    __builtin_memcpy(place(j), &half, sizeof half);
+  });
 }
 
 /// a - b in even lanes, a + b in odd ones.

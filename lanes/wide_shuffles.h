@@ -19,6 +19,24 @@ template <class V>
 HALDGEN_INLINE auto joined_blocks(V a, V b, V c, V d) {
   return joined_blocks(joined_blocks(a, b), joined_blocks(c, d));
 }
+/// The first block of a vector whose second one may hold anything.
+template <class V>
+HALDGEN_INLINE auto below_anything(V v) {
+  return joined_blocks(v, v);
+}
+template <class V>
+HALDGEN_INLINE auto joined_halves(V a, V b) {
+  return joined_blocks(a, b);
+}
+template <int kHalf, class V, std::size_t... i>
+HALDGEN_INLINE auto half_of(V v, std::index_sequence<i...> /*lanes*/) {
+  constexpr int kFirst = kHalf * static_cast<int>(sizeof...(i));
+  return __builtin_shufflevector(v, v, (kFirst + static_cast<int>(i))...);
+}
+template <int kHalf, class V>
+HALDGEN_INLINE auto half_of(V v) {
+  return half_of<kHalf>(v, std::make_index_sequence<WideTraits<V>::kLanes / 2>());
+}
 
 template <int kBlock, class V>
 HALDGEN_INLINE auto block_of(V v) {
@@ -31,16 +49,10 @@ HALDGEN_INLINE auto block_of(V v) {
     return __builtin_shufflevector(v, v, 2 * kBlock, 2 * kBlock + 1);
   }
 }
-template <int kHalf, class V, std::size_t... i>
-HALDGEN_INLINE auto widened_half(V v, std::index_sequence<i...> /*lanes*/) {
-  using D = WideVector<double, sizeof(V)>;
-  constexpr int kFirst = kHalf * static_cast<int>(sizeof...(i));
-  return __builtin_convertvector(__builtin_shufflevector(v, v, (kFirst + static_cast<int>(i))...),
-                                 D);
-}
 template <int kHalf, class V>
 HALDGEN_INLINE auto widened_half(V v) {
-  return widened_half<kHalf>(v, std::make_index_sequence<WideTraits<V>::kLanes / 2>());
+  using D = WideVector<double, sizeof(V)>;
+  return __builtin_convertvector(half_of<kHalf>(v), D);
 }
 
 template <class V>

@@ -3,6 +3,7 @@
 // the header of intrinsics takes longer to read than a kernel to compile.
 #pragma once
 
+#include "lanes/alternate_x86.h"
 #include "lanes/wide.h"
 
 namespace haldgen::lanes {
@@ -51,6 +52,13 @@ HALDGEN_INLINE WideVector<double, 32> joined_blocks(WideVector<double, 16> a,
                                                     WideVector<double, 16> b) {
   return __builtin_ia32_vinsertf128_pd256(__builtin_ia32_pd256_pd(a), b, 1);
 }
+/// The first block of a vector whose second one may hold anything.
+HALDGEN_INLINE WideVector<float, 32> below_anything(WideVector<float, 16> v) {
+  return __builtin_ia32_ps256_ps(v);
+}
+HALDGEN_INLINE WideVector<double, 32> below_anything(WideVector<double, 16> v) {
+  return __builtin_ia32_pd256_pd(v);
+}
 HALDGEN_INLINE WideVector<double, 32> widened(WideVector<float, 16> v) {
   return __builtin_ia32_cvtps2pd256(v);
 }
@@ -77,10 +85,23 @@ template <int kBlock>
 HALDGEN_INLINE WideVector<double, 16> block_of(WideVector<double, 64> v) {
   return __builtin_ia32_extractf64x2_512_mask(v, kBlock, WideVector<double, 16>{}, -1);
 }
+template <int kHalf>
+HALDGEN_INLINE WideVector<float, 32> half_of(WideVector<float, 64> v) {
+  return __builtin_ia32_extractf32x8_mask(v, kHalf, WideVector<float, 32>{}, -1);
+}
+template <int kHalf>
+HALDGEN_INLINE WideVector<double, 32> half_of(WideVector<double, 64> v) {
+  return __builtin_ia32_extractf64x4_mask(v, kHalf, WideVector<double, 32>{}, -1);
+}
 HALDGEN_INLINE WideVector<float, 64> joined_halves(WideVector<float, 32> a,
                                                    WideVector<float, 32> b) {
   const WideVector<float, 64> low = __builtin_ia32_ps512_256ps(a);
   return __builtin_ia32_insertf32x8_mask(low, b, 1, low, -1);
+}
+HALDGEN_INLINE WideVector<double, 64> joined_halves(WideVector<double, 32> a,
+                                                    WideVector<double, 32> b) {
+  const WideVector<double, 64> low = __builtin_ia32_pd512_256pd(a);
+  return __builtin_ia32_insertf64x4_mask(low, b, 1, low, -1);
 }
 HALDGEN_INLINE WideVector<float, 64> joined_blocks(WideVector<float, 16> a, WideVector<float, 16> b,
                                                    WideVector<float, 16> c,
@@ -91,10 +112,8 @@ HALDGEN_INLINE WideVector<double, 64> joined_blocks(WideVector<double, 16> a,
                                                     WideVector<double, 16> b,
                                                     WideVector<double, 16> c,
                                                     WideVector<double, 16> d) {
-  const WideVector<double, 64> low = __builtin_ia32_pd512_256pd(joined_blocks(a, b));
-  return __builtin_ia32_insertf64x4_mask(low, joined_blocks(c, d), 1, low, -1);
+  return joined_halves(joined_blocks(a, b), joined_blocks(c, d));
 }
-inline constexpr int kCurrentRounding = 4;
 HALDGEN_INLINE WideVector<double, 64> widened(WideVector<float, 32> v) {
   return __builtin_ia32_cvtps2pd512_mask(v, WideVector<double, 64>{}, -1, kCurrentRounding);
 }

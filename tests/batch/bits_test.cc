@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
+#include "bits/taker.h"
 #include "tests/batch/field.h"
 #include "tests/batch/library.h"
 
@@ -36,13 +36,6 @@ struct Examples {
   std::vector<std::vector<Float>> sources;
   std::vector<std::vector<Float>> results[haldScaleNone + 1];  ///< by flag
 };
-
-template <class Float>
-bool same_bits(const std::vector<Float>& a, const std::vector<Float>& b) {
-  return std::ranges::equal(a, b, [](Float x, Float y) {
-    return std::memcmp(&x, &y, sizeof x) == 0 || (std::isnan(x) && std::isnan(y));
-  });
-}
 
 /// How a batch is called.
 struct Case {
@@ -88,8 +81,10 @@ void expect_single_bits(const Batch<Float>& batch, const Examples<Float>& exampl
   for (std::size_t t = 0; t < c.count; ++t) {
     const std::vector<Float> source = seen(examples, c.src, t, batch.src_width);
     const bool known = identical(source, examples.sources[t]);
-    ASSERT_TRUE(same_bits(dst.read(t), known ? examples.results[static_cast<std::size_t>(c.flag)][t]
-                                             : result(*batch.single, source, c.flag)))
+    const std::vector<Float> expected = known
+                                            ? examples.results[static_cast<std::size_t>(c.flag)][t]
+                                            : result(*batch.single, source, c.flag);
+    ASSERT_TRUE(bits::same<Float>(dst.read(t), expected))
         << batch.name << ", " << c.text() << ": other bits in transform " << t;
   }
   ASSERT_TRUE(dst.untouched_between()) << batch.name << ", " << c.text() << ": writes beside";
@@ -112,7 +107,7 @@ void expect_single_bits_in_place(const Batch<Float>& batch, const Examples<Float
             haldStatusOk);
   const auto& expected = examples.results[static_cast<std::size_t>(flag)];
   for (std::size_t t = 0; t < count; ++t) {
-    ASSERT_TRUE(same_bits(after.read(t), expected[t]))
+    ASSERT_TRUE(bits::same<Float>(after.read(t), expected[t]))
         << batch.name << " in place, " << src.name << ", " << count << ": transform " << t;
   }
 }

@@ -4,6 +4,5 @@
 namespace haldgen::test {
 
 const char* const batch_path = HALDBATCH_LIBRARY;
-const char* const batch_disassembler = OBJDUMP;
 
 }  // namespace haldgen::test

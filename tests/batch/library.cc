@@ -4,24 +4,9 @@
 
 #include <stdexcept>
 
-namespace haldgen::test {
+#include "lanes/processor.h"
 
-bool processor_can_run_batches() {
-  const std::string path = batch_path;
-#if defined(__x86_64__)
-  __builtin_cpu_init();
-  if (path.find("x86-64-v3") != std::string::npos) {
-    return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") &&
-           __builtin_cpu_supports("bmi2");
-  }
-  if (path.find("x86-64-v4") != std::string::npos) {
-    return __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
-           __builtin_cpu_supports("avx512cd") && __builtin_cpu_supports("avx512dq") &&
-           __builtin_cpu_supports("avx512vl");
-  }
-#endif
-  return !path.empty();
-}
+namespace haldgen::test {
 
 void* batch_function(const std::string& name) {
   static void* const library = dlopen(batch_path, RTLD_NOW | RTLD_LOCAL);
@@ -29,6 +14,11 @@ void* batch_function(const std::string& name) {
   void* const address = dlsym(library, name.c_str());
   if (address == nullptr) throw std::runtime_error("no function " + name);
   return address;
+}
+
+bool processor_can_run_batches() {
+  return lanes::processor_has(
+      reinterpret_cast<std::int32_t (*)()>(batch_function("haldbGetVectorBits"))());
 }
 
 namespace {

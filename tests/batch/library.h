@@ -11,11 +11,10 @@
 
 namespace haldgen::test {
 
-/// Of the build under test, and what reads its instructions.
+/// The build under test.
 extern const char* const batch_path;
-extern const char* const batch_disassembler;
 
-/// Whether the instructions that the build is for are there; its folder says which.
+/// Whether the instructions that the build is for are there.
 bool processor_can_run_batches();
 
 /// The address of a function; throws if there is none.

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <haldgen.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <fstream>
@@ -178,6 +179,56 @@ TEST(Bits, NamesWhatDiffersAndNothingElse) {
           "HaldgDCT4_32f/128: published, but there is no such function",
           "1,173 of 1,194 as published",  // functions, each once, and the one that does not exist
       });
+}
+
+// Batches by single calls.
+template <class Float, class Single>
+std::int32_t batch_of(Single* single, const Float* src, std::ptrdiff_t src_step,
+                      std::ptrdiff_t src_dist, Float* dst, std::ptrdiff_t dst_step,
+                      std::ptrdiff_t dst_dist, std::int32_t order, std::ptrdiff_t count,
+                      std::int32_t flag) {
+  const std::ptrdiff_t points = std::ptrdiff_t{1} << order;
+  std::vector<Float> one(static_cast<std::size_t>(points));
+  for (std::ptrdiff_t t = 0; t < count; ++t) {
+    for (std::ptrdiff_t n = 0; n < points; ++n) {
+      one[static_cast<std::size_t>(n)] = src[n * src_step + t * src_dist];
+    }
+    const std::int32_t status = single(one.data(), one.data(), order, flag, nullptr);
+    if (status != haldStatusOk) return status;
+    for (std::ptrdiff_t n = 0; n < points; ++n) {
+      dst[n * dst_step + t * dst_dist] = one[static_cast<std::size_t>(n)];
+    }
+  }
+  return haldStatusOk;
+}
+std::int32_t good_batch(const double* src, std::ptrdiff_t src_step, std::ptrdiff_t src_dist,
+                        double* dst, std::ptrdiff_t dst_step, std::ptrdiff_t dst_dist,
+                        std::int32_t order, std::ptrdiff_t count, std::int32_t flag) {
+  return batch_of(haldgWHT_64f, src, src_step, src_dist, dst, dst_step, dst_dist, order, count,
+                  flag);
+}
+// Wrong where the last few of order 5 are columns.
+std::int32_t wrong_batch(const float* src, std::ptrdiff_t src_step, std::ptrdiff_t src_dist,
+                         float* dst, std::ptrdiff_t dst_step, std::ptrdiff_t dst_dist,
+                         std::int32_t order, std::ptrdiff_t count, std::int32_t flag) {
+  const bool wrong = order == 5 && src_dist == 1;
+  return batch_of(haldgWHT_32f, src, src_step, src_dist, dst, dst_step, dst_dist, order, count,
+                  wrong ? haldScaleNone : flag);
+}
+
+TEST(Bits, BatchesHaveThePublishedOnesOfSingleCalls) {
+  const Find find = [](const std::string& name) -> Address {
+    if (name == "haldbWHT_64f") return generic(good_batch);
+    return name == "haldbWHT_32f" ? generic(wrong_batch) : nullptr;
+  };
+  const Outcome outcome = run_program(find, {"batches"});
+  EXPECT_EQ(outcome.status, 1);
+  const auto has = [&](const std::string& line) {
+    return std::count(outcome.lines.begin(), outcome.lines.end(), line);
+  };
+  EXPECT_EQ(has("haldgWHT_5_32f: columns: other bits than rows"), 1);
+  EXPECT_EQ(has("haldgDFTInv_CCSToR_9_64f: the library has no haldbDFTInv_CCSToR_64f"), 1);
+  EXPECT_EQ(outcome.lines.back(), "25 of 1,160 as published, in batches of 128 bits");
 }
 
 // What has no one sum is not recorded.

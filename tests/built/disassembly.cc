@@ -87,14 +87,15 @@ int Mnemonics::all() const {
   return total;
 }
 
-int Mnemonics::fused() const {
+int Mnemonics::fused_that_round() const {
   int total = 0;
   for (const auto& [mnemonic, count] : counts_) {
     // Of x86 (vfmadd213sd, vfnmsub231ps, vfmaddsub132pd) and of ARM processors (fmadd, fnmsub,
     // fmla, fcmla).
     for (const std::string_view start :
          {"vfm", "vfnm", "fma", "fms", "fnma", "fnms", "fml", "fcml"}) {
-      if (mnemonic.starts_with(start) && !mnemonic.starts_with("fmax")) {
+      if (mnemonic.starts_with(start) && !mnemonic.starts_with("fmax") &&
+          !mnemonic.starts_with("vfmaddsub")) {
         total += count;
         break;
       }
@@ -115,9 +116,12 @@ int Mnemonics::packed_arithmetic() const {
 }
 
 const std::map<std::string, Mnemonics>& disassembly() {
-  static const auto functions =
-      parsed(output_of(OBJDUMP " -d --no-show-raw-insn '" HALDGEN_LIBRARY "'"));
+  static const auto functions = disassembly(HALDGEN_LIBRARY);
   return functions;
+}
+
+std::map<std::string, Mnemonics> disassembly(const std::string& path) {
+  return parsed(output_of(OBJDUMP " -d --no-show-raw-insn '" + path + "'"));
 }
 
 ScalarOperations scalar_operations(const Mnemonics& m) {

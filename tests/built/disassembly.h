@@ -22,8 +22,9 @@ class Mnemonics {
   int frame() const;
   int count(std::initializer_list<std::string_view> mnemonics) const;
   int all() const;
-  /// Products and sums in one instruction, which round once.
-  int fused() const;
+  /// Products and sums in one instruction, which round once. Sums that alternate are left out: they
+  /// have products with 1 alone, where a processor has no other form of them.
+  int fused_that_round() const;
   /// Additions, subtractions, multiplications and conversions of more than one float at once.
   int packed_arithmetic() const;
 
@@ -35,6 +36,8 @@ class Mnemonics {
 
 /// By symbol; of symbols at one address only one is there.
 const std::map<std::string, Mnemonics>& disassembly();
+/// Of another library.
+std::map<std::string, Mnemonics> disassembly(const std::string& path);
 
 /// Additions and so on by precision, as compiled.
 struct ScalarOperations {

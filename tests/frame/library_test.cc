@@ -1,4 +1,5 @@
-// The linked libraries as files: what they export, the table of slots, the forwarding entries.
+// The linked libraries as files, in each flavour: what they export, the table of slots, the
+// forwarding entries.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <link.h>
@@ -14,6 +15,7 @@
 #include <sstream>
 
 #include "registry/registry.h"
+#include "tests/built/paths.h"
 #include "tests/frame/elf_file.h"
 
 namespace haldgen::test {
@@ -21,16 +23,22 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-const ElfFile& library() {
-  static const ElfFile file(HALDGEN_LIBRARY);
-  return file;
-}
-
-const Symbol& symbol(const std::string& name) {
-  const auto found = library().defined().find(name);
-  if (found == library().defined().end()) throw std::runtime_error("no symbol " + name);
-  return found->second;
-}
+/// The library in one flavour; the parameter is its path.
+class Library : public testing::TestWithParam<std::string> {
+ protected:
+  static const std::string& path() { return GetParam(); }
+  static bool is_flavour() { return path().find("/glibc-hwcaps/") != std::string::npos; }
+  static const ElfFile& file() {
+    static std::map<std::string, ElfFile> files;
+    return files.try_emplace(path(), path()).first->second;
+  }
+  static const Symbol& symbol(const std::string& name) {
+    const auto found = file().defined().find(name);
+    if (found == file().defined().end()) throw std::runtime_error("no symbol " + name);
+    return found->second;
+  }
+};
+INSTANTIATE_TEST_SUITE_P(Built, Library, testing::ValuesIn(built_libraries()));
 
 Names exported_names(const ElfFile& file) {
   Names names;
@@ -61,30 +69,30 @@ Instructions disassemble(const std::string& path) {
   return instructions;
 }
 
-TEST(Library, ExportsExactlyTheLiveFunctions) {
+TEST_P(Library, ExportsExactlyTheLiveFunctions) {
   Names expected;
   for (const registry::Export& function : registry::exports()) expected.push_back(function.name);
-  EXPECT_EQ(exported_names(library()), expected);
-  for (const auto& [name, entry] : library().exported()) {
+  EXPECT_EQ(exported_names(file()), expected);
+  for (const auto& [name, entry] : file().exported()) {
     EXPECT_EQ(entry.type, "FUNC") << name << " is no function";
   }
 }
 
-TEST(Library, HasVersionedName) {
-  EXPECT_EQ(library().dynamic("SONAME"), Names{"[libhaldgenp8.so.8]"});
-  EXPECT_EQ(real_name(HALDGEN_LIBRARY), "libhaldgenp8.so.8.1.0");
+TEST_P(Library, HasVersionedName) {
+  EXPECT_EQ(file().dynamic("SONAME"), Names{"[libhaldgenp8.so.8]"});
+  EXPECT_EQ(real_name(path()), "libhaldgenp8.so.8.1.0");
 }
 
-TEST(Library, FindsHaldcoreBesideItselfAndOpenToInterposition) {
-  const Names needed = library().dynamic("NEEDED");
+TEST_P(Library, FindsHaldcoreBesideItselfAndOpenToInterposition) {
+  const Names needed = file().dynamic("NEEDED");
   EXPECT_EQ(std::count(needed.begin(), needed.end(), "[libhaldcore.so.8]"), 1);
-  EXPECT_EQ(library().dynamic("RUNPATH"), Names{"[$ORIGIN]"});
-  const Names& wanted = library().wanted();
+  EXPECT_EQ(file().dynamic("RUNPATH"), Names{is_flavour() ? "[$ORIGIN/../..]" : "[$ORIGIN]"});
+  const Names& wanted = file().wanted();
   EXPECT_EQ(std::count(wanted.begin(), wanted.end(), "haldGetEnabledCpuFeatures"), 1);
-  EXPECT_TRUE(library().dynamic("SYMBOLIC").empty());
+  EXPECT_TRUE(file().dynamic("SYMBOLIC").empty());
 }
 
-TEST(Library, HaldcoreExportsItsThreeFunctions) {
+TEST(Haldcore, ExportsItsThreeFunctions) {
   const ElfFile haldcore(HALDCORE_LIBRARY);
   EXPECT_EQ(exported_names(haldcore),
             (Names{"haldFree", "haldGetEnabledCpuFeatures", "haldMalloc"}));
@@ -97,10 +105,10 @@ std::string contents(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-TEST(Library, IsBoundAndClosedAtLoad) {
-  for (const char* path : {HALDGEN_LIBRARY, HALDCORE_LIBRARY}) {
-    SCOPED_TRACE(path);
-    const ElfFile file(path);
+TEST_P(Library, IsBoundAndClosedAtLoad) {
+  for (const std::string& built : {path(), std::string(HALDCORE_LIBRARY)}) {
+    SCOPED_TRACE(built);
+    const ElfFile file(built);
     EXPECT_EQ(file.dynamic("FLAGS"), Names{"BIND_NOW"});
     EXPECT_TRUE(file.dynamic("TEXTREL").empty());
     EXPECT_EQ(file.segments("GNU_RELRO"), Names{"R"});
@@ -111,22 +119,22 @@ TEST(Library, IsBoundAndClosedAtLoad) {
   }
 }
 
-TEST(Library, NamesNoFolderOfItsBuild) {
-  for (const char* path : {HALDGEN_LIBRARY, HALDCORE_LIBRARY}) {
-    const std::string bytes = contents(path);
-    EXPECT_NE(bytes.find("$ORIGIN"), std::string::npos) << path;
+TEST_P(Library, NamesNoFolderOfItsBuild) {
+  for (const std::string& built : {path(), std::string(HALDCORE_LIBRARY)}) {
+    const std::string bytes = contents(built);
+    EXPECT_NE(bytes.find("$ORIGIN"), std::string::npos) << built;
     for (const char* folder : {SOURCE_FOLDER, BINARY_FOLDER}) {
-      EXPECT_EQ(bytes.find(folder), std::string::npos) << path << " contains " << folder;
+      EXPECT_EQ(bytes.find(folder), std::string::npos) << built << " contains " << folder;
     }
   }
 }
 
-TEST(Library, SlotsHoldTheImplementationsInByteOrder) {
+TEST_P(Library, SlotsHoldTheImplementationsInByteOrder) {
   const std::vector<registry::Export>& functions = registry::exports();
   const Symbol& slots = symbol("haldgen_entry_slots");
   EXPECT_EQ(slots.size, sizeof(void*) * functions.size());
 
-  void* handle = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+  void* handle = dlopen(path().c_str(), RTLD_NOW | RTLD_LOCAL);
   ASSERT_NE(handle, nullptr) << dlerror();
   const link_map* map = nullptr;
   ASSERT_EQ(dlinfo(handle, RTLD_DI_LINKMAP, &map), 0);
@@ -179,13 +187,13 @@ std::uint64_t slot_of_entry(Instructions::const_iterator at) {
 }
 #endif
 
-TEST(Library, EntriesJumpThroughTheirSlotAndDoNoMore) {
+TEST_P(Library, EntriesJumpThroughTheirSlotAndDoNoMore) {
   const std::vector<registry::Export>& functions = registry::exports();
-  const Instructions instructions = disassemble(HALDGEN_LIBRARY);
+  const Instructions instructions = disassemble(path());
   const std::uint64_t slots = symbol("haldgen_entry_slots").address;
   for (std::size_t k = 0; k < functions.size(); ++k) {
     const std::string& name = functions[k].name;
-    const Symbol& entry = library().exported().at(name);
+    const Symbol& entry = file().exported().at(name);
     const auto first = instructions.find(entry.address);
     ASSERT_NE(first, instructions.end()) << name;
     const auto end = instructions.lower_bound(entry.address + entry.size);

@@ -1,9 +1,9 @@
 #!/bin/sh
-# run.sh CMAKE SOURCE_DIR BUILD_DIR SCRATCH_DIR CC GENERATOR
+# run.sh CMAKE SOURCE_DIR BUILD_DIR SCRATCH_DIR CC CXX GENERATOR
 # Installs, moves the installed tree, and builds and runs programs by way of the CMake package and of
 # pkg-config; runs the installed haldgen-bits.
 set -eu
-cmake=$1 source=$2 build=$3 scratch=$4 cc=$5 generator=$6
+cmake=$1 source=$2 build=$3 scratch=$4 cc=$5 cxx=$6 generator=$7
 consumer=$source/tests/install/consumer
 
 rm -rf "$scratch"
@@ -13,12 +13,14 @@ mv "$scratch/made" "$scratch/moved"
 echo "CMake package:"
 configure() {
   "$cmake" -S "$consumer" -B "$scratch/$1" -G "$generator" -DCMAKE_C_COMPILER="$cc" \
+    -DCMAKE_CXX_COMPILER="$cxx" \
     -DCMAKE_PREFIX_PATH="$scratch/moved" -DWANTED="$2"
 }
 configure build 8.1 >/dev/null
 "$cmake" --build "$scratch/build" >/dev/null
 "$scratch/build/consumer"
 "$scratch/build/kernels"
+"$scratch/build/consumer_cpp"
 "$scratch/build/static_consumer"
 if readelf -d "$scratch/build/static_consumer" | grep hald; then
   exit 1
@@ -66,6 +68,15 @@ echo "The installed bits:"
 (cd / && "$scratch/moved/bin/haldgen-bits") >"$scratch/bits"
 cat "$scratch/bits"
 test "$(cat "$scratch/bits")" = "1,193 of 1,193 as published"
+
+echo "Installed flavours:"
+# Those that the build has; each finds haldcore in the moved tree.
+for built in "$build"/glibc-hwcaps/*/libhaldgenp8.so.8; do
+  [ -e "$built" ] || continue
+  flavour=$libdir/${built#"$build"/}
+  echo "$flavour"
+  "$scratch/moved/bin/haldgen-bits" --library "$flavour" --help >/dev/null
+done
 
 echo "Absolute library folder:"
 "$cmake" -S "$source" -B "$scratch/absolute" -G "$generator" -DHALDGEN_BUILD_TESTS=OFF \

@@ -1,7 +1,7 @@
-// The vectors that this build is made for.
+// The vectors that a build is made for.
 #pragma once
 
-namespace haldgen::batch {
+namespace haldgen::lanes {
 
 #if defined(__AVX512F__) && defined(__AVX512DQ__) && defined(__AVX512VL__)
 inline constexpr int kVectorBytes = 64;
@@ -11,4 +11,4 @@ inline constexpr int kVectorBytes = 32;
 inline constexpr int kVectorBytes = 16;
 #endif
 
-}  // namespace haldgen::batch
+}  // namespace haldgen::lanes
