@@ -214,21 +214,17 @@ class PairedLowering {
     Mask signs = 0;                ///< as made
     int order = 0;                 ///< as made
     std::array<Held, 2> by_order;  ///< with the signs as made, parts of lanes exchanged along
-    std::map<std::pair<int, Mask>, int> variants;
   };
 
   const PackedNode& node(int index) const { return graph_.nodes[at(index)]; }
   bool wide(int vector) const { return pairing_.vectors[at(vector)].upper >= 0; }
   int lanes(int vector) const { return wide(vector) ? 2 * block_ : block_; }
   Mask all(int vector) const { return (1U << lanes(vector)) - 1; }
-  const PackedNode& node(int vector, int block) const {
-    const auto& pair = pairing_.vectors[at(vector)];
-    return node(block == 0 ? pair.lower : pair.upper);
-  }
   int index(int vector, int block) const {
     const auto& pair = pairing_.vectors[at(vector)];
     return block == 0 ? pair.lower : pair.upper;
   }
+  const PackedNode& node(int vector, int block) const { return node(index(vector, block)); }
 
   /// The mask of a condition on block, half and lane of the element.
   template <class Condition>
@@ -277,14 +273,8 @@ class PairedLowering {
     return emit(in);
   }
 
-  // Orders: which part of an element stands in the even lanes. A walk down from any start, as each
-  // vector takes the order that spares most exchanges.
-
-  struct Demand {
-    int vector;
-    bool turned;  ///< taken in the other order than that of the user
-    bool both = false;
-  };
+  /// Which part of an element stands in the even lanes: each vector takes in turn what spares most
+  /// exchanges with its operands and users, until none changes.
   void choose_orders() {
     const std::size_t count = values_.size();
     std::vector<std::vector<std::pair<int, bool>>> beside(count);
@@ -422,9 +412,6 @@ class PairedLowering {
     const Mask beta = held ^ turn ^ b.signs;
     const Mask every = all(vector);
     const Mask even = every & 0x55555555U;
-    const auto with = [&](const Held& from, Mask change) {
-      return variant(vector, from.instruction, change);
-    };
     // The cheapest pair of changes after which one instruction does it.
     struct Way {
       Op op;
@@ -442,15 +429,14 @@ class PairedLowering {
     for (const Way& way : ways) {
       const Mask change_a = alpha ^ way.a;
       const Mask change_b = beta ^ way.b;
-      const int cost =
-          price(vector, a.instruction, change_a) + price(vector, b.instruction, change_b);
+      const int cost = price(a.instruction, change_a) + price(b.instruction, change_b);
       if (cost < least) {
         least = cost;
         best = &way;
       }
     }
-    const int x = with(a, alpha ^ best->a);
-    const int y = with(b, beta ^ best->b);
+    const int x = variant(vector, a.instruction, alpha ^ best->a);
+    const int y = variant(vector, b.instruction, beta ^ best->b);
     Instruction in = instruction(vector, best->op, best->turned ? y : x, best->turned ? x : y);
     if (best->op == Op::signed_add) {
       const Mask minus = best->turned ? best->a : best->b;
@@ -459,7 +445,7 @@ class PairedLowering {
     provide(vector, emit(in), held);
   }
 
-  int price(int /*vector*/, int from, Mask change) const {
+  int price(int from, Mask change) const {
     return change == 0 || variants_.contains({from, change}) ? 0 : 1;
   }
   int variant(int vector, int from, Mask change) {
@@ -558,13 +544,21 @@ class PairedLowering {
     provide(vector, emit(in), signs);
   }
 
-  Instruction load_of(const PackedNode& n) const {
+  /// Whether a load or store moves a vector of neighbours, wherever it begins.
+  bool whole(const PackedNode& n) const {
+    return graph_.halves == 1 ||
+           (n.element[0] && n.element[1] && *n.element[1] == *n.element[0] + 1);
+  }
+  /// An access to a block's elements; `op` moves whole vectors.
+  Instruction access(const PackedNode& n, Op op) const {
     Instruction in;
+    in.op = op;
     in.lanes = block_;
     in.address = {2 * n.element[0].value_or(0), 2 * n.element[1].value_or(0)};
-    const bool whole = graph_.halves == 1 || (n.element[1] && *n.element[1] == *n.element[0] + 1);
-    in.op = whole ? Op::load : n.element[1] ? Op::load_pair : Op::load_single;
     return in;
+  }
+  Instruction load_of(const PackedNode& n) const {
+    return access(n, whole(n) ? Op::load : n.element[1] ? Op::load_pair : Op::load_single);
   }
   int load(int vector) {
     Instruction lower = load_of(node(vector, 0));
@@ -590,22 +584,13 @@ class PairedLowering {
       in.lanes = block_;
       from = emit(in);
     }
-    Instruction in;
+    const bool both = n.element[0] && n.element[1];
+    Instruction in = access(n, whole(n)       ? Op::store
+                               : both         ? Op::store_pair
+                               : n.element[0] ? Op::store_single
+                                              : Op::store_upper);
+    if (in.op == Op::store_upper) in.address[0] = in.address[1];
     in.a = from;
-    in.lanes = block_;
-    in.address = {2 * n.element[0].value_or(0), 2 * n.element[1].value_or(0)};
-    const bool whole =
-        graph_.halves == 1 || (n.element[0] && n.element[1] && *n.element[1] == *n.element[0] + 1);
-    if (whole) {
-      in.op = Op::store;
-    } else if (n.element[0] && n.element[1]) {
-      in.op = Op::store_pair;
-    } else if (n.element[0]) {
-      in.op = Op::store_single;
-    } else {
-      in.op = Op::store_upper;
-      in.address[0] = in.address[1];
-    }
     emit(in);
   }
   void store(int vector) {
@@ -620,24 +605,17 @@ class PairedLowering {
       scaled.constant[at(l)] = minus ? -1.0 : 1.0;
     }
     const int value = emit(scaled);
-    if (wide(vector)) {
-      const auto whole = [&](const PackedNode& n) {
-        return graph_.halves == 1 ||
-               (n.element[0] && n.element[1] && *n.element[1] == *n.element[0] + 1);
-      };
-      const PackedNode& lower = node(vector, 0);
-      const PackedNode& upper = node(vector, 1);
-      if (whole(lower) && whole(upper) && *upper.element[0] == *lower.element[0] + graph_.halves) {
-        Instruction in = instruction(vector, Op::store, value);
-        in.address[0] = 2 * *lower.element[0];
-        emit(in);
-        return;
-      }
-      store_block(vector, 0, value);
-      store_block(vector, 1, value);
+    if (!wide(vector)) return store_block(vector, 0, value);
+    const PackedNode& lower = node(vector, 0);
+    const PackedNode& upper = node(vector, 1);
+    if (whole(lower) && whole(upper) && *upper.element[0] == *lower.element[0] + graph_.halves) {
+      Instruction in = instruction(vector, Op::store, value);
+      in.address[0] = 2 * *lower.element[0];
+      emit(in);
       return;
     }
     store_block(vector, 0, value);
+    store_block(vector, 1, value);
   }
 
   const PackedGraph& graph_;
