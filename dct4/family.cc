@@ -64,11 +64,13 @@ Pass pass_of(Part part) {
   throw std::logic_error("no pass");
 }
 
-family::Source source(int index, FloatType type, const family::Tuning& tuning) {
+/// Flavours run the same programs in each block of wider vectors, where there are groups enough.
+family::Source source_of(int index, FloatType type, const family::Tuning& tuning, bool flavoured) {
   const Kernel& kernel = kernel_of(index, type);
   const std::string element(names::suffix(family::real_element(type)));
   const family::Choice choice = tuning.of("haldgDCT4_" + element + "/" + name(kernel));
-  const kernelgen::Program program = kernel_program(kernel, choice.ordering);
+  kernelgen::Program program = kernel_program(kernel, choice.ordering);
+  program.blockwise = flavoured && kernel.part != Part::fixed;
   const std::string float_name = kernelgen::type_name(type);
   const family::Work counts = work(index, type);
 
@@ -92,16 +94,26 @@ family::Source source(int index, FloatType type, const family::Tuning& tuning) {
     return source;
   }
   const Pass pass = pass_of(kernel.part);
-  source.kernels = {{"Body", remark,
-                     "  using Float = " + float_name +
-                         ";\n  using V = " + kernelgen::vector_name(program) +
-                         ";\n  static constexpr int kSize = " + std::to_string(kernel.size) +
-                         ";\n" + emit_constants(constants, "  static "),
-                     "template <class Io>\n  static inline void run(const Io& io)",
-                     emit_body(program, {}, constants)}};
+  source.kernels = {
+      {"Body", remark,
+       "  using Float = " + float_name + ";\n" +
+           (flavoured ? "" : "  using V = " + kernelgen::vector_name(program) + ";\n") +
+           "  static constexpr int kSize = " + std::to_string(kernel.size) + ";\n" +
+           emit_constants(constants, "  static "),
+       std::string("template <class ") + (flavoured ? "V, class Io" : "Io") +
+           ">\n  static inline void run(const Io& io)",
+       emit_body(program, {}, constants)}};
   source.functions = {"void " + name(kernel) + "(const " + pass.run + "<" + float_name +
                       ">& run) {\n  " + pass.function + "<Body>(run);\n}\n"};
   return source;
+}
+
+family::Source source(int index, FloatType type, const family::Tuning& tuning) {
+  return source_of(index, type, tuning, false);
+}
+family::Source flavoured_source(int index, FloatType type, const family::Tuning& tuning,
+                                const names::Flavour& /*flavour*/) {
+  return source_of(index, type, tuning, true);
 }
 
 std::vector<std::string> kernel_names() {
@@ -126,7 +138,12 @@ family::Family dct4(const names::Sizes& /*lengths*/) {
                         "DCT-IV of power-of-two lengths",
                         {},
                         {},
-                        family::Generated{algorithm, graph, work, source, kernel_names()},
+                        family::Generated{.algorithm = algorithm,
+                                          .graph = graph,
+                                          .work = work,
+                                          .source = source,
+                                          .kernels = kernel_names(),
+                                          .flavoured = flavoured_source},
                         family::Planned{powers_of_two(), transform_work, angle_steps}};
   result.words = {
       {"DCT4GetSize", Signature::length_query, names::kReal, {}, {}, kSizeText},

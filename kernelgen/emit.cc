@@ -52,7 +52,7 @@ class Printer {
     return std::any_of(program_.code.begin(), program_.code.end(),
                        [](const Instruction& in) { return in.op == Op::scale; });
   }
-  bool blocks() const { return program_.memory == Memory::blocks; }
+  bool blocks() const { return program_.memory == Memory::blocks || program_.blockwise; }
   bool f32() const { return program_.type == FloatType::f32; }
 
   /// Comments that say which stage an instruction belongs to: that of the comment behind it, else
@@ -265,6 +265,12 @@ class Printer {
       case Op::alternate:
         define(index, "lanes::alternate_in_blocks(" + a + ", " + name(in.b) + ")");
         return true;
+      case Op::interleave_lower:
+        define(index, "lanes::in_turns_of_blocks<0>(" + a + ", " + name(in.b) + ")");
+        return true;
+      case Op::interleave_upper:
+        define(index, "lanes::in_turns_of_blocks<1>(" + a + ", " + name(in.b) + ")");
+        return true;
       case Op::sign:
         define(index, "lanes::change_sign_of_blocks(" + a + ", " + constants(in) + ")");
         return true;
@@ -292,11 +298,11 @@ class Printer {
     }
     if ((program_.memory == Memory::elements || bins) && in.op == Op::store) return store_part(in);
     if (program_.lanewise && print_lanewise(index)) return;
-    if (blocks() && print_in_blocks(index)) return;
     if (program_.memory == Memory::slots || bins) {
       if (in.op == Op::load) return define(index, "io.template load" + slot(in) + "()");
       if (in.op == Op::store) return line("io.template store" + slot(in) + "(" + a + ");");
     }
+    if (blocks() && print_in_blocks(index)) return;
     switch (in.op) {
       case Op::load:
         return define(index, scalar() ? "scalar::load(" +

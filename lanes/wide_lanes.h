@@ -47,6 +47,16 @@ HALDGEN_INLINE V same_halves(V a, V b) {
   return shuffled<SameHalves<WideTraits<V>::kLanes, kHalf>>(a, b);
 }
 
+/// All lanes in the opposite order.
+template <int kLanes>
+struct Backwards {
+  static constexpr int of(int i) { return kLanes - 1 - i; }
+};
+template <class V>
+HALDGEN_INLINE V reversed(V a) {
+  return shuffled<Backwards<WideTraits<V>::kLanes>>(a, a);
+}
+
 /// Into each lane the value of that whose number differs in this bit.
 template <int kBit>
 struct Crossed {
