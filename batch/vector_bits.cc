@@ -3,4 +3,4 @@
 #include "haldbatch.h"
 #include "lanes/width.h"
 
-std::int32_t haldbGetVectorBits() { return 8 * haldgen::lanes::kVectorBytes; }
+HALDGEN_NOTHROW std::int32_t haldbGetVectorBits() { return 8 * haldgen::lanes::kVectorBytes; }

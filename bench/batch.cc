@@ -25,7 +25,8 @@ namespace haldgen::bench {
 namespace {
 
 enum class Family { complex, forward, inverse, hartley };
-enum class BatchLayout { rows, columns };
+/// Blocks: of `length` rows of `length` elements each, transformed in both dimensions.
+enum class BatchLayout { rows, columns, blocks };
 
 struct Place {
   const char* name;
@@ -75,8 +76,17 @@ struct Problem {
   int elements(bool complex) const {
     return complex && family != Family::complex ? length / 2 + 1 : length;
   }
-  int step() const { return layout == BatchLayout::rows ? 1 : count; }
-  int dist(bool complex) const { return layout == BatchLayout::rows ? elements(complex) : 1; }
+  int step() const { return layout == BatchLayout::columns ? count : 1; }
+  int dist(bool complex) const { return layout == BatchLayout::columns ? 1 : elements(complex); }
+  /// Elements of a transform.
+  int size(bool complex) const {
+    return elements(complex) * (layout == BatchLayout::blocks ? length : 1);
+  }
+  const char* layout_name() const {
+    return layout == BatchLayout::rows      ? "rows"
+           : layout == BatchLayout::columns ? "columns"
+                                            : "blocks";
+  }
   const char* word() const {
     switch (family) {
       case Family::complex:
@@ -92,7 +102,7 @@ struct Problem {
 };
 
 std::size_t floats_of(const Problem& p, bool complex) {
-  return static_cast<std::size_t>(p.elements(complex)) * (complex ? 2U : 1U);
+  return static_cast<std::size_t>(p.size(complex)) * (complex ? 2U : 1U);
 }
 
 template <class Float>
@@ -118,6 +128,17 @@ Contestant batch(const std::string& name, void* library, const Problem& p) {
       function<BatchFunction>(library, std::string("haldb") + p.word() + "_" + type_name<Float>(p));
   return {name, Role::subject, [call, p](const Walk& walk, std::int64_t calls) {
             walk_calls(walk, calls, [&](const std::byte* src, std::byte* dst) {
+              if (p.layout == BatchLayout::blocks) {
+                // All rows at once, then the columns of each block where they are.
+                const int n = p.length;
+                call(src, 1, n, dst, 1, n, n, std::ptrdiff_t{n} * p.count, haldScaleNone);
+                const std::size_t bytes = floats_of(p, true) * sizeof(Float);
+                for (std::byte* block = dst;
+                     block != dst + bytes * static_cast<std::size_t>(p.count); block += bytes) {
+                  call(block, n, 1, block, n, 1, n, n, haldScaleNone);
+                }
+                return;
+              }
               call(src, p.step(), p.dist(p.src_is_complex()), dst, p.step(),
                    p.dist(p.dst_is_complex()), p.length, p.count, haldScaleNone);
             });
@@ -158,6 +179,16 @@ Contestant singles(void* library, const Problem& p) {
           }};
 }
 
+template <class Float>
+Contestant planned(typename Names<Float>::Plan plan) {
+  using N = Names<Float>;
+  if (plan == nullptr) throw std::runtime_error("FFTW found no plan");
+  const std::shared_ptr<std::remove_pointer_t<typename N::Plan>> owner(plan, N::destroy);
+  return {"FFTW", Role::peer, [owner](const Walk& over, std::int64_t calls) {
+            walk_calls(over, calls, [&](const std::byte*, std::byte*) { N::execute(owner.get()); });
+          }};
+}
+
 /// FFTW's plan for the batch, made for the arrays that it is measured on.
 template <class Float>
 Contestant fftw(const Problem& p, const Walk& walk, unsigned effort) {
@@ -168,6 +199,13 @@ Contestant fftw(const Problem& p, const Walk& walk, unsigned effort) {
   const int dst_dist = p.dist(p.dst_is_complex());
   const unsigned flags = effort | FFTW_PRESERVE_INPUT;
   typename N::Plan plan = nullptr;
+  if (p.layout == BatchLayout::blocks) {
+    const int sides[] = {p.length, p.length};
+    const int dist = p.size(true);
+    plan = N::plan_c2c(2, sides, p.count, reinterpret_cast<Complex*>(src), nullptr, 1, dist,
+                       reinterpret_cast<Complex*>(walk.dst), nullptr, 1, dist, FFTW_FORWARD, flags);
+    return planned<Float>(plan);
+  }
   switch (p.family) {
     case Family::complex:
       plan = N::plan_c2c(1, &p.length, p.count, reinterpret_cast<Complex*>(src), nullptr, p.step(),
@@ -191,11 +229,7 @@ Contestant fftw(const Problem& p, const Walk& walk, unsigned effort) {
                          &kind, flags);
     }
   }
-  if (plan == nullptr) throw std::runtime_error("FFTW found no plan");
-  const std::shared_ptr<std::remove_pointer_t<typename N::Plan>> owner(plan, N::destroy);
-  return {"FFTW", Role::peer, [owner](const Walk& over, std::int64_t calls) {
-            walk_calls(over, calls, [&](const std::byte*, std::byte*) { N::execute(owner.get()); });
-          }};
+  return planned<Float>(plan);
 }
 
 struct Options {
@@ -218,7 +252,8 @@ void measure(const Options& options, const std::vector<Build>& builds, void* sin
              const Place& place, Problem p, Ratios& ratios) {
   const std::size_t bytes =
       (floats_of(p, p.src_is_complex()) + floats_of(p, p.dst_is_complex())) * sizeof(Float);
-  p.count = static_cast<int>(std::max<std::size_t>(place.bytes / bytes / 4 * 4, 8));
+  const std::size_t least = p.layout == BatchLayout::blocks ? 1 : 8;
+  p.count = static_cast<int>(std::max(place.bytes / bytes / 4 * 4, least));
   const auto count = static_cast<std::size_t>(p.count);
   const std::size_t src_bytes = count * floats_of(p, p.src_is_complex()) * sizeof(Float);
   Arena arena(Mode::hot, src_bytes, count * floats_of(p, p.dst_is_complex()) * sizeof(Float));
@@ -227,7 +262,9 @@ void measure(const Options& options, const std::vector<Build>& builds, void* sin
   for (const Build& build : builds)
     contestants.push_back(batch<Float>(build.name, build.library, p));
   contestants.push_back(fftw<Float>(p, arena.walk(), options.effort));
-  contestants.push_back(singles<Float>(single_library, p));
+  if (p.layout != BatchLayout::blocks) {
+    contestants.push_back(singles<Float>(single_library, p));
+  }
   std::vector<Float> data(src_bytes / sizeof(Float));
   for (std::size_t i = 0; i < data.size(); ++i) data[i] = static_cast<Float>(i * 37 % 101) / 64;
   arena.fill_sources(std::as_bytes(std::span(data)));
@@ -236,9 +273,8 @@ void measure(const Options& options, const std::vector<Build>& builds, void* sin
   for (int round = 0; round < options.rounds; ++round) duel.round();
   std::vector<double> times;
   for (const auto& samples : duel.samples()) times.push_back(evaluate(Statistic::median, samples));
-  const char* const layout = p.layout == BatchLayout::rows ? "rows" : "columns";
-  const std::string what =
-      std::string(p.word()) + "\t" + type_name<Float>(p) + "\t" + layout + "\t" + place.name;
+  const std::string what = std::string(p.word()) + "\t" + type_name<Float>(p) + "\t" +
+                           p.layout_name() + "\t" + place.name;
   for (std::size_t i = 0; i < times.size(); ++i) {
     std::printf("%s\t%d\t%d\t%s\t%.2f\n", what.c_str(), p.length, p.count,
                 contestants[i].name.c_str(), times[i] / p.count);
@@ -277,7 +313,9 @@ int run(const Options& options) {
     for (const int length : parse_size_list(options.lengths)) {
       for (const Family family :
            {Family::complex, Family::forward, Family::inverse, Family::hartley}) {
-        for (const BatchLayout layout : {BatchLayout::rows, BatchLayout::columns}) {
+        for (const BatchLayout layout :
+             {BatchLayout::rows, BatchLayout::columns, BatchLayout::blocks}) {
+          if (layout == BatchLayout::blocks && family != Family::complex) continue;
           const Problem p{family, layout, length, 0};
           measure<float>(options, builds, singles, places[place], p, ratios);
           measure<double>(options, builds, singles, places[place], p, ratios);

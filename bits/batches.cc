@@ -1,6 +1,8 @@
 #include "bits/batches.h"
 
 #include <cstddef>
+#include <functional>
+#include <utility>
 
 #include "bits/taker.h"
 #include "frame/linked_functions.h"
@@ -13,9 +15,22 @@ using names::Element;
 using names::Signature;
 
 /// src, srcStep, srcDist, dst, dstStep, dstDist, length or order, count, flag.
-using BatchFunction = std::int32_t(const void*, std::ptrdiff_t, std::ptrdiff_t, void*,
-                                   std::ptrdiff_t, std::ptrdiff_t, std::int32_t, std::ptrdiff_t,
-                                   std::int32_t);
+template <class Src, class Dst>
+using BatchFunction = std::int32_t(const Src*, std::ptrdiff_t, std::ptrdiff_t, Dst*, std::ptrdiff_t,
+                                   std::ptrdiff_t, std::int32_t, std::ptrdiff_t, std::int32_t);
+/// The same on floats.
+template <class Float>
+using BatchCall = std::function<BatchFunction<Float, Float>>;
+template <class Src, class Dst, class Float>
+BatchCall<Float> batch_call(Address address) {
+  auto* const function = reinterpret_cast<BatchFunction<Src, Dst>*>(address);
+  return [function](const Float* src, std::ptrdiff_t src_step, std::ptrdiff_t src_dist, Float* dst,
+                    std::ptrdiff_t dst_step, std::ptrdiff_t dst_dist, std::int32_t size,
+                    std::ptrdiff_t count, std::int32_t flag) {
+    return function(reinterpret_cast<const Src*>(src), src_step, src_dist,
+                    reinterpret_cast<Dst*>(dst), dst_step, dst_dist, size, count, flag);
+  };
+}
 
 std::string batch_name(const LinkedFunction& fixed) {
   for (const LinkedFunction& f : frame::linked_functions()) {
@@ -68,7 +83,8 @@ constexpr Layout layouts[] = {
 template <class Float>
 class BatchTaker {
  public:
-  BatchTaker(BatchFunction* call, const LinkedFunction& fixed) : call_(call), fixed_(fixed) {
+  BatchTaker(BatchCall<Float> call, const LinkedFunction& fixed)
+      : call_(std::move(call)), fixed_(fixed) {
     std::uint64_t seed = 0;
     for (const InputSet& set : input_sets<Float>(fixed.points)) {
       auto& input = inputs_.emplace_back(
@@ -141,17 +157,28 @@ class BatchTaker {
   }
   static std::size_t index(std::ptrdiff_t i) { return static_cast<std::size_t>(i); }
 
-  BatchFunction* call_;
+  BatchCall<Float> call_;
   const LinkedFunction& fixed_;
   std::vector<std::vector<Float>> inputs_;
 };
 
+template <class Float, class Complex>
+Finding take_batch(Address address, const LinkedFunction& fixed) {
+  const bool from_bins = side(fixed.src_floats, fixed.points).width == 2;
+  const bool to_bins = side(fixed.dst_floats, fixed.points).width == 2;
+  const auto call = from_bins && to_bins ? batch_call<Complex, Complex, Float>(address)
+                    : from_bins          ? batch_call<Complex, Float, Float>(address)
+                    : to_bins            ? batch_call<Float, Complex, Float>(address)
+                                         : batch_call<Float, Float, Float>(address);
+  return BatchTaker<Float>(call, fixed).take();
+}
 Finding take_batch(const Find& find, const LinkedFunction& fixed) {
   const std::string name = batch_name(fixed);
-  auto* const call = reinterpret_cast<BatchFunction*>(find(name));
-  if (call == nullptr) return {0, "the library has no " + name};
+  const Address address = find(name);
+  if (address == nullptr) return {0, "the library has no " + name};
   const bool in32 = fixed.element == Element::f32 || fixed.element == Element::c32;
-  return in32 ? BatchTaker<float>(call, fixed).take() : BatchTaker<double>(call, fixed).take();
+  return in32 ? take_batch<float, Cplx32>(address, fixed)
+              : take_batch<double, Cplx64>(address, fixed);
 }
 
 }  // namespace

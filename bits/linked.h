@@ -21,7 +21,8 @@ inline Find linked() {
 inline Find linked_batches() {
   return [](const std::string& name) -> Address {
     const auto all = frame::linked_batches();
-    const auto found = std::ranges::find(all, name, &frame::LinkedBatch::name);
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [&](const frame::LinkedBatch& b) { return b.name == name; });
     return found != all.end() ? found->address : nullptr;
   };
 }

@@ -28,12 +28,13 @@ if(HALDGEN_BUILD_FUZZ)
   add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-fsanitize=fuzzer-no-link>)
 endif()
 
-# Warnings as errors, for code written by hand. g++ 12 takes every "literal" + string for an
+# Warnings, for code written by hand; errors where this is the project that is worked on. g++ 12 takes every "literal" + string for an
 # overlapping copy (its bug 105651), and on some machines and levels a variant's vector for
 # uninitialised.
+set(haldgen_werror $<$<BOOL:${HALDGEN_WERROR}>:-Werror>)
 function(haldgen_warnings target)
   target_compile_options(${target} PRIVATE
-    $<$<COMPILE_LANGUAGE:C,CXX>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror>
+    $<$<COMPILE_LANGUAGE:C,CXX>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion ${haldgen_werror}>
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-maybe-uninitialized>)
 endfunction()
@@ -41,16 +42,20 @@ endfunction()
 # Linking of an installed shared library that exports exactly the names of an export list. The
 # libraries lie side by side, in the build tree as after installation. Calls to haldcore stay open
 # to interposition, so there is no -Bsymbolic. All addresses are found at load and read-only from
-# then on, but for the slots; code is never written, the stack never run.
+# then on, but for the slots; code is never written, the stack never run. Inside of another project
+# it is that one's to say where libraries lie and find each other.
 function(haldgen_shared_library target export_list)
   set_target_properties(${target} PROPERTIES
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}
-    LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}
     LINKER_LANGUAGE CXX
-    LINK_DEPENDS ${export_list}
-    BUILD_WITH_INSTALL_RPATH ON
-    INSTALL_RPATH $ORIGIN)
+    LINK_DEPENDS ${export_list})
+  if(PROJECT_IS_TOP_LEVEL)
+    set_target_properties(${target} PROPERTIES
+      LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}
+      BUILD_WITH_INSTALL_RPATH ON
+      INSTALL_RPATH $ORIGIN)
+  endif()
   target_link_options(${target} PRIVATE
     -Wl,--version-script=${export_list} -Wl,--as-needed
     -Wl,-z,relro -Wl,-z,now -Wl,-z,text -Wl,-z,noexecstack)
@@ -59,6 +64,30 @@ function(haldgen_shared_library target export_list)
     target_link_options(${target} PRIVATE -Wl,-z,defs)
   endif()
 endfunction()
+
+# The static library beside a shared one, of the same objects: TARGET_static, by the same file name.
+# Where there are only static libraries it is TARGET itself.
+#   haldgen_static_library(TARGET OBJECT...)
+function(haldgen_static_library target)
+  set(static ${target}_static)
+  if(haldgen_library_type STREQUAL "STATIC")
+    add_library(haldgen::${static} ALIAS ${target})
+    return()
+  endif()
+  add_library(${static} STATIC ${ARGN})
+  add_library(haldgen::${static} ALIAS ${static})
+  # The objects need no library of C++, so programs in C link them.
+  set_target_properties(${static} PROPERTIES OUTPUT_NAME ${target} LINKER_LANGUAGE C)
+  if(PROJECT_IS_TOP_LEVEL)
+    set_target_properties(${static} PROPERTIES ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+  endif()
+  get_target_property(includes ${target} INTERFACE_INCLUDE_DIRECTORIES)
+  target_include_directories(${static} INTERFACE ${includes})
+endfunction()
+
+# A section for each function and each table: whoever links a static library takes what he calls. It
+# changes no instruction.
+set(haldgen_sections -ffunction-sections -fdata-sections)
 
 # Programs of the build are optimised in every configuration: they run during it.
 function(haldgen_build_tool target)
@@ -73,9 +102,9 @@ function(haldgen_kernels target)
   set_target_properties(${target} PROPERTIES
     CXX_VISIBILITY_PRESET hidden POSITION_INDEPENDENT_CODE ON)
   target_compile_options(${target} PRIVATE
-    ${haldgen_kernel_options} -fno-tree-vectorize -fno-tree-slp-vectorize
+    ${haldgen_kernel_options} ${haldgen_sections} -fno-tree-vectorize -fno-tree-slp-vectorize
     $<$<CXX_COMPILER_ID:GNU>:-frename-registers;-fno-ipa-icf;-fno-var-tracking>
-    -Wall -Wextra -Werror)
+    -Wall -Wextra ${haldgen_werror})
   # Checks of addresses as calls: as branches, in lines of a thousand loads and stores, they would take
   # compilers minutes too.
   if(HALDGEN_SANITIZE)

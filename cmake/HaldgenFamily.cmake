@@ -1,15 +1,19 @@
 # Families of transforms: a folder each, listed in registry/families.inc with their sizes.
 #   haldgen_family_folders       the folders, in the order of the list
+#   haldgen_family_functions     the functions that describe the families
 #   haldgen_sizes_of(VARIABLE FUNCTION)   the sizes in the line of a function
+#   haldgen_types_of(VARIABLE FUNCTION)   the element types of its arrays
 set(haldgen_family_list ${PROJECT_SOURCE_DIR}/registry/families.inc)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${haldgen_family_list})
 file(STRINGS ${haldgen_family_list} lines REGEX "^HALDGEN_FAMILY")
 set(haldgen_family_folders)
+set(haldgen_family_functions)
 foreach(line IN LISTS lines)
   if(NOT line MATCHES "^HALDGEN_FAMILY\\(([a-z0-9_]+), ([a-z0-9_]+), ([0-9., ]*)\\)$")
     message(FATAL_ERROR "${haldgen_family_list}: not understood: ${line}")
   endif()
   list(APPEND haldgen_family_folders ${CMAKE_MATCH_1})
+  list(APPEND haldgen_family_functions ${CMAKE_MATCH_2})
   set(haldgen_sizes_text_${CMAKE_MATCH_2} "${CMAKE_MATCH_3}")
 endforeach()
 list(REMOVE_DUPLICATES haldgen_family_folders)
@@ -27,6 +31,14 @@ function(haldgen_sizes_of variable function)
     endif()
   endforeach()
   set(${variable} ${sizes} PARENT_SCOPE)
+endfunction()
+
+function(haldgen_types_of variable function)
+  set(types 32f 64f)
+  if(function STREQUAL "complex")
+    set(types 32fc 64fc)
+  endif()
+  set(${variable} ${types} PARENT_SCOPE)
 endfunction()
 
 # What runs during the build: how the family's kernels come about.
@@ -50,7 +62,7 @@ endfunction()
 #   haldgen_generated_sources(VARIABLE FAMILY KERNELS kernel... TYPES type... [COMMAND batch]
 #                             [FLAVOUR flavour])
 # Families in haldgen_flavoured have sources of their own in each flavour; others have the same.
-set(haldgen_flavoured dct4)
+set(haldgen_flavoured complex dct4)
 set(HALDGEN_TUNING "" CACHE STRING
     "Tuning of all kernels, such as critical:16:0, to measure with; empty for the table")
 add_custom_target(haldgen_generated)

@@ -32,6 +32,8 @@ function(haldgen_place_flavour flavour target library)
       OUTPUT_NAME ${library}
       LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${folder}
       INSTALL_RPATH $ORIGIN/../..)
-    install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder} NAMELINK_SKIP)
+    if(HALDGEN_INSTALL)
+      install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder} NAMELINK_SKIP)
+    endif()
   endif()
 endfunction()

@@ -2,14 +2,22 @@
 include(CMakePackageConfigHelpers)
 
 set(haldgen_installed haldgenp8 haldcore)
+set(haldgen_headers haldgen.h haldgen.hpp haldgen_tables.hpp)
 if(TARGET haldbatch)
   list(APPEND haldgen_installed haldbatch)
-  install(FILES ${PROJECT_SOURCE_DIR}/include/haldbatch.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  list(APPEND haldgen_headers haldbatch.h haldbatch.hpp haldbatch_tables.hpp)
 endif()
-install(TARGETS ${haldgen_installed} EXPORT haldgenTargets
+set(targets ${haldgen_installed})
+foreach(library IN LISTS haldgen_installed)
+  if(TARGET ${library}_static)
+    list(APPEND targets ${library}_static)
+  endif()
+endforeach()
+install(TARGETS ${targets} EXPORT haldgenTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(FILES ${PROJECT_SOURCE_DIR}/include/haldgen.h ${PROJECT_SOURCE_DIR}/haldcore/haldcore.h
+list(TRANSFORM haldgen_headers PREPEND ${PROJECT_SOURCE_DIR}/include/)
+install(FILES ${haldgen_headers} ${PROJECT_SOURCE_DIR}/haldcore/haldcore.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(TARGETS haldgen-bits RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/bits/published.tsv

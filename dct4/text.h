@@ -20,8 +20,9 @@ around in 32 bits, and are refused only where they come out negative.
 
 inline const names::Text kInitText{
     "DCT-IV, set-up in a buffer of the caller",
-    R"(Builds a state, with all its tables. The state lies in the buffer, generally not at its start,
-and lasts until the buffer is dropped; there is nothing to release besides.
+    R"(Builds a state for this element type, with all its tables. The state lies in the buffer,
+generally not at its start, and lasts until the buffer is dropped; there is nothing to release
+besides.
 
 @param state   receives the state.
 @param length  N.
@@ -51,8 +52,12 @@ inline const names::Text kTransformText{
     "DCT-IV, transform",
     R"(    y[k] = sum over n of x[n] * cos(pi/N * (n + 1/2) * (k + 1/2)),   k, n = 0..N-1
 
-There is no scale: applied twice, the transform multiplies by N/2. From length 64 up a state
-holds scratch memory and can serve one call at a time; different states are independent.
+There is no scale: applied twice, the transform multiplies by N/2. FFTW's REDFT11 is twice this
+transform. From length 64 up a state holds scratch memory and can serve one call at a time;
+different states are independent.
+
+States of both element types have one C type, and a state of the other one is not detected: the
+results are wrong, or the call crashes. (haldgen.hpp has a type for each.)
 
 @param src     N elements x[0..N-1]; only read.
 @param dst     N elements y[0..N-1].

@@ -36,28 +36,38 @@ Programs scalar_programs(const Design& design, FloatType type) {
   return {forward, kernelgen::parts_exchanged(forward)};
 }
 
-Programs packed_programs(const Design& design, FloatType type, int seed) {
+Programs packed_programs(const Design& design, FloatType type, int seed, const PairsOf& pairs) {
   if (design.products != Products::narrow) {
     throw std::logic_error("a packed kernel has narrow products");
   }
-  const bool pairs = type == FloatType::f32;
-  const auto packed = kernelgen::pack(expand(design.recipe, pairs), pairs ? 2 : 1, design.access);
+  const bool in_pairs = type == FloatType::f32;
+  const auto packed =
+      kernelgen::pack(expand(design.recipe, in_pairs), in_pairs ? 2 : 1, design.access);
   const auto forms = kernelgen::choose_forms(packed, kFormSweeps, seed, design.signs);
-  const Program forward = kernelgen::lower_packed(packed, forms, type);
+  const auto paired = [&](const kernelgen::Pairs& distances, bool mirrored) {
+    return lower_paired(packed, pair(packed, distances), forms, type, mirrored);
+  };
+  Programs programs;
+  programs.forward =
+      pairs.forward ? paired(*pairs.forward, false) : kernelgen::lower_packed(packed, forms, type);
   if (design.inverse == Inverse::reversal) {
-    return {forward, reversed(forward, design.recipe.length)};
+    programs.inverse = reversed(programs.forward, design.recipe.length);
+  } else if (pairs.inverse) {
+    programs.inverse = paired(*pairs.inverse, true);
+  } else {
+    const auto mirrored = kernelgen::choose_mirrored_forms(packed, forms, kFormSweeps, seed);
+    programs.inverse = kernelgen::lower_packed(packed, mirrored, type);
   }
-  const auto mirrored = kernelgen::choose_mirrored_forms(packed, forms, kFormSweeps, seed);
-  return {forward, kernelgen::lower_packed(packed, mirrored, type)};
+  return programs;
 }
 
 }  // namespace
 
 Graph graph_of(const Design& design) { return expand(design.recipe, false); }
 
-Programs programs_of(const Design& design, FloatType type, int seed) {
+Programs programs_of(const Design& design, FloatType type, int seed, const PairsOf& pairs) {
   return design.execution == Execution::scalar ? scalar_programs(design, type)
-                                               : packed_programs(design, type, seed);
+                                               : packed_programs(design, type, seed, pairs);
 }
 
 }  // namespace haldgen::dft_complex

@@ -2,9 +2,12 @@
 // programs that come of it.
 #pragma once
 
+#include <optional>
+
 #include "dft_complex/recipe.h"
 #include "kernelgen/forms.h"
 #include "kernelgen/packed.h"
+#include "kernelgen/paired.h"
 #include "kernelgen/program.h"
 
 namespace haldgen::dft_complex {
@@ -49,6 +52,12 @@ struct Programs {
   kernelgen::Program forward;
   kernelgen::Program inverse;
 };
-Programs programs_of(const Design& design, kernelgen::FloatType type, int seed);
+/// Pairs that are given are made of packed programs.
+struct PairsOf {
+  std::optional<kernelgen::Pairs> forward = {};
+  std::optional<kernelgen::Pairs> inverse = {};
+};
+Programs programs_of(const Design& design, kernelgen::FloatType type, int seed,
+                     const PairsOf& pairs = {});
 
 }  // namespace haldgen::dft_complex

@@ -41,7 +41,8 @@ family::Source source(int length, FloatType type, const family::Tuning& tuning) 
   const family::Choice there = tuning.of(forward);
   const family::Choice back = tuning.of(inverse);
   if (there.seed != back.seed) throw std::logic_error("two seeds for the forms of " + forward);
-  const Programs programs = programs_of(design_of(length, type), type, there.seed);
+  const Programs programs =
+      programs_of(design_of(length, type), type, there.seed, {there.pairs, back.pairs});
   const family::Work counts = work(length, type);
 
   family::Source source;
@@ -53,6 +54,7 @@ family::Source source(int length, FloatType type, const family::Tuning& tuning) 
                       std::to_string(counts.depth) + ", and the scale\n";
   source.command = "complex " + std::to_string(length) + " " + std::string(names::suffix(element));
   source.includes = {"family/contract.h"};
+  if (there.pairs || back.pairs) source.includes.emplace_back("lanes/paired.h");
   source.scope = "dft_complex";
   family::Transform transform{"Forward", length, Divides::forward, element};
   const Recipe& recipe = design_of(length, type).recipe;

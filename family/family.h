@@ -8,7 +8,6 @@
 #include "family/source.h"
 #include "family/tuning.h"
 #include "kernelgen/graph.h"
-#include "names/flavour.h"
 #include "names/names.h"
 
 namespace haldgen::family {
@@ -34,10 +33,6 @@ struct Generated {
   std::vector<std::string> kernels = {};  ///< names, where kernels are no whole transforms
   /// The source file of the kernels of batches.
   Source (*batch)(int size, FloatType type, const Tuning& tuning) = nullptr;
-  /// That of the kernels of a flavour, where these are not the baseline's sources compiled for it;
-  /// the build is told by haldgen_flavoured in cmake/HaldgenFamily.cmake.
-  Source (*flavoured)(int size, FloatType type, const Tuning& tuning,
-                      const names::Flavour& flavour) = nullptr;
 };
 
 /// Transforms that are planned at run time, made of several kernels each.

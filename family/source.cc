@@ -43,6 +43,10 @@ std::string ordered_by(const Choice& choice, bool has_forms) {
   if (choice.ordering.cap != 0) {
     text += ", for " + std::to_string(choice.ordering.cap) + " live values";
   }
+  if (choice.pairs) {
+    text += "; pairs at distances of " + std::to_string(choice.pairs->source) + " at the source, " +
+            std::to_string(choice.pairs->destination) + " at the destination";
+  }
   if (has_forms) text += "; forms by seed " + std::to_string(choice.seed);
   return text + ".";
 }
@@ -55,7 +59,10 @@ Kernel transform_kernel(const Transform& transform, const kernelgen::Program& pr
   kernel.remark = ordered_by(choice, vectors);
   kernel.members = "  using Float = " + kernelgen::type_name(program.type) + ";\n";
   kernel.members += "  using Element = " + std::string(c_type(transform.element)) + ";\n";
-  if (vectors) {
+  if (program.memory == kernelgen::Memory::paired) {
+    kernel.members += "  using V = lanes::WideVector<Float, 16>;\n";
+    kernel.members += "  using W = lanes::WideVector<Float, 32>;\n";
+  } else if (vectors) {
     kernel.members += "  using V = " + kernelgen::vector_name(program) + ";\n";
   }
   kernel.members += std::string("  static constexpr bool kPathsDiffer = ") +

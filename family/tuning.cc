@@ -9,11 +9,20 @@ namespace {
 
 using kernelgen::Order;
 
+/// What a flavour has instead; nothing where it takes the program of the baseline.
+struct Wider {
+  Order order = Order::program;
+  int cap = 0;
+  kernelgen::Pairs pairs = {0, 0};
+};
+
 struct Row {
   std::string_view name;
   Order order;
   int cap;
   int seed;
+  Wider v3 = {};
+  Wider v4 = {};
 };
 
 constexpr auto program = Order::program;
@@ -31,19 +40,29 @@ static_assert(std::ranges::is_sorted(kRows, {}, &Row::name));
 
 Choice parse_choice(const std::string& text) {
   std::istringstream parts(text);
-  std::string order, cap, seed;
+  std::string order, cap, seed, source, destination;
   std::getline(parts, order, ':');
   std::getline(parts, cap, ':');
-  std::getline(parts, seed);
-  return {{kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap)},
-          seed.empty() ? 0 : std::stoi(seed)};
+  std::getline(parts, seed, ':');
+  std::getline(parts, source, ':');
+  std::getline(parts, destination);
+  Choice choice{{kernelgen::order_named(order), cap.empty() ? 0 : std::stoi(cap)},
+                seed.empty() ? 0 : std::stoi(seed)};
+  if (!source.empty()) choice.pairs = {std::stoi(source), std::stoi(destination)};
+  return choice;
 }
 
 Choice Tuning::of(std::string_view exported_name) const {
   if (everywhere_) return *everywhere_;
   const Row* const row = std::ranges::lower_bound(kRows, exported_name, {}, &Row::name);
   if (row == std::end(kRows) || row->name != exported_name) return {};
-  return {{row->order, row->cap}, row->seed};
+  Choice choice{{row->order, row->cap}, row->seed};
+  const Wider& wider = vector_bits_ == 512 ? row->v4 : row->v3;
+  if (vector_bits_ > 128 && wider.pairs.source != 0) {
+    choice.ordering = {wider.order, wider.cap};
+    choice.pairs = wider.pairs;
+  }
+  return choice;
 }
 
 }  // namespace haldgen::family

@@ -6,7 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "kernelgen/paired.h"
 #include "kernelgen/schedule.h"
+#include "names/flavour.h"
 
 namespace haldgen::family {
 
@@ -16,9 +18,12 @@ namespace haldgen::family {
 struct Choice {
   kernelgen::Ordering ordering;
   int seed = 0;
+  /// How nodes are paired in vectors of twice the width; none: they are not.
+  std::optional<kernelgen::Pairs> pairs = {};
 };
 
-/// ORDER, ORDER:CAP or ORDER:CAP:SEED; throws if it is none.
+/// ORDER, ORDER:CAP, ORDER:CAP:SEED or ORDER:CAP:SEED:SOURCE:DESTINATION, the last two for pairs;
+/// throws if it is none.
 Choice parse_choice(const std::string& text);
 
 /// The choices of all kernels.
@@ -26,6 +31,10 @@ class Tuning {
  public:
   /// Those of the table.
   Tuning() = default;
+  /// Those of a flavour: orders and pairs of its own, and of all else what the baseline has, since
+  /// its bits are the same. Families with such rows are told to the build by haldgen_flavoured in
+  /// cmake/HaldgenFamily.cmake.
+  explicit Tuning(const names::Flavour& flavour) : vector_bits_(flavour.vector_bits) {}
   /// The same choice everywhere, to measure with.
   explicit Tuning(const Choice& everywhere) : everywhere_(everywhere) {}
 
@@ -34,6 +43,7 @@ class Tuning {
 
  private:
   std::optional<Choice> everywhere_;
+  int vector_bits_ = 128;
 };
 
 }  // namespace haldgen::family

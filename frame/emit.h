@@ -3,11 +3,18 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+
+#include "family/family.h"
 
 namespace haldgen::frame {
 
 /// The public header, include/haldgen.h.
 std::string emit_header();
+
+/// The tables of the C++ headers, include/haldgen_tables.hpp and include/haldbatch_tables.hpp.
+std::string emit_tables();
+std::string emit_batch_tables();
 
 /// Assembly: the table of entry slots and the forwarding entries.
 std::string emit_entries();
@@ -24,8 +31,12 @@ std::string emit_linker_exports();
 /// C++ header: declarations of all implementations, hidden.
 std::string emit_implementations();
 
-/// C++ source: the general entries.
-std::string emit_general_entries();
+/// C++ source: the general entries of a family for one element type, such as "32fc".
+std::string emit_general_entries(const family::Family& family, std::string_view type);
+
+/// Each implementation's symbol and the public name that it has where there are no entries, a pair
+/// a line.
+std::string emit_public_names();
 
 /// The public header of batches, include/haldbatch.h.
 std::string emit_batch_header();

@@ -67,6 +67,8 @@ constexpr std::string_view prologue = R"(/**
 
 #include "haldgen.h"
 
+/* clang-format off */
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -74,7 +76,7 @@ extern "C" {
 /**
  * Bits of the vectors of the build that has been loaded: 128, 256 or 512.
  */
-int32_t haldbGetVectorBits(void);
+int32_t haldbGetVectorBits(void) HALDGEN_NOTHROW;
 )";
 
 constexpr std::string_view epilogue = R"(
@@ -97,12 +99,6 @@ std::vector<Export> batches() {
     }
   }
   return all;
-}
-
-/// What an element of a batch's array is: bins are complex numbers.
-Element element_of(Layout layout, Element element) {
-  if (layout != Layout::ccs) return element;
-  return element == Element::f32 ? Element::c32 : Element::c64;
 }
 
 int floats_of(Element element) {
@@ -150,9 +146,10 @@ std::string definition(const Word& word) {
          "dst.\n\n";
 }
 
+std::string title(const Word& word) { return transform_title(word) + ", batch"; }
+
 void emit_functions(std::ostream& out, const Word& word) {
-  const std::string& title = word.text.title;
-  out << "\n/**\n * @name " << title.substr(0, title.find(',')) << ", batch\n *\n";
+  out << "\n/**\n * @name " << title(word) << "\n *\n";
   const std::string src = "@param src      of the first transform: the first of " +
                           elements_of(word.usage.src) + "; only read.\n";
   const std::string dst =
@@ -177,7 +174,8 @@ void emit_functions(std::ostream& out, const Word& word) {
   for (const Export& batch : batches()) {
     if (batch.word != &word) continue;
     const std::string line = "\n" + std::string(batch.name.size() + 9, ' ');
-    out << declaration(batch, line) << ";\n";
+    emit_prototype(out, summary(title(word), batch.element, word.usage.scaling),
+                   declaration(batch, line));
   }
   out << "/** @} */\n";
 }
@@ -267,7 +265,7 @@ void emit_entry(std::ostream& out, const Export& batch) {
   };
   const std::string size = size_name(word);
   out << "};\n}  // namespace\n\n"
-      << declaration(batch, "\n    ") << " {\n  return checked(" << table << ", " << size
+      << "HALDGEN_NOTHROW " << declaration(batch, "\n    ") << " {\n  return checked(" << table << ", " << size
       << " - std::ptrdiff_t{" << word.sizes.first() << "},\n      Elements<const " << type << ">"
       << array("src", word.usage.src, "const " + type) << ",\n      Elements<" << type << ">"
       << array("dst", word.usage.dst, type) << ",\n      count, flag, "
@@ -295,6 +293,22 @@ std::string emit_batch_header() {
     if (is_general(word)) emit_functions(out, word);
   }
   out << epilogue;
+  return out.str();
+}
+
+std::string emit_batch_tables() {
+  std::ostringstream out;
+  out << "// The functions of haldbatch.h by their single functions in haldgen_tables.hpp.\n"
+         "// This file is written by haldgen-framegen; do not edit it.\n// clang-format off\n"
+         "#ifndef HALDBATCH_TABLES_HPP\n#define HALDBATCH_TABLES_HPP\n\n"
+         "#include <haldbatch.h>\n#include <haldgen_tables.hpp>\n\n"
+         "namespace haldgen::detail {\n\n"
+         "template <class Transform>\ninline constexpr auto batch_function = nullptr;\n";
+  for (const Export& batch : batches()) {
+    out << "template <>\ninline constexpr auto batch_function<" << batch.word->word << "<"
+        << float_name(batch.element) << ">> = &" << batch.name << ";\n";
+  }
+  out << "\n}  // namespace haldgen::detail\n\n#endif\n";
   return out.str();
 }
 

@@ -6,11 +6,13 @@
 
 #include "frame/emit.h"
 #include "frame/text.h"
+#include "names/arrays.h"
 #include "registry/registry.h"
 
 namespace haldgen::frame {
 namespace {
 
+using names::Element;
 using names::Scaling;
 using names::Signature;
 using names::Word;
@@ -32,7 +34,10 @@ constexpr std::string_view prologue =
  * - Any number of threads may call at once, also with one src. Nothing is locked, and nothing is
  *   allocated, but for the work area of a large Walsh-Hadamard transform called without one.
  * - The same input gives the same bits on every call and on every machine.
- * - A failure is only returned as a status, and then dst is not written.
+ * - A failure is only returned as a status, and then dst is not written. Nothing is thrown; nor may
+ *   a haldMalloc throw that a program puts in the place of haldcore's.
+ *
+ * haldgen.hpp is the same for C++20: lengths in types, std::complex, no status where nothing fails.
  *
  * This file is written by haldgen-framegen; do not edit it.
  */
@@ -41,11 +46,47 @@ constexpr std::string_view prologue =
 
 #include <stdint.h>
 
+)";
+
+// The numbers are the project's.
+constexpr std::string_view version_macros =
+    "/** Major release of the library that this header belongs to. */\n"
+    "#define HALDGEN_VERSION_MAJOR " HALDGEN_MAJOR
+    "\n"
+    "/** Minor release. */\n"
+    "#define HALDGEN_VERSION_MINOR " HALDGEN_MINOR
+    "\n"
+    "/** Update within the minor release. */\n"
+    "#define HALDGEN_VERSION_UPDATE " HALDGEN_UPDATE "\n";
+
+constexpr std::string_view types =
+    R"(/** The three in one number that grows with them: 80100 is version 8.1.0. */
+#define HALDGEN_VERSION \
+  (HALDGEN_VERSION_MAJOR * 10000 + HALDGEN_VERSION_MINOR * 100 + HALDGEN_VERSION_UPDATE)
+
 /**
  * Version of the bits. Libraries with the same number give the same results, to the bit and the
  * sign of a zero. What a NaN holds besides being one is not promised.
  */
 #define HALDGEN_BITS_VERSION 1
+
+/** On the functions of the library: no exception leaves them. Their types are as without it. */
+#if defined(__GNUC__)
+#define HALDGEN_NOTHROW __attribute__((nothrow))
+#else
+#define HALDGEN_NOTHROW
+#endif
+
+/** On the function whose body stands in this header. */
+#if defined(__cplusplus)
+#define HALDGEN_STATIC_INLINE inline
+#elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 199901L
+#define HALDGEN_STATIC_INLINE static inline
+#elif defined(__GNUC__)
+#define HALDGEN_STATIC_INLINE static __inline__
+#else
+#define HALDGEN_STATIC_INLINE static
+#endif
 
 #ifdef __cplusplus
 extern "C" {
@@ -71,6 +112,24 @@ enum {
   haldStatusNullPointer = -8, /**< a required pointer is null */
   haldStatusFlagError = -16   /**< a scaling flag that is none of the four values */
 };
+
+/** What a status means, as a text to print: of any number, never null. */
+HALDGEN_STATIC_INLINE const char* haldStatusText(int32_t status) {
+  switch (status) {
+    case haldStatusOk:
+      return "success";
+    case haldStatusBadArgument:
+      return "not a state that was set up, or a negative count";
+    case haldStatusSizeError:
+      return "no function of this length or order";
+    case haldStatusNullPointer:
+      return "a null pointer, or no memory";
+    case haldStatusFlagError:
+      return "not one of the four scaling flags";
+    default:
+      return "not a status of haldgen";
+  }
+}
 
 /**
  * The scaling flags: a transform takes exactly one of them; sums of flags are refused. They select
@@ -104,7 +163,17 @@ enum {
  *     Perm   | N             | R(0), R(N/2), R(k), I(k) for 1..q    | as Pack
  *
  * Forward transforms write +0 to the parts of CCS that are zero, inverse ones never read them.
+ * The macros that follow are these numbers of elements, constant where n is.
  */
+
+/** Bins of a half spectrum of n samples, the first and the last included. */
+#define HALDGEN_BINS(n) ((n) / 2 + 1)
+/** Floats of a half spectrum of n samples in CCS format. */
+#define HALDGEN_CCS_SIZE(n) (2 * HALDGEN_BINS(n))
+/** Floats of a half spectrum of n samples in Pack format. */
+#define HALDGEN_PACK_SIZE(n) (n)
+/** Floats of a half spectrum of n samples in Perm format. */
+#define HALDGEN_PERM_SIZE(n) (n)
 
 /** Which build of the library this is. */
 typedef struct {
@@ -150,10 +219,23 @@ bool takes_state(const Word& word) {
          word.signature == Signature::plan_free || word.signature == Signature::planned_transform;
 }
 
+/// Of one function.
+std::string title(const Word& word, int size) {
+  const std::string transform = transform_title(word);
+  if (is_general(word)) {
+    return transform + (has_order(word) ? " of an order" : " of a length") + " known at run time";
+  }
+  if (!size_in_name(word)) return word.text.title;
+  const std::string points = std::to_string(names::arrays(word, size).points) + " points";
+  return transform + " of " + points +
+         (has_order(word) ? ", order " + std::to_string(size) : std::string());
+}
+
 void emit_declarations(std::ostream& out, const Word& word) {
-  for (const names::Element element : word.elements) {
+  for (const Element element : word.elements) {
     const auto emit = [&](int size) {
-      out << declaration(word.signature, element, export_name(word, element, size)) << ";\n";
+      emit_prototype(out, summary(title(word, size), element, word.usage.scaling),
+                     declaration(word.signature, element, export_name(word, element, size)));
     };
     if (size_in_name(word)) {
       for (const int size : word.sizes) emit(size);
@@ -188,6 +270,32 @@ std::string scaling_text(Scaling scaling) {
   throw std::logic_error("unknown scaling");
 }
 
+names::Element element_of(names::Layout layout, Element element) {
+  if (layout != names::Layout::ccs) return element;
+  return element == Element::f32 ? Element::c32 : Element::c64;
+}
+
+std::string transform_title(const Word& word) {
+  return word.text.title.substr(0, word.text.title.find(','));
+}
+
+std::string summary(const std::string& title, Element element, Scaling scaling) {
+  std::string text = title;
+  if (element != Element::none) {
+    const bool is_float = element == Element::f32 || element == Element::c32;
+    text += is_float ? ", 32-bit floats" : ", 64-bit floats";
+  }
+  return text + (scaling == Scaling::none ? "." : "; scaled as flag says.");
+}
+
+void emit_prototype(std::ostream& out, const std::string& summary, const std::string& declaration) {
+  constexpr std::string_view nothrow = "HALDGEN_NOTHROW;";
+  constexpr std::size_t columns = 100;
+  const std::size_t last_line = declaration.size() - (declaration.rfind('\n') + 1);
+  const bool fits = last_line + 1 + nothrow.size() <= columns;
+  out << "/** " << summary << " */\n" << declaration << (fits ? " " : "\n    ") << nothrow << "\n";
+}
+
 void emit_comment(std::ostream& out, std::initializer_list<std::string_view> parts) {
   for (const std::string_view part : parts) {
     std::istringstream lines{std::string(part)};
@@ -199,7 +307,7 @@ void emit_comment(std::ostream& out, std::initializer_list<std::string_view> par
 
 std::string emit_header() {
   std::ostringstream out;
-  out << prologue;
+  out << prologue << version_macros << types;
   if (std::ranges::any_of(registry::words(), takes_state)) out << state_type;
   for (const Word& word : registry::words()) emit_word(out, word);
   out << epilogue;

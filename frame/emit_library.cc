@@ -116,7 +116,8 @@ std::string emit_entry_functions() {
       << "#include \"implementations.h\"\n\nextern \"C\" {\n\n";
   for (const Export& function : registry::exports()) {
     const Signature signature = function.word->signature;
-    out << declaration(signature, function.element, function.name) << " {\n  return "
+    out << "HALDGEN_NOTHROW " << declaration(signature, function.element, function.name)
+        << " {\n  return "
         << implementation_symbol(function.name) << "("
         << joined_names(parameters(signature, function.element)) << ");\n}\n";
   }
@@ -151,15 +152,27 @@ std::string emit_implementations() {
   return out.str();
 }
 
-std::string emit_general_entries() {
+std::string emit_general_entries(const family::Family& family, std::string_view type) {
   std::ostringstream out;
   out << "// " << generated_notice << "\n"
       << "// General entries: the size, tested first and alone, selects the implementation.\n"
       << "#include <cstdint>\n#include <iterator>\n\n#include \"implementations.h\"\n";
   for (const Export& function : registry::exports()) {
-    if (is_general(*function.word)) emit_general_entry(out, function);
+    const bool here = names::suffix(function.element) == type &&
+                      std::ranges::any_of(family.words, [&](const Word& word) {
+                        return word.word == function.word->word;
+                      });
+    if (here && is_general(*function.word)) emit_general_entry(out, function);
   }
   return out.str();
+}
+
+std::string emit_public_names() {
+  std::string text;
+  for (const Export& function : registry::exports()) {
+    text += implementation_symbol(function.name) + " " + function.name + "\n";
+  }
+  return text;
 }
 
 std::string emit_linked_functions() {

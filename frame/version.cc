@@ -3,9 +3,6 @@
 #include "lanes/width.h"
 #include "names/flavour.h"
 
-#define HALDGEN_MAJOR 8
-#define HALDGEN_MINOR 1
-#define HALDGEN_UPDATE 0
 #define HALDGEN_REVISION 41664
 
 #define HALDGEN_TEXT_OF(number) #number
@@ -22,14 +19,14 @@ constexpr haldgen::names::Flavour this_flavour() {
 constexpr haldgen::names::Flavour flavour = this_flavour();
 
 constexpr LibraryVersion version = {
-    HALDGEN_MAJOR,
-    HALDGEN_MINOR,
-    HALDGEN_UPDATE,
+    HALDGEN_VERSION_MAJOR,
+    HALDGEN_VERSION_MINOR,
+    HALDGEN_VERSION_UPDATE,
     HALDGEN_REVISION,
     {flavour.tag[0], flavour.tag[1], flavour.tag[2], flavour.tag[3]},
     flavour.name,
-    HALDGEN_TEXT(HALDGEN_MAJOR) "." HALDGEN_TEXT(HALDGEN_MINOR) "." HALDGEN_TEXT(
-        HALDGEN_UPDATE) " (r" HALDGEN_TEXT(HALDGEN_REVISION) ")",
+    HALDGEN_TEXT(HALDGEN_VERSION_MAJOR) "." HALDGEN_TEXT(HALDGEN_VERSION_MINOR) "." HALDGEN_TEXT(
+        HALDGEN_VERSION_UPDATE) " (r" HALDGEN_TEXT(HALDGEN_REVISION) ")",
     "Jan 15 2014",
 };
 

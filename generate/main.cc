@@ -15,7 +15,6 @@ namespace {
 
 using haldgen::family::Family;
 using haldgen::family::FloatType;
-using haldgen::family::Source;
 using haldgen::family::Tuning;
 using haldgen::family::Work;
 using haldgen::names::Flavour;
@@ -24,7 +23,7 @@ constexpr std::string_view kUsage =
     "usage: haldgen-generate list\n"
     "       haldgen-generate counts [FAMILY]\n"
     "       haldgen-generate recipe|counts|graph|code FAMILY KERNEL TYPE\n"
-    "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [ORDER:CAP:SEED]\n"
+    "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [TUNING]\n"
     "       haldgen-generate source|code ... --flavour TAG\n"
     "       haldgen-generate constants FAMILY FILE\n"
     "  list     the families with their kernels and element types\n"
@@ -34,11 +33,13 @@ constexpr std::string_view kUsage =
     "  code     its C++ source, as source writes it to a file\n"
     "  batch    the source of its batches\n"
     "  constants  a source file of constants for the planner of a family\n"
-    "  TAG      v3 or v4: the kernels of a flavour, in families that have some of their own\n"
+    "  TAG      v3 or v4, a flavour: its vectors and its column of the table\n"
     "  KERNEL   a length, or the name of a part of planned transforms\n"
     "  TYPE     32f or 64f; of complex elements 32fc or 64fc\n"
+    "  TUNING   ORDER:CAP:SEED[:SOURCE:DESTINATION] instead of the table's\n"
     "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
-    "           SEED a number that varies the choice of forms of vector kernels\n";
+    "           SEED a number that varies the choice of forms of vector kernels,\n"
+    "           SOURCE and DESTINATION distances of elements that share a wider vector\n";
 
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
@@ -135,19 +136,6 @@ void write_file(const std::string& path, const std::string& text) {
   if (!file.flush()) throw std::runtime_error("cannot write " + path);
 }
 
-/// The source of a kernel, or of its batches or flavour.
-Source source_of(const Family& family, int number, FloatType type, const Tuning& tuning, bool batch,
-                 const Flavour* flavour) {
-  const auto& generated = *family.generated;
-  if (batch) {
-    if (generated.batch == nullptr) throw UsageError("a family without batches");
-    return generated.batch(number, type, tuning);
-  }
-  if (flavour == nullptr) return generated.source(number, type, tuning);
-  if (generated.flavoured == nullptr) throw UsageError("a family without flavours of its own");
-  return generated.flavoured(number, type, tuning, *flavour);
-}
-
 /// Takes an option and its value from the arguments; null if it is not there.
 const Flavour* take_flavour(std::vector<std::string>& args) {
   const auto option = std::find(args.begin(), args.end(), "--flavour");
@@ -179,10 +167,12 @@ void run(std::vector<std::string> args) {
   const int number = kernel_named(family, args[2]);
   const FloatType type = type_named(family, args[3]);
   const bool batch = command == "batch";
+  Tuning tuning = flavour == nullptr ? Tuning() : Tuning(*flavour);
   if ((command == "source" || batch) && (args.size() == 5 || args.size() == 6)) {
-    const Tuning tuning =
-        args.size() == 5 ? Tuning() : Tuning(haldgen::family::parse_choice(args[5]));
-    return write_file(args[4], print(source_of(family, number, type, tuning, batch, flavour)));
+    if (args.size() == 6) tuning = Tuning(haldgen::family::parse_choice(args[5]));
+    if (batch && family.generated->batch == nullptr) throw UsageError("a family without batches");
+    const auto source = batch ? family.generated->batch : family.generated->source;
+    return write_file(args[4], print(source(number, type, tuning)));
   }
   if (args.size() != 4) throw UsageError("arguments");
   if (command == "counts") {
@@ -193,7 +183,7 @@ void run(std::vector<std::string> args) {
   } else if (command == "graph") {
     std::cout << haldgen::kernelgen::to_dot(family.generated->graph(number, type));
   } else if (command == "code") {
-    std::cout << print(source_of(family, number, type, Tuning(), false, flavour));
+    std::cout << print(family.generated->source(number, type, tuning));
   } else {
     throw UsageError("unknown command");
   }

@@ -4,7 +4,8 @@
  *
  * haldgen calls these three functions through the dynamic linker. An application that defines
  * functions of the same names (in the executable, or in a library loaded before libhaldcore)
- * replaces them: so it can bring its own allocator. Replace haldMalloc and haldFree together.
+ * replaces them: so it can bring its own allocator. Replace haldMalloc and haldFree together; they
+ * must not throw.
  */
 #ifndef HALDCORE_H
 #define HALDCORE_H

@@ -46,6 +46,8 @@
 
 #include "haldgen.h"
 
+/* clang-format off */
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -53,7 +55,7 @@ extern "C" {
 /**
  * Bits of the vectors of the build that has been loaded: 128, 256 or 512.
  */
-int32_t haldbGetVectorBits(void);
+int32_t haldbGetVectorBits(void) HALDGEN_NOTHROW;
 
 /**
  * @name Forward complex DFT, batch
@@ -78,12 +80,14 @@ int32_t haldbGetVectorBits(void);
  *         haldStatusOk.
  * @{
  */
+/** Forward complex DFT, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbDFTFwd_CToC_32fc(const Cplx32* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                               Cplx32* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                              int32_t length, ptrdiff_t count, int32_t flag);
+                              int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Forward complex DFT, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbDFTFwd_CToC_64fc(const Cplx64* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                               Cplx64* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                              int32_t length, ptrdiff_t count, int32_t flag);
+                              int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 /**
@@ -109,12 +113,14 @@ int32_t haldbDFTFwd_CToC_64fc(const Cplx64* src, ptrdiff_t srcStep, ptrdiff_t sr
  *         haldStatusOk.
  * @{
  */
+/** Inverse complex DFT, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbDFTInv_CToC_32fc(const Cplx32* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                               Cplx32* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                              int32_t length, ptrdiff_t count, int32_t flag);
+                              int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Inverse complex DFT, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbDFTInv_CToC_64fc(const Cplx64* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                               Cplx64* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                              int32_t length, ptrdiff_t count, int32_t flag);
+                              int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 /**
@@ -140,12 +146,14 @@ int32_t haldbDFTInv_CToC_64fc(const Cplx64* src, ptrdiff_t srcStep, ptrdiff_t sr
  *         haldStatusOk.
  * @{
  */
+/** Forward real DFT to CCS, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbDFTFwd_RToCCS_32f(const float* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                Cplx32* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                               int32_t length, ptrdiff_t count, int32_t flag);
+                               int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Forward real DFT to CCS, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbDFTFwd_RToCCS_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                Cplx64* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                               int32_t length, ptrdiff_t count, int32_t flag);
+                               int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 /**
@@ -171,12 +179,14 @@ int32_t haldbDFTFwd_RToCCS_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t s
  *         haldStatusOk.
  * @{
  */
+/** Forward real DFT to Pack, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbDFTFwd_RToPack_32f(const float* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                 float* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                                int32_t length, ptrdiff_t count, int32_t flag);
+                                int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Forward real DFT to Pack, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbDFTFwd_RToPack_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                 double* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                                int32_t length, ptrdiff_t count, int32_t flag);
+                                int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 /**
@@ -202,12 +212,14 @@ int32_t haldbDFTFwd_RToPack_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t 
  *         haldStatusOk.
  * @{
  */
+/** Forward real DFT to Perm, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbDFTFwd_RToPerm_32f(const float* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                 float* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                                int32_t length, ptrdiff_t count, int32_t flag);
+                                int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Forward real DFT to Perm, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbDFTFwd_RToPerm_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                 double* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                                int32_t length, ptrdiff_t count, int32_t flag);
+                                int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 /**
@@ -237,12 +249,14 @@ int32_t haldbDFTFwd_RToPerm_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t 
  *         haldStatusOk.
  * @{
  */
+/** Inverse real DFT from CCS, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbDFTInv_CCSToR_32f(const Cplx32* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                float* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                               int32_t length, ptrdiff_t count, int32_t flag);
+                               int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Inverse real DFT from CCS, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbDFTInv_CCSToR_64f(const Cplx64* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                double* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                               int32_t length, ptrdiff_t count, int32_t flag);
+                               int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 /**
@@ -272,12 +286,14 @@ int32_t haldbDFTInv_CCSToR_64f(const Cplx64* src, ptrdiff_t srcStep, ptrdiff_t s
  *         haldStatusOk.
  * @{
  */
+/** Inverse real DFT from Pack, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbDFTInv_PackToR_32f(const float* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                 float* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                                int32_t length, ptrdiff_t count, int32_t flag);
+                                int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Inverse real DFT from Pack, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbDFTInv_PackToR_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                 double* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                                int32_t length, ptrdiff_t count, int32_t flag);
+                                int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 /**
@@ -307,12 +323,14 @@ int32_t haldbDFTInv_PackToR_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t 
  *         haldStatusOk.
  * @{
  */
+/** Inverse real DFT from Perm, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbDFTInv_PermToR_32f(const float* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                 float* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                                int32_t length, ptrdiff_t count, int32_t flag);
+                                int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Inverse real DFT from Perm, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbDFTInv_PermToR_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                                 double* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                                int32_t length, ptrdiff_t count, int32_t flag);
+                                int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 /**
@@ -338,12 +356,14 @@ int32_t haldbDFTInv_PermToR_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t 
  *         haldStatusOk.
  * @{
  */
+/** Hartley transform, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbHartley_32f(const float* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                          float* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                         int32_t length, ptrdiff_t count, int32_t flag);
+                         int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Hartley transform, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbHartley_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                          double* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                         int32_t length, ptrdiff_t count, int32_t flag);
+                         int32_t length, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 /**
@@ -371,12 +391,14 @@ int32_t haldbHartley_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t srcDist
  *         haldStatusOk.
  * @{
  */
+/** Walsh-Hadamard transform, batch, 32-bit floats; scaled as flag says. */
 int32_t haldbWHT_32f(const float* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                      float* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                     int32_t order, ptrdiff_t count, int32_t flag);
+                     int32_t order, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
+/** Walsh-Hadamard transform, batch, 64-bit floats; scaled as flag says. */
 int32_t haldbWHT_64f(const double* src, ptrdiff_t srcStep, ptrdiff_t srcDist,
                      double* dst, ptrdiff_t dstStep, ptrdiff_t dstDist,
-                     int32_t order, ptrdiff_t count, int32_t flag);
+                     int32_t order, ptrdiff_t count, int32_t flag) HALDGEN_NOTHROW;
 /** @} */
 
 #ifdef __cplusplus

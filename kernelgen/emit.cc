@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <map>
+#include <set>
 #include <stdexcept>
 
 #include "kernelgen/wide.h"
@@ -52,7 +53,12 @@ class Printer {
     return std::any_of(program_.code.begin(), program_.code.end(),
                        [](const Instruction& in) { return in.op == Op::scale; });
   }
-  bool blocks() const { return program_.memory == Memory::blocks || program_.blockwise; }
+  bool paired() const { return program_.memory == Memory::paired; }
+  bool blocks() const { return program_.memory == Memory::blocks || paired() || program_.blockwise; }
+  /// What the code calls the type of an instruction's result: W is twice as wide as V.
+  std::string vector_of(const Instruction& in) const {
+    return lanes_of(program_, in) > program_.lanes ? "W" : "V";
+  }
   bool f32() const { return program_.type == FloatType::f32; }
 
   /// Comments that say which stage an instruction belongs to: that of the comment behind it, else
@@ -102,7 +108,37 @@ class Printer {
     return (in.constant[0] < 0 ? 1 : 0) | (in.constant[1] < 0 ? 2 : 0);
   }
 
+  /// The scale by the signs of lanes, of as many lanes as the instruction.
+  std::string scale_name(const Instruction& in) const {
+    if (!paired()) return "s" + std::to_string(scale_mask(in));
+    std::string name = vector_of(in) == "W" ? "scale_w" : "scale_v";
+    for (int l = 0; l < lanes_of(program_, in); ++l) {
+      name += in.constant[static_cast<std::size_t>(l)] < 0 ? "n" : "p";
+    }
+    return name;
+  }
+  void define_paired_scales() {
+    std::set<std::string> defined;
+    for (const Instruction& in : program_.code) {
+      if (in.op != Op::scale || !defined.insert(scale_name(in)).second) continue;
+      Instruction signs;
+      signs.lanes = in.lanes;
+      bool any = false;
+      for (std::size_t l = 0; l < static_cast<std::size_t>(lanes_of(program_, in)); ++l) {
+        const bool minus = in.constant[l] < 0;
+        any = any || minus;
+        signs.constant[l] = minus ? -0.0 : 0.0;
+      }
+      const std::string type = vector_of(in);
+      const std::string plain = "lanes::splat<" + type + ">(scale)";
+      line("const " + type + " " + scale_name(in) + " = " +
+           (any ? "lanes::change_sign_of_blocks(" + plain + ", " + constants(signs) + ")" : plain) +
+           ";");
+    }
+  }
+
   void define_scales() {
+    if (paired()) return define_paired_scales();
     line(blocks() ? "const V s0 = lanes::splat<V>(scale);"
                   : "const V s0 = lanes::broadcast(scale);");
     for (int mask = 1; mask < 4; ++mask) {
@@ -162,6 +198,8 @@ class Printer {
     std::string type = "V";
     if (program_.lanewise) {
       if (in64(in) && in.op != Op::narrow) type = "auto";
+    } else if (paired()) {
+      type = vector_of(in);
     } else if (scalar()) {
       const bool in32 = f32() && !(in.wide && in.op != Op::narrow);
       type = type_name(in32 ? FloatType::f32 : FloatType::f64);
@@ -177,12 +215,13 @@ class Printer {
 
   std::string constants(const Instruction& in) const {
     if (scalar()) return constant(in.constant[0], in.wide ? FloatType::f64 : program_.type);
-    std::string text = blocks() ? "lanes::repeated<V>(" : "V{";
-    for (int l = 0; l < program_.lanes; ++l) {
+    const bool repeated = blocks() && !paired();
+    std::string text = repeated ? "lanes::repeated<V>(" : vector_of(in) + "{";
+    for (int l = 0; l < lanes_of(program_, in); ++l) {
       text +=
           (l > 0 ? ", " : "") + constant(in.constant[static_cast<std::size_t>(l)], program_.type);
     }
-    return text + (blocks() ? ")" : "}");
+    return text + (repeated ? ")" : "}");
   }
 
   std::string slot(const Instruction& in) const {
@@ -228,6 +267,58 @@ class Printer {
         return true;
       case Op::scale:
         define(index, (in64(in) ? "wide_s" : in.constant[0] < 0 ? "minus_s" : "s") + (" * " + a));
+        return true;
+      default:
+        return false;
+    }
+  }
+
+  /// Whether the instruction is one that programs of two widths say in other words.
+  bool print_paired(int index) {
+    const Instruction& in = program_.code[static_cast<std::size_t>(index)];
+    const std::string a = name(in.a);
+    const std::string type = "<" + vector_of(in) + ">";
+    const std::string src = at("src", in.address[0]);
+    const std::string dst = at("dst", in.address[0]);
+    const auto half = [&](int i) { return std::to_string(in.half[static_cast<std::size_t>(i)]); };
+    switch (in.op) {
+      case Op::zero:
+        define(index, vector_of(in) + "{}");
+        return true;
+      case Op::signed_add:
+        define(index, "lanes::add_signed(" + a + ", " + name(in.b) + ", " + constants(in) + ")");
+        return true;
+      case Op::load:
+        define(index, "lanes::load_wide" + type + "(" + src + ")");
+        return true;
+      case Op::load_pair:
+        define(index,
+               "lanes::load_halves" + type + "(" + src + ", " + at("src", in.address[1]) + ")");
+        return true;
+      case Op::load_single:
+        define(index, "lanes::load_half" + type + "(" + src + ")");
+        return true;
+      case Op::join:
+        define(index, "lanes::joined_blocks(" + a + ", " + name(in.b) + ")");
+        return true;
+      case Op::merge:
+        define(index, "lanes::merged_blocks<" + half(0) + ", " + half(1) + ">(" + a + ", " +
+                          name(in.b) + ")");
+        return true;
+      case Op::block:
+        define(index, "lanes::block_of<" + half(0) + ">(" + a + ")");
+        return true;
+      case Op::store:
+        line("lanes::store_wide" + type + "(" + dst + ", " + a + ");");
+        return true;
+      case Op::store_pair:
+        line("lanes::store_halves(" + dst + ", " + at("dst", in.address[1]) + ", " + a + ");");
+        return true;
+      case Op::store_single:
+        line("lanes::store_half<0>(" + dst + ", " + a + ");");
+        return true;
+      case Op::store_upper:
+        line("lanes::store_half<1>(" + dst + ", " + a + ");");
         return true;
       default:
         return false;
@@ -298,6 +389,8 @@ class Printer {
     }
     if ((program_.memory == Memory::elements || bins) && in.op == Op::store) return store_part(in);
     if (program_.lanewise && print_lanewise(index)) return;
+    if (paired() && print_paired(index)) return;
+    if (blocks() && print_in_blocks(index)) return;
     if (program_.memory == Memory::slots || bins) {
       if (in.op == Op::load) return define(index, "io.template load" + slot(in) + "()");
       if (in.op == Op::store) return line("io.template store" + slot(in) + "(" + a + ");");
@@ -344,9 +437,7 @@ class Printer {
       case Op::narrow:
         return define(index, "static_cast<float>(" + a + ")");
       case Op::scale:
-        return define(
-            index,
-            (scalar() ? std::string("scale") : "s" + std::to_string(scale_mask(in))) + " * " + a);
+        return define(index, (scalar() ? std::string("scale") : scale_name(in)) + " * " + a);
       case Op::store:
         return line(scalar()
                         ? "scalar::store(" + place("dst", subscripts_.destination, in.address[0]) +
@@ -359,6 +450,11 @@ class Printer {
         return line("lanes::store_single(" + at("dst", in.address[0]) + ", " + a + ");");
       case Op::store_upper:
         return line("lanes::store_upper(" + at("dst", in.address[0]) + ", " + a + ");");
+      case Op::signed_add:
+      case Op::join:
+      case Op::merge:
+      case Op::block:
+        throw std::logic_error("vectors of two widths");
     }
   }
 
@@ -432,7 +528,7 @@ std::string emit_constants(const std::vector<NamedConstant>& constants, const st
 }
 
 bool has_whole_vector_access(const Program& program) {
-  if (program.lanes == 1) return false;
+  if (program.lanes == 1 || program.memory == Memory::paired) return false;
   for (const Instruction& in : program.code) {
     if (in.op == Op::load || in.op == Op::store) return true;
   }

@@ -5,16 +5,17 @@ namespace {
 
 /// A register: lanes of the element type, or one lane of 64 bits in a mixed scalar program.
 struct Register {
-  std::array<double, 4> lane{};  // exact carriers of 32-bit values too
+  std::array<double, 8> lane{};  // exact carriers of 32-bit values too
 };
 
 template <class Float>
 void interpret_as(const Program& program, const std::vector<Float>& source, Float scale,
                   std::vector<Float>& destination) {
   std::vector<Register> values(program.code.size());
-  const auto lanes = static_cast<std::size_t>(program.lanes);
+  const auto block = static_cast<std::size_t>(program.lanes);
   for (std::size_t i = 0; i < program.code.size(); ++i) {
     const Instruction& in = program.code[i];
+    const auto lanes = static_cast<std::size_t>(lanes_of(program, in));
     const Register a = in.a != kNoOperand ? values[at(in.a)] : Register{};
     const Register b = in.b != kNoOperand ? values[at(in.b)] : Register{};
     Register& r = values[i];
@@ -50,6 +51,9 @@ void interpret_as(const Program& program, const std::vector<Float>& source, Floa
           return rounded(l % 2 == 0 ? a.lane[l] - b.lane[l] : a.lane[l] + b.lane[l]);
         });
         break;
+      case Op::signed_add:
+        each([&](std::size_t l) { return rounded(a.lane[l] + in.constant[l] * b.lane[l]); });
+        break;
       case Op::multiply:
         each([&](std::size_t l) { return rounded(a.lane[l] * in.constant[l]); });
         break;
@@ -69,12 +73,18 @@ void interpret_as(const Program& program, const std::vector<Float>& source, Floa
         each([&](std::size_t l) { return a.lane[l ^ 1]; });
         break;
       case Op::gather:
-        for (std::size_t h = 0; h < 2; ++h) {
-          const Register& from = h == 0 ? a : b;
-          for (std::size_t p = 0; p < 2; ++p) {
-            r.lane[2 * h + p] = from.lane[2 * at(in.half[h]) + (p ^ at(in.cross[h]))];
-          }
-        }
+        each([&](std::size_t l) {
+          const std::size_t h = l % 4 / 2;
+          return (h == 0 ? a : b).lane[l - l % 4 + 2 * at(in.half[h]) + (l % 2 ^ at(in.cross[h]))];
+        });
+        break;
+      case Op::join:
+      case Op::merge:
+      case Op::block:
+        each([&](std::size_t l) {
+          const std::size_t half = in.op == Op::join ? 0 : at(in.half[l / block]);
+          return (l < block ? a : b).lane[half * block + l % block];
+        });
         break;
       case Op::negate:
         each([&](std::size_t l) { return rounded(0.0 - a.lane[l]); });

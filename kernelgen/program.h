@@ -21,6 +21,7 @@ enum class Op {
   add,               ///< a + b
   subtract,          ///< a - b
   alternate,         ///< a - b in even lanes, a + b in odd lanes
+  signed_add,        ///< a + b or a - b, by the sign of the constant, which is 1 or -1
   multiply,          ///< a times the constants
   product,           ///< a * b, for factors that are known at run time only
   interleave_lower,  ///< lanes of the lower halves of a and b in turns
@@ -32,6 +33,9 @@ enum class Op {
   widen,   ///< the 64-bit value of a 32-bit one
   narrow,  ///< a 64-bit value rounded to 32 bits
   scale,   ///< a times the scale of the call
+  join,    ///< a below b, in a vector of twice the width
+  merge,   ///< block half[0] of a below block half[1] of b, both of twice the width
+  block,   ///< block half[0] of a, which has twice the width
   store,   ///< all lanes to consecutive destination floats from `address[0]`
   store_pair,    ///< lower half to the element at `address[0]`, upper half to `address[1]`
   store_single,  ///< lower half to the element at `address[0]`
@@ -44,10 +48,11 @@ struct Instruction {
   Op op = Op::zero;
   int a = kNoOperand;  ///< the instructions whose results it takes
   int b = kNoOperand;
-  std::array<double, 4> constant{};  ///< lanes, already rounded to the type of the operation
+  std::array<double, 8> constant{};  ///< lanes, already rounded to the type of the operation
   std::array<int, 2> address{};      ///< in floats from the base
   std::array<int, 2> half{};
   std::array<int, 2> cross{};
+  int lanes = 0;           ///< of its vector, where a program has vectors of two widths
   bool wide = false;       ///< scalar programs of 32-bit elements: a 64-bit operation
   std::string stage = {};  ///< of the statement that it belongs to; none: whichever needs it
 };
@@ -64,8 +69,8 @@ double rounded(Wide value, FloatType type);
 /// once to store. Half spectrum: slots, and of what is stored the values 2j - 1 and 2j, the parts
 /// of bin j, are given at once; value 0, and the last of an even number, have no other part.
 /// Blocks: an accessor touches the arrays of as many transforms as wider vectors have blocks of 128
-/// bits, in each of which the program of one runs.
-enum class Memory { arrays, slots, elements, half_spectrum, blocks };
+/// bits, in each of which the program of one runs. Paired: arrays, by vectors of one block or two.
+enum class Memory { arrays, slots, elements, half_spectrum, blocks, paired };
 
 struct Program {
   FloatType type = FloatType::f64;
@@ -81,6 +86,11 @@ struct Program {
   /// The values of which the magnitudes of its constants are roundings.
   std::map<double, Wide> exact = {};
 };
+
+/// The lanes of an instruction's result, or of what it stores.
+inline int lanes_of(const Program& program, const Instruction& instruction) {
+  return instruction.lanes != 0 ? instruction.lanes : program.lanes;
+}
 
 /// Those operands that an instruction has.
 std::vector<int> operands(const Instruction& instruction);

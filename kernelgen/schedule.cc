@@ -48,7 +48,7 @@ struct Dependences {
       case Op::load:
       case Op::store: {
         std::vector<int> all;
-        for (int l = 0; l < program.lanes; l += 2) all.push_back(in.address[0] + l);
+        for (int l = 0; l < lanes_of(program, in); l += 2) all.push_back(in.address[0] + l);
         return all;
       }
       case Op::load_pair:

@@ -30,7 +30,8 @@ class Unpacking {
 
   Program run() {
     for (std::size_t i = 0; i < packed_.code.size(); ++i) {
-      for (std::size_t lane = 0; lane < at(packed_.lanes); ++lane) make(i, lane);
+      const std::size_t lanes = at(lanes_of(packed_, packed_.code[i]));
+      for (std::size_t lane = 0; lane < lanes; ++lane) make(i, lane);
     }
     return pruned(program_);
   }
@@ -106,6 +107,9 @@ class Unpacking {
       case Op::alternate:
         result = sum(a(lane), lane % 2 == 0 ? negated(b(lane)) : b(lane));
         return;
+      case Op::signed_add:
+        result = sum(a(lane), in.constant[lane] < 0 ? negated(b(lane)) : b(lane));
+        return;
       case Op::multiply: {
         const double factor = in.constant[lane];
         result = {emit(Op::multiply, a(lane).value, kNoOperand, std::abs(factor)),
@@ -119,9 +123,19 @@ class Unpacking {
         result = a(lane ^ 1);
         return;
       case Op::gather: {
-        const std::size_t half = lane / 2;
-        const std::size_t from = at(2 * in.half[half]) + (lane % 2 ^ at(in.cross[half]));
+        const std::size_t half = lane % 4 / 2;
+        const std::size_t from =
+            lane - lane % 4 + at(2 * in.half[half]) + (lane % 2 ^ at(in.cross[half]));
         result = half == 0 ? a(from) : b(from);
+        return;
+      }
+      case Op::join:
+      case Op::merge:
+      case Op::block: {
+        const std::size_t block = at(packed_.lanes);
+        const std::size_t half = in.op == Op::join ? 0 : at(in.half[lane / block]);
+        const std::size_t from = half * block + lane % block;
+        result = lane < block ? a(from) : b(from);
         return;
       }
       case Op::scale: {
@@ -153,7 +167,7 @@ class Unpacking {
   const Program& packed_;
   Program program_;
   std::string stage_;
-  std::vector<std::array<Signed, 4>> values_;
+  std::vector<std::array<Signed, 8>> values_;
   std::map<Key, int> known_;
 };
 

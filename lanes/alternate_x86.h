@@ -1,4 +1,5 @@
-// The alternating sum of wide.h on x86 processors, which have an instruction for it.
+// The sums of wide.h and paired.h with signs of their own in each lane, for which x86 processors
+// have instructions.
 #pragma once
 
 #include "lanes/wide.h"
@@ -50,6 +51,30 @@ HALDGEN_INLINE WideVector<double, 64> alternate_x86(WideVector<double, 64> a,
                                                     WideVector<double, 64> b) {
   return __builtin_ia32_vfmaddsubpd512_mask(a, splat<WideVector<double, 64>>(1), b, -1,
                                             kCurrentRounding);
+}
+#endif
+
+#ifdef __FMA__
+/// a + b c, rounded once.
+HALDGEN_INLINE WideVector<float, 16> add_product_x86(WideVector<float, 16> a,
+                                                     WideVector<float, 16> b,
+                                                     WideVector<float, 16> c) {
+  return __builtin_ia32_vfmaddps(b, c, a);
+}
+HALDGEN_INLINE WideVector<double, 16> add_product_x86(WideVector<double, 16> a,
+                                                      WideVector<double, 16> b,
+                                                      WideVector<double, 16> c) {
+  return __builtin_ia32_vfmaddpd(b, c, a);
+}
+HALDGEN_INLINE WideVector<float, 32> add_product_x86(WideVector<float, 32> a,
+                                                     WideVector<float, 32> b,
+                                                     WideVector<float, 32> c) {
+  return __builtin_ia32_vfmaddps256(b, c, a);
+}
+HALDGEN_INLINE WideVector<double, 32> add_product_x86(WideVector<double, 32> a,
+                                                      WideVector<double, 32> b,
+                                                      WideVector<double, 32> c) {
+  return __builtin_ia32_vfmaddpd256(b, c, a);
 }
 #endif
 

@@ -19,6 +19,11 @@ template <class V>
 HALDGEN_INLINE auto joined_blocks(V a, V b, V c, V d) {
   return joined_blocks(joined_blocks(a, b), joined_blocks(c, d));
 }
+/// The first block of a vector whose second one may hold anything.
+template <class V>
+HALDGEN_INLINE auto below_anything(V v) {
+  return joined_blocks(v, v);
+}
 template <class V>
 HALDGEN_INLINE auto joined_halves(V a, V b) {
   return joined_blocks(a, b);

@@ -52,6 +52,13 @@ HALDGEN_INLINE WideVector<double, 32> joined_blocks(WideVector<double, 16> a,
                                                     WideVector<double, 16> b) {
   return __builtin_ia32_vinsertf128_pd256(__builtin_ia32_pd256_pd(a), b, 1);
 }
+/// The first block of a vector whose second one may hold anything.
+HALDGEN_INLINE WideVector<float, 32> below_anything(WideVector<float, 16> v) {
+  return __builtin_ia32_ps256_ps(v);
+}
+HALDGEN_INLINE WideVector<double, 32> below_anything(WideVector<double, 16> v) {
+  return __builtin_ia32_pd256_pd(v);
+}
 HALDGEN_INLINE WideVector<double, 32> widened(WideVector<float, 16> v) {
   return __builtin_ia32_cvtps2pd256(v);
 }

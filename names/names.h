@@ -1,6 +1,7 @@
 // What exported functions are called and which arguments they take.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -60,6 +61,8 @@ struct Word {
   Sizes sizes;                    ///< sizes in the names, or accepted as an argument
   Usage usage;
   Text text;
+  /// Bytes of the work area by size in the name; null if the functions take none.
+  std::int32_t (*work_bytes)(Element element, int size) = nullptr;
 };
 
 /// Whether the size is part of the names (and not an argument or absent).

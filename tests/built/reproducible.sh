@@ -7,7 +7,7 @@ source=$1 binary=$2 scratch=$3
 export CCACHE_DISABLE=1
 
 sample='/(complex_(12_32fc|35_64fc)|real-forward_15_32f|real-inverse_9_64f|hartley_13_64f|wht_9_32f|'
-sample=$sample'dct4_fold_16_32f|execution|arena|load_step|version|general_entries|entries|haldcore)'
+sample=$sample'dct4_fold_16_32f|execution|arena|load_step|version|general_entries_complex_32fc|entries|haldcore)'
 rm -rf "$scratch"
 mkdir -p "$scratch"
 grep '"command": ' "$binary/compile_commands.json" | grep -vE -- " -c [^ ]*/(bench|tests)/" |

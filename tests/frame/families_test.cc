@@ -24,7 +24,10 @@ TEST(Families, NamesAreThePublishedOnes) {
 }
 
 std::vector<std::pair<std::string, std::string>> headers() {
-  return {{"haldgen.h", emit_header()}, {"haldbatch.h", emit_batch_header()}};
+  return {{"haldgen.h", emit_header()},
+          {"haldbatch.h", emit_batch_header()},
+          {"haldgen_tables.hpp", emit_tables()},
+          {"haldbatch_tables.hpp", emit_batch_tables()}};
 }
 
 TEST(Header, CommittedOneIsCurrent) {

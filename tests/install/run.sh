@@ -1,9 +1,9 @@
 #!/bin/sh
-# run.sh CMAKE SOURCE_DIR BUILD_DIR SCRATCH_DIR CC GENERATOR
+# run.sh CMAKE SOURCE_DIR BUILD_DIR SCRATCH_DIR CC CXX GENERATOR
 # Installs, moves the installed tree, and builds and runs programs by way of the CMake package and of
 # pkg-config; runs the installed haldgen-bits.
 set -eu
-cmake=$1 source=$2 build=$3 scratch=$4 cc=$5 generator=$6
+cmake=$1 source=$2 build=$3 scratch=$4 cc=$5 cxx=$6 generator=$7
 consumer=$source/tests/install/consumer
 
 rm -rf "$scratch"
@@ -13,11 +13,17 @@ mv "$scratch/made" "$scratch/moved"
 echo "CMake package:"
 configure() {
   "$cmake" -S "$consumer" -B "$scratch/$1" -G "$generator" -DCMAKE_C_COMPILER="$cc" \
+    -DCMAKE_CXX_COMPILER="$cxx" \
     -DCMAKE_PREFIX_PATH="$scratch/moved" -DWANTED="$2"
 }
 configure build 8.1 >/dev/null
 "$cmake" --build "$scratch/build" >/dev/null
 "$scratch/build/consumer"
+"$scratch/build/consumer_cpp"
+"$scratch/build/static_consumer"
+if readelf -d "$scratch/build/static_consumer" | grep hald; then
+  exit 1
+fi
 for other in 7.0 8.2; do
   if configure "$other" "$other" >/dev/null 2>&1; then
     echo "8.1 passes for $other"
@@ -49,6 +55,12 @@ for package in haldgenp8 haldcore; do
   test "$(pkg-config --modversion "$package")" = 8.1.0
 done
 test "$(pkg-config --print-requires-private haldgenp8)" = haldcore
+
+# The static libraries: nothing of haldgen's is left to load.
+# shellcheck disable=SC2046,SC2086
+"$cc" "$consumer/consumer.c" $(pkg-config --static --cflags --libs haldgenp8) -static \
+  -Wl,--gc-sections -lm -o "$scratch/static"
+"$scratch/static"
 
 echo "The installed bits:"
 # Elsewhere, and with neither the build tree nor a search path to find the library and the sums by.

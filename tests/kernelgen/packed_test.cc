@@ -11,6 +11,7 @@
 
 #include "kernelgen/forms.h"
 #include "kernelgen/lower.h"
+#include "kernelgen/paired.h"
 #include "kernelgen/unpack.h"
 #include "tests/kernelgen/random_graph.h"
 
@@ -95,7 +96,7 @@ constexpr Layout kLayouts[] = {
 
 /// Scale vectors beside the plain one: signs of a vector that a sign change must make.
 int negated_scales(const Program& program) {
-  std::set<std::array<double, 4>> scales;
+  std::set<std::array<double, 8>> scales;
   for (const Instruction& in : program.code) {
     if (in.op == Op::scale && std::count(in.constant.begin(), in.constant.end(), -1.0) != 0) {
       scales.insert(in.constant);
@@ -244,6 +245,39 @@ TEST(Unpacking, KeepsAllBitsInChosenAndWildForms) {
     }
   }
   EXPECT_GT(negations, 0);
+}
+
+// Whatever is paired, every sum is of the same values in the same signs.
+TEST(Pairing, KeepsAllExpressionsInBothDirections) {
+  int wide = 0;
+  int merged = 0;
+  for (std::uint32_t seed = 0; seed < kSeeds; ++seed) {
+    const Graph graph = test::random_complex_graph(seed);
+    Dice dice(seed);
+    for (const auto& [halves, access] : kLayouts) {
+      const FloatType type = halves == 1 ? FloatType::f64 : FloatType::f32;
+      const PackedGraph packed = pack(graph, halves, access);
+      for (const auto& choices : {choose(packed, false), wild_choices(packed, false, dice)}) {
+        const Program lanes = unpacked(lower_packed(packed, choices, type));
+        for (const Pairs& distances : {Pairs{1, 1}, Pairs{2, 2}, Pairs{1, 3}, Pairs{4, 2}}) {
+          SCOPED_TRACE(testing::Message() << "seed " << seed << ", halves " << halves << ", at "
+                                          << distances.source << ", " << distances.destination);
+          const Pairing pairing = pair(packed, distances);
+          for (const bool mirrored : {false, true}) {
+            const Program program = lower_paired(packed, pairing, choices, type, mirrored);
+            for (const Instruction& in : program.code) {
+              wide += in.lanes == 2 * program.lanes ? 1 : 0;
+              merged += in.op == Op::merge ? 1 : 0;
+            }
+            const Program same = unpacked(program);
+            ASSERT_TRUE(same_results(lanes, mirrored ? parts_exchanged(same) : same)) << mirrored;
+          }
+        }
+      }
+    }
+  }
+  EXPECT_GT(wide, 0);
+  EXPECT_GT(merged, 0);
 }
 
 TEST(Unpacking, TellsATurnedDifferenceFromTheSame) {
