@@ -65,7 +65,8 @@ Pass pass_of(Part part) {
 }
 
 /// Flavours run the same programs in each block of wider vectors, where there are groups enough.
-family::Source source_of(int index, FloatType type, const family::Tuning& tuning, bool flavoured) {
+family::Source source(int index, FloatType type, const family::Tuning& tuning) {
+  const bool flavoured = tuning.vector_bits() > 128;
   const Kernel& kernel = kernel_of(index, type);
   const std::string element(names::suffix(family::real_element(type)));
   const family::Choice choice = tuning.of("haldgDCT4_" + element + "/" + name(kernel));
@@ -108,14 +109,6 @@ family::Source source_of(int index, FloatType type, const family::Tuning& tuning
   return source;
 }
 
-family::Source source(int index, FloatType type, const family::Tuning& tuning) {
-  return source_of(index, type, tuning, false);
-}
-family::Source flavoured_source(int index, FloatType type, const family::Tuning& tuning,
-                                const names::Flavour& /*flavour*/) {
-  return source_of(index, type, tuning, true);
-}
-
 std::vector<std::string> kernel_names() {
   std::vector<std::string> all;
   for (const Kernel& kernel : kernels()) {
@@ -138,12 +131,7 @@ family::Family dct4(const names::Sizes& /*lengths*/) {
                         "DCT-IV of power-of-two lengths",
                         {},
                         {},
-                        family::Generated{.algorithm = algorithm,
-                                          .graph = graph,
-                                          .work = work,
-                                          .source = source,
-                                          .kernels = kernel_names(),
-                                          .flavoured = flavoured_source},
+                        family::Generated{algorithm, graph, work, source, kernel_names()},
                         family::Planned{powers_of_two(), transform_work, angle_steps}};
   result.words = {
       {"DCT4GetSize", Signature::length_query, names::kReal, {}, {}, kSizeText},

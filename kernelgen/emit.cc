@@ -54,7 +54,9 @@ class Printer {
                        [](const Instruction& in) { return in.op == Op::scale; });
   }
   bool paired() const { return program_.memory == Memory::paired; }
-  bool blocks() const { return program_.memory == Memory::blocks || paired() || program_.blockwise; }
+  bool blocks() const {
+    return program_.memory == Memory::blocks || paired() || program_.blockwise;
+  }
   /// What the code calls the type of an instruction's result: W is twice as wide as V.
   std::string vector_of(const Instruction& in) const {
     return lanes_of(program_, in) > program_.lanes ? "W" : "V";
@@ -390,7 +392,6 @@ class Printer {
     if ((program_.memory == Memory::elements || bins) && in.op == Op::store) return store_part(in);
     if (program_.lanewise && print_lanewise(index)) return;
     if (paired() && print_paired(index)) return;
-    if (blocks() && print_in_blocks(index)) return;
     if (program_.memory == Memory::slots || bins) {
       if (in.op == Op::load) return define(index, "io.template load" + slot(in) + "()");
       if (in.op == Op::store) return line("io.template store" + slot(in) + "(" + a + ");");

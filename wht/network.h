@@ -60,7 +60,7 @@ inline constexpr std::size_t kGroup = 8;
 
 /// Values of a group as they come.
 struct InOrder {
-  template <std::size_t kFirst, std::size_t kCount, class From>
+  template <class Lanes, std::size_t kFirst, std::size_t kCount, class From>
   HALDGEN_INLINE static auto fetch(const From& from, std::size_t k) {
     return from.get(kFirst + k);
   }
@@ -136,7 +136,7 @@ struct ScaledSink {
 template <class Kind, class Lanes, std::size_t kFirst, class From, std::size_t... k>
 HALDGEN_INLINE void run_group(typename Lanes::Value* x, const From& from,
                               std::index_sequence<k...>) {
-  ((x[kFirst + k] = Kind::template fetch<kFirst, sizeof...(k)>(from, k)), ...);
+  ((x[kFirst + k] = Kind::template fetch<Lanes, kFirst, sizeof...(k)>(from, k)), ...);
   Kind::template run<Lanes, sizeof...(k)>(x + kFirst);
 }
 

@@ -15,10 +15,10 @@ namespace haldgen::wht {
 /// has half a vector number k of the lower elements and below it... of the upper ones, so that the
 /// bit of the upper lanes is the highest of all. It comes last, when the halves go to their places.
 struct WideContiguous {
-  template <std::size_t kFirst, std::size_t kCount, class From>
+  template <class Lanes, std::size_t kFirst, std::size_t kCount, class From>
   HALDGEN_INLINE static auto fetch(const From& from, std::size_t k) {
-    using Value = decltype(from.get(k));
-    constexpr std::size_t kLanes = lanes::WideTraits<Value>::kLanes;
+    using Value = typename Lanes::Value;
+    constexpr std::size_t kLanes = Lanes::kLanes;
     return lanes::load_pieces<sizeof(Value) / 2, Value>([&](int half) HALDGEN_INLINE_BODY {
       return from.base + kFirst * kLanes +
              (k + static_cast<std::size_t>(half) * kCount) * kLanes / 2;
