@@ -144,19 +144,25 @@ struct FoldShape {
 
   template <class Float>
   static bool fits(const FoldRun<Float>& run) {
-    return run.from.step == kStep && run.to.block == kBlock && run.to.imaginary == kImaginary &&
-           run.groups % kGroups == 0;
+    return (kStep == 0 || run.from.step == kStep) && run.to.block == kBlock &&
+           run.to.imaginary == kImaginary && run.groups % kGroups == 0;
   }
 };
 
-/// The first pass of a plan of this radix.
-template <class Float, int Radix>
+/// The first pass of a plan of this radix, for folds of length m. It runs no more groups at once
+/// than the second pass, of m/2 blocks, does behind it: parts of wider stores come late.
+template <class Float, int Radix, int M>
 using FirstPass =
-    FoldShape<std::ptrdiff_t{2} * Radix, std::ptrdiff_t{2} * Radix, Radix, Radix / kLanes<Float>>;
+    FoldShape<std::ptrdiff_t{2} * Radix, std::ptrdiff_t{2} * Radix, Radix, M / 2 / kLanes<Float>>;
 
-/// A fold of an inner plan of this radix, from lines that follow one another.
+/// Whether inner plans bring their sequences together before they are folded. Four visits to a
+/// line pay for that; wider vectors come once or twice.
+inline constexpr bool kGathers = kMostGroups == 1;
+
+/// A fold of an inner plan of this radix, of lines that follow one another if they are gathered.
 template <class Float, int Radix>
-using InnerPass = FoldShape<kLine<Float>, inner_pitch<Float>(Radix), kLine<Float>, kLineGroups>;
+using InnerPass =
+    FoldShape<(kGathers ? kLine<Float> : 0), inner_pitch<Float>(Radix), kLine<Float>, kLineGroups>;
 
 /// From the first group behind to the last of those that are run at once.
 template <class Float, int kGroups>
@@ -193,8 +199,9 @@ template <class Body, class Shape>
 inline void run_folds(const FoldRun<typename Body::Float>& run) {
   using Io = FoldIo<Body, Shape>;
   constexpr int kWidth = Io::Lanes::kLanes;
-  auto from = run.from;
-  auto to = run.to;
+  // Member by member: what copies two at once waits for the stores of the caller.
+  Sequences<typename Body::Float> from{run.from.ahead, run.from.behind, run.from.step};
+  Spectrum<typename Body::Float> to{run.to.first, run.to.block, run.to.imaginary};
   for (int i = 0; i < run.groups; i += Shape::kGroups) {
     run_body<Body, typename Io::Lanes>(Io{from, to});
     from.ahead += kWidth;
@@ -215,14 +222,14 @@ inline void run_fold(const FoldRun<typename Body::Float>& run) {
   using Float = typename Body::Float;
   constexpr int kSize = Body::kSize;
   if constexpr (kSize == 64) {
-    if (run_known_folds<Body, FirstPass<Float, 32>, InnerPass<Float, 32>>(run)) return;
+    if (run_known_folds<Body, FirstPass<Float, 32, 64>, InnerPass<Float, 32>>(run)) return;
   } else if constexpr (kSize >= 16) {
-    if (run_known_folds<Body, FirstPass<Float, kSize>, FirstPass<Float, kSize / 2>,
+    if (run_known_folds<Body, FirstPass<Float, kSize, kSize>, FirstPass<Float, kSize / 2, kSize>,
                         InnerPass<Float, kSize>, InnerPass<Float, kSize / 2>>(run)) {
       return;
     }
   } else if constexpr (kSize == 8) {
-    if (run_known_folds<Body, FirstPass<Float, 8>>(run)) return;
+    if (run_known_folds<Body, FirstPass<Float, 8, 8>>(run)) return;
   }
   run_folds<Body, FoldShape<0, 0, 0>>(run);
 }
@@ -262,8 +269,11 @@ struct RecombineIo {
 };
 
 template <class Body, int Length, int kGroups>
-inline void run_recombinations(RecombineRun<typename Body::Float> run) {
+inline void run_recombinations(const RecombineRun<typename Body::Float>& all) {
   using Io = RecombineIo<Body, Length, kGroups>;
+  // Member by member: what copies two at once waits for the stores of the caller.
+  RecombineRun<typename Body::Float> run{all.blocks,     all.table,  all.ascending,
+                                         all.descending, all.length, all.groups};
   constexpr int kWidth = Io::Lanes::kLanes;
   for (int g = 0; g < run.groups; g += kGroups) {
     run_body<Body, typename Io::Lanes>(Io{run});
