@@ -78,4 +78,27 @@ HALDGEN_INLINE WideVector<double, 32> add_product_x86(WideVector<double, 32> a,
 }
 #endif
 
+#ifdef __FMA__
+// The other way round: sums in even lanes, differences in odd ones. There are only instructions
+// that multiply before: by one, which is exact.
+HALDGEN_INLINE WideVector<float, 32> sums_and_differences_x86(WideVector<float, 32> a,
+                                                              WideVector<float, 32> b) {
+  return __builtin_ia32_vfmaddsubps256(a, splat<WideVector<float, 32>>(1), -b);
+}
+HALDGEN_INLINE WideVector<double, 32> sums_and_differences_x86(WideVector<double, 32> a,
+                                                               WideVector<double, 32> b) {
+  return __builtin_ia32_vfmaddsubpd256(a, splat<WideVector<double, 32>>(1), -b);
+}
+#endif
+#ifdef __AVX512F__
+HALDGEN_INLINE WideVector<float, 64> sums_and_differences_x86(WideVector<float, 64> a,
+                                                              WideVector<float, 64> b) {
+  return alternate_x86(a, -b);
+}
+HALDGEN_INLINE WideVector<double, 64> sums_and_differences_x86(WideVector<double, 64> a,
+                                                               WideVector<double, 64> b) {
+  return alternate_x86(a, -b);
+}
+#endif
+
 }  // namespace haldgen::lanes

@@ -67,15 +67,19 @@ HALDGEN_INLINE V crossed(V a) {
   return shuffled<Crossed<kBit>>(a, a);
 }
 
-template <int kBit, class V, std::size_t... i>
-HALDGEN_INLINE V change_sign_by_bit(V a, std::index_sequence<i...> /*lanes*/) {
-  using Float = FloatOf<V>;
-  return change_sign_of_blocks(a, V{((i & kBit) != 0 ? -Float{0} : Float{0})...});
-}
-/// Negates the lanes in whose number this bit is set.
+/// The lanes of b in whose number this bit is set, and those of a in between.
+template <int kBit, int kLanes>
+struct ChosenByBit {
+  static constexpr int of(int i) { return (i & kBit) != 0 ? kLanes + i : i; }
+};
+/// a - b in the lanes in whose number this bit is set, a + b in those in between. Signs of lanes
+/// would do it in one sum less, but change those of NaN.
 template <int kBit, class V>
-HALDGEN_INLINE V change_sign_by_bit(V a) {
-  return change_sign_by_bit<kBit>(a, std::make_index_sequence<WideTraits<V>::kLanes>());
+HALDGEN_INLINE V sums_and_differences(V a, V b) {
+#ifdef __FMA__
+  if constexpr (kBit == 1) return sums_and_differences_x86(a, b);
+#endif
+  return shuffled<ChosenByBit<kBit, WideTraits<V>::kLanes>>(a + b, a - b);
 }
 
 }  // namespace haldgen::lanes

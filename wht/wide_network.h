@@ -34,11 +34,11 @@ struct WideContiguous {
   }
 
  private:
-  /// The level of one bit of the lanes: to each value the other one of its pair is added, or it is
-  /// taken from that one.
+  /// The level of one bit of the lanes: the sum of a pair comes to its first lane, the difference
+  /// to its second one.
   template <int kBit, class Value>
   HALDGEN_INLINE static void level_of_lanes(Value& x) {
-    x = lanes::crossed<kBit>(x) + lanes::change_sign_by_bit<kBit>(x);
+    x = lanes::sums_and_differences<kBit>(lanes::crossed<kBit>(x), x);
   }
   /// Those of all bits below this one.
   template <int kEnd, class Value, std::size_t... k>
