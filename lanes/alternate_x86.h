@@ -44,12 +44,12 @@ inline constexpr int kCurrentRounding = 4;
 // Of 512 bits there is one that multiplies before: by one, which is exact.
 HALDGEN_INLINE WideVector<float, 64> alternate_x86(WideVector<float, 64> a,
                                                    WideVector<float, 64> b) {
-  return __builtin_ia32_vfmaddsubps512_mask(a, splat<WideVector<float, 64>>(1), b, -1,
+  return __builtin_ia32_vfmaddsubps512_mask(a, splat<WideVector<float, 64>>(1), b, 0xFFFF,
                                             kCurrentRounding);
 }
 HALDGEN_INLINE WideVector<double, 64> alternate_x86(WideVector<double, 64> a,
                                                     WideVector<double, 64> b) {
-  return __builtin_ia32_vfmaddsubpd512_mask(a, splat<WideVector<double, 64>>(1), b, -1,
+  return __builtin_ia32_vfmaddsubpd512_mask(a, splat<WideVector<double, 64>>(1), b, 0xFF,
                                             kCurrentRounding);
 }
 #endif
