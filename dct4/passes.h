@@ -6,6 +6,7 @@
 // factorisation.h. What lies in a state is aligned, the caller's arrays need not be.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <type_traits>
 
@@ -149,11 +150,12 @@ struct FoldShape {
   }
 };
 
-/// The first pass of a plan of this radix, for folds of length m. It runs no more groups at once
-/// than the second pass, of m/2 blocks, does behind it: parts of wider stores come late.
+/// The first pass of a plan of this radix, for folds of length m. Beyond two, it runs no more
+/// groups at once than the second pass, of m/2 blocks, does behind it: parts of such stores come
+/// late.
 template <class Float, int Radix, int M>
-using FirstPass =
-    FoldShape<std::ptrdiff_t{2} * Radix, std::ptrdiff_t{2} * Radix, Radix, M / 2 / kLanes<Float>>;
+using FirstPass = FoldShape<std::ptrdiff_t{2} * Radix, std::ptrdiff_t{2} * Radix, Radix,
+                            std::max(M / 2 / kLanes<Float>, 2)>;
 
 /// Whether inner plans bring their sequences together before they are folded. Four visits to a
 /// line pay for that; wider vectors come once or twice.
