@@ -1,0 +1,372 @@
+"""Pages of the catalogue, as Markdown."""
+
+from __future__ import annotations
+
+import json
+import re
+from dataclasses import dataclass
+from pathlib import Path
+
+import facts
+import flow
+from facts import Design, Family
+
+_FORMULAS = {
+    "complex": ("X[k] = s · Σ x[n] · exp(∓2πi·k·n/{n}),  k, n = 0 … {last};  − forward, + inverse"),
+    "real": ("X[k] = s · Σ x[n] · exp(−2πi·k·n/{n}),  n = 0 … {last},  k = 0 … {half};  and back"),
+    "hartley": "H[k] = s · Σ x[n] · (cos(2π·k·n/{n}) + sin(2π·k·n/{n})),  k, n = 0 … {last}",
+    "wht": "Y[k] = s · Σ x[n] · (−1)^popcount(k & n),  k, n = 0 … {last}",
+    "dct4": "y[k] = Σ x[n] · cos(π/{n}·(n + ½)·(k + ½)),  k, n = 0 … {last}",
+}
+
+
+@dataclass(frozen=True)
+class Kernel:
+    family: Family
+    length: int
+    type: str
+
+    @property
+    def page(self) -> str:
+        return f"{self.family.slug}-{self.length}-{self.type}"
+
+    @property
+    def bits(self) -> int:
+        return int(self.type[:2])
+
+    @property
+    def title(self) -> str:
+        return f"{self.length:,} points, {self.family.title}, {self.bits} bit"
+
+    def function(self, word: str) -> str:
+        if self.family.slug == "dct4":
+            return f"haldg{word}_{self.type}"
+        return f"haldg{word}_{self.family.size_of(self.length)}_{self.type}"
+
+    def published(self, word: str) -> str:
+        """The name in the list of sums."""
+        return f"{self.function(word)}/{self.length}" if self.family.slug == "dct4" else self.function(word)
+
+
+def kernels() -> list[Kernel]:
+    return [Kernel(f, length, type_) for f in facts.FAMILIES for length in f.lengths for type_ in f.types]
+
+
+class Facts:
+    """All figures of all kernels."""
+
+    def __init__(self, build: Path) -> None:
+        self.library = build / "libhaldgenp8.so"
+        self._designs = facts.designs(build / "generate/haldgen-generate")
+        self.errors = facts.errors(self.library)
+        self.speeds = facts.speeds()
+        self.flavours = facts.flavour_ratios()
+        self.sums = facts.sums()
+
+    def designs(self, kernel: Kernel) -> list[tuple[str, Design]]:
+        """What is counted, and the graphs, with what to call them."""
+        family = kernel.family
+        if family.slug == "wht":
+            return [("both ways", facts.hadamard_design(family.size_of(kernel.length)))]
+        found = [(name.rpartition("-")[2] if "-" in name else "", self._designs[name, str(kernel.length), kernel.type])
+                 for name in family.generated]
+        part = self._designs.get(("dct4", f"fixed_{kernel.length}", kernel.type)) if family.slug == "dct4" else None
+        return [("", part)] if part else found
+
+    def code(self, kernel: Kernel, word: str) -> facts.Code:
+        if kernel.family.slug == "dct4":
+            return facts.planned_code(self.library)
+        return facts.implementation(self.library, kernel.function(word))
+
+
+def _names(family: str, direction: str, length: int) -> tuple[list[str], list[str]]:
+    """Names of the inputs of a graph by index, and of its outputs."""
+    samples = [f"x[{n}]" for n in range(length)]
+    if family != "real":
+        letter = {"complex": "X", "hartley": "H", "wht": "Y", "dct4": "y"}[family]
+        return samples, [f"{letter}[{k}]" for k in range(length)]
+    middle = [f"{part} X[{k}]" for k in range(1, (length + 1) // 2) for part in ("re", "im")]
+    spectrum = ["X[0]", *middle, *([f"X[{length // 2}]"] if length % 2 == 0 else [])]
+    return (spectrum, samples) if direction == "inverse" else (samples, spectrum)
+
+
+def pictures(kernel: Kernel, known: Facts) -> list[tuple[str, str]]:
+    """File names and pictures of its graphs; of long Walsh-Hadamard transforms that of 32 points."""
+    result = []
+    for direction, design in known.designs(kernel):
+        graph, length = design.graph, kernel.length
+        if kernel.family.slug == "wht" and length > 32:
+            graph, length = facts.hadamard_design(5).graph, 32
+        if graph is None:
+            continue
+        shown = f"{length} points" if length != kernel.length else f"{kernel.length} points, {kernel.type}"
+        title = f"{kernel.family.title}, {shown}" + (f", {direction}" if len(known.designs(kernel)) > 1 else "")
+        names = _names(kernel.family.slug, direction, length)
+        draw = flow.whole if kernel.family.slug == "wht" else flow.picture
+        result.append((f"{kernel.page}{'-' + direction if direction == 'inverse' else ''}.svg", draw(graph, title, names)))
+    return result
+
+
+# Words.
+
+def _opening(algorithm: str, length: int) -> str:
+    """The outermost step of a recipe."""
+    bare = algorithm.removesuffix(", transposed")
+    tail = " Run backwards: with all edges of the graph reversed." if bare != algorithm else ""
+    if re.match(r"\d+ Bluestein", bare):
+        text = f"A chirp transform (Bluestein): {length} is prime, and the transform becomes a cyclic convolution of a convenient length."
+    elif re.match(r"\d+r|rader", bare):
+        text = (f"Rader's way: {length} is prime, so the powers of a primitive root order all other indices in a circle, and the "
+                f"transform is a cyclic convolution of length {length - 1}.")
+    elif bare.startswith("PFA(") or re.match(r"\(.*( \. ).*\)$", bare) and _top(bare) == ".":
+        text = f"Prime factors (Good): {length} is a product of coprime numbers, so its columns and rows need no factors between them."
+    elif bare.startswith("CT(") or _top(bare) == "x":
+        text = f"Cooley and Tukey: {length} in columns and rows, with twiddle factors between them."
+    elif bare.startswith("halves("):
+        text = f"Sums and differences of samples half a length apart; the sums give the even bins, the differences the odd ones."
+    elif bare.startswith("Q4("):
+        text = "Even bins by a transform of half the length, the odd ones by two of a quarter."
+    elif bare.startswith("classes(") or bare.startswith("coprime"):
+        text = "By residue classes of the index."
+    else:
+        text = f"One block, written out: {length} points in one piece."
+    return text + tail
+
+
+def _top(recipe: str) -> str:
+    """The operator of the outermost parentheses."""
+    depth = 0
+    for i, c in enumerate(recipe):
+        depth += {"(": 1, ")": -1}.get(c, 0)
+        if depth == 1 and recipe[i:i + 3] in (" . ", " x "):
+            return recipe[i + 1]
+    return ""
+
+
+def _glossary(page: str, recipes: list[str]) -> list[str]:
+    """The rows of the notation that these recipes use."""
+    rows = []
+    for tokens, meaning in facts.notation(page):
+        for token in tokens:
+            head = re.split(r"[(\d]| a", token)[0] or token
+            pattern = {"(a . b)": r" \. ", "(a x b)": r" x ", "a || b": r"\|\|"}.get(token) or (
+                r"(?<![\w'])" + re.escape(token) + r"(?![\w'])" if head == token
+                else r"\d+r literal" if "literal" in token else r"\d+r\((?!.*literal)" if token.startswith("13r") else re.escape(head))
+            if any(re.search(pattern, recipe) for recipe in recipes):
+                rows.append(f"| {' '.join(f'`{t}`' for t in tokens)} | {meaning} |".replace("||", "\\|\\|"))
+                break
+    return rows
+
+
+def _calls(kernel: Kernel) -> list[tuple[str, str, str]]:
+    """Label, language and code of the forward call; of the DCT-IV with its state."""
+    n, slug = kernel.length, kernel.family.slug
+    real = "float" if kernel.bits == 32 else "double"
+    element = f"Cplx{kernel.bits}" if slug == "complex" else real
+    function, js = kernel.function(kernel.family.words[0]), f"f{kernel.bits}"
+    arrays = f"{element} x[{n}], X[{n}];\n" if slug != "real" else f"{real} x[{n}], X[HALDGEN_CCS_SIZE({n})];\n"
+    numpy = {"complex": f"complex{2 * kernel.bits}"}.get(slug, f"float{kernel.bits}")
+    cpp_type = f"std::complex<{real}>" if slug == "complex" else real
+    cpp_arrays = f"std::array<{cpp_type}, {n}> x{{}}" + ("" if slug == "real" else ", X") + ";\n"
+    python, cpp, c = {
+        "complex": ("haldgen.fft(x)", "haldgen::dft(x, X);", f"{arrays}{function}(x, X, haldScaleNone);"),
+        "real": ("haldgen.rfft(x)", "const auto X = haldgen::real_dft(x);  // X[k] is bin k",
+                 f"{arrays}{function}(x, X, haldScaleNone);"),
+        "hartley": ("haldgen.hartley(x)", "haldgen::hartley(x, X);", f"{arrays}{function}(x, X, haldScaleNone);"),
+        "wht": ("haldgen.wht(x)", "haldgen::wht(x, X);", f"{arrays}{function}(x, X, haldScaleNone, NULL);"),
+        "dct4": ("haldgen.dct4(x)  # twice the C function, as SciPy has it",
+                 f"haldgen::dct4<{real}> transform({n});  // once\ntransform(x, X);",
+                 f"{arrays}Dct4State* state;\nhaldgDCT4InitAlloc_{kernel.type}(&state, {n});  /* once */\n"
+                 f"haldgDCT4_{kernel.type}(x, X, state);\nhaldgDCT4Free_{kernel.type}(state);"),
+    }[slug]
+    if slug == "wht" and n >= 256:
+        cpp = f"static haldgen::wht_work<{real}, {n}> work;\nhaldgen::wht(x, X, work);"
+        c = (f"{arrays}_Alignas(16) uint8_t work[{_work_bytes(kernel)}];  /* haldgWHTGetBufferSize_{kernel.type} */\n"
+             f"{function}(x, X, haldScaleNone, work);")
+    kind = {"complex": "dft", "real": "rdft"}.get(slug, slug)
+    return [
+        ("C", "c", f"#include <haldgen.h>\n\n{c}"),
+        ("C++", "cpp", f"#include <haldgen.hpp>\n\n{cpp_arrays}{cpp}"),
+        ("Python", "python", f"import haldgen\nimport numpy as np\n\nx = np.zeros({n}, np.{numpy})  # or any shape (..., {n})\nX = {python}"),
+        ("JavaScript", "js", f"import {{load}} from 'haldgen';\n\nconst hald = await load('{slug}');\n"
+         f"const transform = hald.transform('{kind}', {n}, {{type: '{js}'}});\n"
+         "transform.input.set(x);\ntransform.run();  // and read transform.output"),
+    ]
+
+
+def _work_bytes(kernel: Kernel) -> int:
+    row = next(line for line in (facts.ROOT / "docs/wht.md").read_text().splitlines()
+               if re.match(rf"\| {kernel.family.size_of(kernel.length)} \| [\d+ ]+ \| \d+ \|", line))
+    return int(row.split("|")[3 if kernel.bits == 32 else 5])
+
+
+# Pages.
+
+def _chips(kernel: Kernel) -> str:
+    family = kernel.family
+    here = family.lengths.index(kernel.length)
+    links = []
+    for other in facts.FAMILIES:
+        nearest = min(other.lengths, key=lambda n: abs(n - kernel.length))
+        type_ = other.types[family.types.index(kernel.type)]
+        links.append((Kernel(other, nearest, type_).page, other.title.removesuffix(" transform"), other is family))
+    links += [(Kernel(family, kernel.length, t).page, f"{t[:2]} bit", t == kernel.type) for t in family.types]
+    for step, arrow in ((-1, "←"), (1, "→")):
+        if 0 <= here + step < len(family.lengths):
+            length = family.lengths[here + step]
+            links.append((Kernel(family, length, kernel.type).page, f"{arrow} {length:,}", False))
+    links.append(("index", "all kernels", False))
+    return ('<div class="hg-chips">' + "".join(
+        f'<a href="{page}.html"{" class=hg-here" if chosen else ""}>{text}</a>' for page, text, chosen in links) + "</div>")
+
+
+def _number(value: float) -> str:
+    return f"{value:,.0f}" if value >= 1000 else f"{value:.1f}" if value >= 100 else f"{value:.2f}"
+
+
+def _bars(kernel: Kernel, known: Facts) -> list[str]:
+    lines = []
+    for word in kernel.family.measured:
+        speed = known.speeds.get((word, kernel.type, kernel.length))
+        if speed is None:
+            lines += [f"`{kernel.function(word)}`: not measured.", ""]
+            continue
+        most = max(speed.nanoseconds.values())
+        lines += [f"`{kernel.function(word)}`, nanoseconds of one call, arrays in the first-level cache:" if kernel.length <= 4096
+                  else f"`{kernel.function(word)}`, nanoseconds of one call, the same arrays again and again:", "",
+                  '<div class="hg-bars">']
+        for name, time in sorted(speed.nanoseconds.items(), key=lambda item: item[1]):
+            lines.append(f"<div>{'haldgen' if name == 'haldgen' else facts.PEERS[name]}</div>"
+                         f"<div><i{' class=hg-ours' if name == 'haldgen' else ''} style='width:{100 * time / most:.1f}%'></i>"
+                         f"<span>{_number(time)}</span></div>")
+        busy = ' <span class="hg-busy">Other programs kept the machine busy: take these figures as rough ones.</span>' if speed.run.busy else ""
+        lines += ["</div>", "", f"[{speed.run.caption}](../{speed.run.path}).{busy}", ""]
+    ratios = known.flavours.get((kernel.type, kernel.length))
+    lines.append("Flavours, time over the baseline's ([on another machine](../flavours.md#figures)): "
+                 + (", ".join(f"{flavour} {ratio:.2f}" for flavour, ratio in ratios.items()) if ratios
+                    else "not measured" if kernel.family.slug == "complex"
+                    else "[the baseline's code](../flavours.md#what-is-wider)") + ".")
+    return lines
+
+
+def kernel_page(kernel: Kernel, known: Facts) -> str:
+    family = kernel.family
+    designs = known.designs(kernel)
+    design = designs[0][1]
+    speed = known.speeds.get((family.measured[0], kernel.type, kernel.length))
+    error = known.errors[family.measured[0], kernel.type, kernel.length]
+    code = known.code(kernel, family.words[0])
+    peer = speed.best_peer if speed else None
+    largest = (f"largest {error.largest:.2f} ε of the mean output" if error.largest is not None
+               else f"largest {error.largest_absolute:.1e}, absolute")
+    state = facts.state_bytes(known.library, kernel.length, kernel.type) if family.slug == "dct4" else None
+    cards = [
+        ("time, hot", f"{_number(speed.nanoseconds['haldgen'])} ns" if speed else "not measured",
+         f"{speed.ratio(peer):.2f} times that of {facts.PEERS[peer]}" if speed and peer else ""),
+        ("arithmetic", f"{design.additions:,} + {design.multiplications:,}", "additions + multiplications, without the scale"),
+        ("depth", str(design.depth), "operations in a chain"),
+        ("error, L2", f"{error.l2:.2f} ε", largest),
+        ("code", f"{code.size:,} bytes", "shared by all lengths and both types" if family.slug == "dct4"
+         else "both paths, aligned or not" if family.slug in ("complex", "wht") else "any alignment"),
+        ("stack", f"{code.frame:,} bytes", f"largest frame; a state has {state:,} bytes" if state else "what a call takes at most"),
+    ]
+    lines = ["---", "hide: [navigation]", "---", "", f"# {kernel.title}", "", _chips(kernel), "",
+             "    " + _FORMULAS[family.slug].format(n=kernel.length, last=kernel.length - 1, half=kernel.length // 2), "",
+             '<div class="hg-cards">']
+    lines += [f'<div class="hg-card"><span>{name}</span><b>{value}</b><span>{note}</span></div>' for name, value, note in cards]
+    lines += ["</div>", "", "## The call", ""]
+    for label, language, text in _calls(kernel):
+        lines += [f'=== "{label}"', "", f"    ```{language}", *("    " + line for line in text.splitlines()), "    ```", ""]
+    lines += ["[Scales](../guide/scales.md), "
+              + ("[packed formats](../guide/packed.md), " if family.slug == "real" else "")
+              + f"[arrays, threads, memory](../guide/calls.md), [the family](../{family.page}).", "", "## How it is computed", ""]
+    lines += _computed(kernel, known, designs)
+    lines += ["## Speed", "", *_bars(kernel, known), "", "## Errors", "",
+              "Against the definition in wider arithmetic, on numbers uniform in [-1, 1); ε is the distance from 1 to the next float.", "",
+              "| function | L2 | worst call | largest |", "|---|--:|--:|--:|"]
+    for word in family.measured:
+        e = known.errors[word, kernel.type, kernel.length]
+        most = f"{e.largest:.2f} ε" if e.largest is not None else f"{e.largest_absolute:.1e}"
+        lines.append(f"| `{kernel.function(word)}` | {e.l2:.2f} ε | {e.worst_call:.2f} ε | {most} |")
+    lines += ["", "*Largest*: of one output, " + ("absolute, the median over calls." if family.slug == "dct4"
+              else "over the root mean square of the exact outputs.")
+              + " [How it is measured](../" + ("dct4.md#accuracy" if family.slug == "dct4" else "accuracy.md") + ").", "",
+              "## Functions", "", "| function | code, bytes | stack, bytes | published sum |", "|---|--:|--:|---|"]
+    for word in family.words:
+        size = known.code(kernel, word)
+        lines.append(f"| `{kernel.function(word)}` | {size.size:,} | {size.frame:,} | `{known.sums[kernel.published(word)]}` |")
+    lines += ["", "Code and stack are those of this build, with all that a function calls. [What the sum is of](../guide/bits.md).", ""]
+    return "\n".join(lines)
+
+
+def _computed(kernel: Kernel, known: Facts, designs: list[tuple[str, Design]]) -> list[str]:
+    family, lines = kernel.family, []
+    if family.slug == "wht":
+        order = family.size_of(kernel.length)
+        lines += [f"{order} levels: level b replaces each pair of elements whose indices differ in bit b alone by their sum and their difference. "
+                  + ("The picture is the network of 32 points; this one has " f"{order - 5} more levels of the same kind. "
+                     if kernel.length > 32 else "") + "[More](../wht.md#the-network).", ""]
+    elif family.slug == "dct4":
+        design = designs[0][1]
+        lines += [f"{design.algorithm}, one generated kernel." if design.algorithm
+                  else "Planned when its state is set up: folds, rotations and a recombination, each a generated kernel that runs over many rows.",
+                  "[The algorithm](../dct4.md#algorithm).", ""]
+    else:
+        recipes = [design.algorithm for _, design in designs]
+        for direction, design in designs:
+            counts = (f" ({design.additions:,} additions, {design.multiplications:,} multiplications, depth {design.depth})"
+                      if len(designs) > 1 else "")
+            lines += [(f"**{direction.capitalize()}**{counts}. " if len(designs) > 1 else "")
+                      + f"{_opening(design.algorithm, kernel.length)} As a recipe:", "", "    " + design.algorithm, ""]
+        rows = _glossary("real.md" if family.slug == "hartley" else family.page, recipes)
+        if rows:
+            lines += ["| notation | meaning |", "|---|---|", *rows, ""]
+        if family.slug == "complex":
+            lines += ["The inverse is [made from the same graph](../complex.md#the-inverse) and has the same counts.", ""]
+    for name, _ in pictures(kernel, known):
+        lines += [f'<div class="hg-flow"><a href="{name}"><img src="{name}" loading="lazy" alt="Graph of {kernel.title}"></a></div>', ""]
+    drawn = [design.graph for _, design in designs if design.graph]
+    if family.slug != "wht" and any(not flow.is_whole(g) for g in drawn):
+        lines += ["Boxes are blocks of sums of one step, lines the values that go from one to the next, as thick as they are many; "
+                  "rest the pointer on a box of the [picture alone](" + pictures(kernel, known)[0][0] + ") for all its inputs and outputs.", ""]
+    elif drawn:
+        lines += ["Each dot is a sum, each line one of its terms; time runs to the right.", ""]
+    if family.slug == "dct4" and not drawn:
+        lines += ["    fold: sums of x in rows   →   rotate by exp(πi·(2j+1)(2b+1)/4N)   →   recombine: y", ""]
+    return lines
+
+
+_FIGURES = (("ns", "time", "ns"), ("ratio", "time over the best peer", "of the best peer's time"), ("error", "L2 error", "ε"),
+            ("bytes", "code size", "bytes of code"), ("operations", "operations", "additions and multiplications"))
+
+
+def overview(known: Facts) -> str:
+    lines = ["---", "hide: [toc]", "---", "", "# Catalogue", "",
+             "A portrait of every kernel. Choose what the colours say, then a length.", "",
+             '<div class="hg-overview">', '<div class="hg-chips">']
+    lines += [f'<button type="button" data-figure="{figure}" data-unit="{unit}">{label}</button>' for figure, label, unit in _FIGURES]
+    lines += ["</div>", '<div class="hg-legend">green is better</div>']
+    for family in facts.FAMILIES:
+        for type_ in family.types:
+            lines += [f"<h3>{family.title}, {type_[:2]} bit</h3>", '<div class="hg-grid">']
+            for length in family.lengths:
+                kernel = Kernel(family, length, type_)
+                speed = known.speeds.get((family.measured[0], type_, length))
+                design = known.designs(kernel)[0][1]
+                figures = {
+                    "ns": f"{speed.nanoseconds['haldgen']:g}" if speed else "",
+                    "ratio": f"{speed.ratio(speed.best_peer):.2f}" if speed and speed.best_peer else "",
+                    "error": f"{known.errors[family.measured[0], type_, length].l2:.2f}",
+                    "bytes": "" if family.slug == "dct4" else str(known.code(kernel, family.words[0]).size),
+                    "operations": str(design.additions + design.multiplications),
+                }
+                data = " ".join(f'data-{name}="{value}"' for name, value in figures.items())
+                lines.append(f'<a href="{kernel.page}.html" {data}>{length}</a>')
+            lines.append("</div>")
+    return "\n".join([*lines, "</div>", "", "Real transforms show their forward kernel with CCS format. [Pictures of speed](speed.md).", ""])
+
+
+def manifest(known: Facts) -> str:
+    """What a check of the built site must find on each page."""
+    return json.dumps({k.page: [k.function(w) for w in k.family.words] + [known.sums[k.published(w)] for w in k.family.words]
+                       for k in kernels()})
