@@ -1,4 +1,6 @@
-"""Pictures of speed, from the published results, and of the packed formats."""
+#!/usr/bin/python3
+"""Pictures of speed, from the published results, and of the packed formats. Run as a program, it writes
+those that the documents show outside of the site, docs/results/*.svg."""
 
 from __future__ import annotations
 
@@ -11,8 +13,9 @@ import matplotlib
 matplotlib.use("svg")
 import matplotlib.pyplot as plt  # noqa: E402
 
-from facts import PEERS, Speed  # noqa: E402
+from facts import PEERS, ROOT, Speed, speeds as published_speeds  # noqa: E402
 
+# Ink, lines, small print.
 THEMES = {"light": ("#1f2937", "#d7dbe0", "#6b7280"), "dark": ("#e2e8f0", "#3b4252", "#9aa4b2")}
 _FASTER, _SLOWER, _OURS = "#2f9e77", "#d9683c", "#3b82f6"
 _MARKS = {"fftw": ("o", "#94a3b8"), "fftw128": ("_", "#94a3b8"), "kissfft": ("^", "#d6a25e"), "av_tx": ("s", "#b48ad0"),
@@ -37,9 +40,9 @@ def _figure(theme: str, rows: int, title: str, captions: list[str]) -> tuple[plt
     return figure, list(axes[:, 0]), line, faint
 
 
-def _save(figure: plt.Figure, path: Path, captions: list[str]) -> None:
+def _save(figure: plt.Figure, path: Path, captions: list[str], transparent: bool) -> None:
     figure.tight_layout(rect=(0, 0.02 + 0.03 * len(captions) * 4 / figure.get_figheight() / 2, 1, 0.97))
-    figure.savefig(path, transparent=True, metadata={"Date": None, "Creator": None})
+    figure.savefig(path, transparent=transparent, metadata={"Date": None, "Creator": None})
     plt.close(figure)
 
 
@@ -65,7 +68,7 @@ def _positions(lengths: list[int]) -> tuple[list[float], list[float], list[str]]
     return [float(n) for n in lengths], [float(n) for n in ticks], [str(n) for n in ticks]
 
 
-def ratio(speeds: Speeds, word: str, theme: str, path: Path) -> None:
+def ratio(speeds: Speeds, word: str, theme: str, path: Path, transparent: bool = True) -> None:
     """Bars below the line are faster than the best peer, those above slower."""
     types = _types(speeds, word)
     captions = _captions(speeds, word, "bars: one call, hot cache, against the fastest peer at its full vector width; "
@@ -97,10 +100,10 @@ def ratio(speeds: Speeds, word: str, theme: str, path: Path) -> None:
                      f"{1 / geometric_mean(ratios):.2f} times as fast in the geometric mean",
                      loc="left", fontsize=10, fontweight="bold")
     axes[-1].set_xlabel("length")
-    _save(figure, path, captions)
+    _save(figure, path, captions, transparent)
 
 
-def nanoseconds(speeds: Speeds, word: str, theme: str, path: Path) -> None:
+def nanoseconds(speeds: Speeds, word: str, theme: str, path: Path, transparent: bool = True) -> None:
     types = _types(speeds, word)
     captions = _captions(speeds, word, "nanoseconds of one call, hot cache, median")
     figure, axes, line, _ = _figure(theme, len(types), f"{TITLES[word]}: nanoseconds per call", captions)
@@ -123,7 +126,10 @@ def nanoseconds(speeds: Speeds, word: str, theme: str, path: Path) -> None:
         ax.set_title(type_, loc="left", fontsize=10, fontweight="bold")
         ax.legend(ncols=5, fontsize=8, loc="lower right", handletextpad=0.1, columnspacing=1)
     axes[-1].set_xlabel("length")
-    _save(figure, path, captions)
+    _save(figure, path, captions, transparent)
+
+
+KINDS = {"ratio": ratio, "ns": nanoseconds}
 
 
 def packed(length: int, path: Path) -> None:
@@ -153,3 +159,8 @@ def packed(length: int, path: Path) -> None:
                         f"<text x='{x + 29}' y='{y + 59}' fill='#94a3b8' font-size='11' text-anchor='middle'>{i}</text>")
     path.write_text(f"<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 760 {62 + 74 * len(formats)}' "
                     "font-family='Roboto,DejaVu Sans,Helvetica,Arial,sans-serif'>" + "\n".join(text) + "</svg>\n")
+
+
+if __name__ == "__main__":
+    for measured in TITLES:
+        ratio(published_speeds(), measured, "light", ROOT / f"docs/results/{measured}.svg", transparent=False)

@@ -153,7 +153,7 @@ def _glossary(page: str, recipes: list[str]) -> list[str]:
                 r"(?<![\w'])" + re.escape(token) + r"(?![\w'])" if head == token
                 else r"\d+r literal" if "literal" in token else r"\d+r\((?!.*literal)" if token.startswith("13r") else re.escape(head))
             if any(re.search(pattern, recipe) for recipe in recipes):
-                rows.append(f"| {' '.join(f'`{t}`' for t in tokens)} | {meaning} |".replace("||", "\\|\\|"))
+                rows.append(f"| {' '.join(f'`{t}`' for t in tokens)} | {meaning} |")
                 break
     return rows
 
@@ -231,13 +231,15 @@ def _bars(kernel: Kernel, known: Facts) -> list[str]:
         if speed is None:
             lines += [f"`{kernel.function(word)}`: not measured.", ""]
             continue
-        most = max(speed.nanoseconds.values())
+        # Bars of the slowest are cut, so that the others can be told apart.
+        most = min(max(speed.nanoseconds.values()), 8 * speed.nanoseconds["haldgen"])
         lines += [f"`{kernel.function(word)}`, nanoseconds of one call, arrays in the first-level cache:" if kernel.length <= 4096
                   else f"`{kernel.function(word)}`, nanoseconds of one call, the same arrays again and again:", "",
                   '<div class="hg-bars">']
         for name, time in sorted(speed.nanoseconds.items(), key=lambda item: item[1]):
             lines.append(f"<div>{'haldgen' if name == 'haldgen' else facts.PEERS[name]}</div>"
-                         f"<div><i{' class=hg-ours' if name == 'haldgen' else ''} style='width:{100 * time / most:.1f}%'></i>"
+                         f"<div><i class='{'hg-ours' if name == 'haldgen' else 'hg-cut' if time > most else ''}' "
+                         f"style='width:{100 * min(1, time / most):.1f}%'></i>"
                          f"<span>{_number(time)}</span></div>")
         busy = ' <span class="hg-busy">Other programs kept the machine busy: take these figures as rough ones.</span>' if speed.run.busy else ""
         lines += ["</div>", "", f"[{speed.run.caption}](../{speed.run.path}).{busy}", ""]
@@ -266,13 +268,13 @@ def kernel_page(kernel: Kernel, known: Facts) -> str:
         ("arithmetic", f"{design.additions:,} + {design.multiplications:,}", "additions + multiplications, without the scale"),
         ("depth", str(design.depth), "operations in a chain"),
         ("error, L2", f"{error.l2:.2f} ε", largest),
-        ("code", f"{code.size:,} bytes", "shared by all lengths and both types" if family.slug == "dct4"
-         else "both paths, aligned or not" if family.slug in ("complex", "wht") else "any alignment"),
-        ("stack", f"{code.frame:,} bytes", f"largest frame; a state has {state:,} bytes" if state else "what a call takes at most"),
+        ("code", f"{code.size:,} B", "bytes, for all lengths and both types" if family.slug == "dct4"
+         else "bytes, both paths: aligned and not" if family.slug in ("complex", "wht") else "bytes, one path for any alignment"),
+        ("stack", f"{code.frame:,} B", f"bytes, largest frame; a state has {state:,}" if state else "bytes that a call takes at most"),
     ]
     lines = ["---", "hide: [navigation]", "---", "", f"# {kernel.title}", "", _chips(kernel), "",
              "    " + _FORMULAS[family.slug].format(n=kernel.length, last=kernel.length - 1, half=kernel.length // 2), "",
-             '<div class="hg-cards">']
+             '<div class="hg-cards hg-figures">']
     lines += [f'<div class="hg-card"><span>{name}</span><b>{value}</b><span>{note}</span></div>' for name, value, note in cards]
     lines += ["</div>", "", "## The call", ""]
     for label, language, text in _calls(kernel):
