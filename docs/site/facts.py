@@ -10,6 +10,7 @@ import re
 import subprocess
 from dataclasses import dataclass, field
 from pathlib import Path
+from typing import Any
 
 import numpy as np
 
@@ -57,9 +58,14 @@ FAMILIES = (
 class Graph:
     """Nodes in order of definition: inputs by index, or sums of (node, power of i, constant)."""
 
-    nodes: list[int | list]
+    nodes: list[int | list[Any]]
     stages: list[str]
     outputs: list[tuple[int, int]]
+
+    def terms(self, node: int) -> list[Any]:
+        """None of an input."""
+        entry = self.nodes[node]
+        return [] if isinstance(entry, int) else entry[1:]
 
 
 @dataclass(frozen=True)
@@ -86,7 +92,7 @@ def designs(generate: Path) -> dict[tuple[str, str, str], Design]:
 def hadamard_design(order: int) -> Design:
     """The network of docs/wht.md, which is the same at every order."""
     length = 2**order
-    nodes: list[int | list] = list(range(length))
+    nodes: list[int | list[Any]] = list(range(length))
     current = list(range(length))
     additions = 0
     for level in range(order):
@@ -242,7 +248,7 @@ def _hadamard_errors(library: Path) -> dict[tuple[str, str, int], Error]:
                 exact = np.stack((pairs[:, :, 0] + pairs[:, :, 1], pairs[:, :, 0] - pairs[:, :, 1]), 2).reshape(200, -1)
             square, norm = ((y - exact) ** 2).sum(1), (exact**2).sum(1)
             largest = np.abs(y - exact).max(1) / np.sqrt((exact**2).mean(1))
-            epsilon = float(np.finfo(dtype).eps)
+            epsilon = float(np.finfo(x.dtype).eps)
             result["WHT", type_, 2**order] = Error(
                 float(np.sqrt(square.sum() / norm.sum())) / epsilon,
                 float(np.sqrt((square / norm).max())) / epsilon, float(largest.max()) / epsilon)
@@ -279,7 +285,7 @@ class Speed:
     def best_peer(self) -> str | None:
         """The fastest at full vector width."""
         peers = [p for p in PEERS if p in self.nanoseconds and p != "fftw128"]
-        return min(peers, key=self.nanoseconds.__getitem__, default=None)
+        return min(peers, key=lambda peer: self.nanoseconds[peer]) if peers else None
 
     def ratio(self, peer: str) -> float:
         return self.nanoseconds["haldgen"] / self.nanoseconds[peer]
@@ -336,11 +342,18 @@ def sums() -> dict[str, str]:
     return dict(line.split("\t")[:2] for line in lines)
 
 
-def notation(page: str) -> list[tuple[list[str], str]]:
-    """Rows of the tables of a document that explain recipes: tokens and meaning."""
+def notation(page: str) -> list[tuple[str, list[str], str]]:
+    """Rows of the tables of a document that explain recipes: first cell, tokens in it, and meaning."""
     result = []
-    for line in (ROOT / "docs" / page).read_text().splitlines():
+    for line in (ROOT / "docs" / page).read_text().replace("\\|", "|").splitlines():
         match = re.fullmatch(r"\| ((?:`[^`]+`[ ,.]*)+) \| (.*) \|", line)
         if match and not re.match(r"`[a-z_0-9]+/`", match[1]):
-            result.append(([t.replace("\\|", "|") for t in re.findall(r"`([^`]+)`", match[1])], match[2]))
+            result.append((match[1], re.findall(r"`([^`]+)`", match[1]), match[2]))
     return result
+
+
+def plans() -> dict[int, tuple[int, list[int]]]:
+    """Of the DCT-IV, by length: the radix, and the factors of the fold, the last of them a kernel."""
+    rows = {line.split("|")[1].strip(): [c.strip() for c in line.split("|")[2:-1]]
+            for line in (ROOT / "docs/dct4.md").read_text().splitlines() if re.match(r"\| [Nrm] \| \d+ ", line)}
+    return {int(n): (int(r), [int(f) for f in m.split(" x ")]) for n, r, m in zip(rows["N"], rows["r"], rows["m"])}

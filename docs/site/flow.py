@@ -37,17 +37,16 @@ def _order(layers: list[list[int]], above: dict[int, list[int]], below: dict[int
     return place
 
 
-def _card(width: float, height: float, title: str, body: list[str], legend: bool) -> str:
+def _card(width: float, height: float, title: str, body: list[str], colours: frozenset[str]) -> str:
     text = [f"<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 {width:.0f} {height:.0f}' {_FONT} role='img'>",
             f"<title>{escape(title)}</title>",
             f"<rect width='{width:.0f}' height='{height:.0f}' rx='12' fill='#0f172a'/>",
             f"<text x='24' y='34' font-size='17' font-weight='bold' fill='#e2e8f0'>{escape(title)}</text>"]
-    if legend:
-        x = width - 24
-        for name, colour in reversed(_LEGEND):
-            x -= 8.2 * len(name) + 10
-            text.append(f"<text x='{x:.0f}' y='34' font-size='13' fill='{colour}'>{name}</text>")
-            x -= 10
+    x = width - 24
+    for name, colour in reversed(_LEGEND):
+        if colour in colours:
+            text.append(f"<text x='{x:.0f}' y='34' font-size='13' fill='{colour}' text-anchor='end'>{name}</text>")
+            x -= 7.6 * len(name) + 16
     return "\n".join(text + body + ["</svg>\n"])
 
 
@@ -97,12 +96,14 @@ def whole(graph: Graph, title: str, names: tuple[list[str], list[str]]) -> str:
                 hint = ("+", "+i", "−", "−i")[turn] + (f" {constant}" if constant else "")
                 lines.append(_curve(x[n], y[n], x[i], y[i], _CONSTANT if constant else _SHADES[turn],
                                     1.6 if constant else 1.1, hint))
+    shades = {_CONSTANT if t[2] else _SHADES[t[1]] for n in graph.nodes if not isinstance(n, int) for t in n[1:]}
+    colours = frozenset(shades | {_SHADES[turn] for _, turn in graph.outputs})
     for end, (node, turn, k) in ends.items():
         if node >= 0:
             lines.append(_curve(x[node], y[node], x[end], y[end], _SHADES[turn], 1.1))
         dots.append(f"<circle cx='{x[end]:.1f}' cy='{y[end]:.1f}' r='5' fill='#e2e8f0'/>"
                     f"<text x='{x[end] + 11:.1f}' y='{y[end] + 4:.1f}' font-size='12' fill='#e2e8f0'>{names[1][k]}</text>")
-    return _card(width, height, title, lines + dots, legend=True)
+    return _card(width, height, title, lines + dots, colours)
 
 
 @dataclass
@@ -126,7 +127,7 @@ def _blocks(graph: Graph, parts: int) -> list[_Block]:
 
     first_user: dict[tuple[str, int], int] = {}
     for i, name in stage.items():
-        for n, *_ in graph.nodes[i][1:]:
+        for n, *_ in graph.terms(i):
             if stage.get(n) == name:
                 leader[find(n)] = find(i)
             elif n >= 0:
@@ -140,7 +141,7 @@ def _blocks(graph: Graph, parts: int) -> list[_Block]:
 def _edges(graph: Graph, blocks: list[_Block]) -> dict[tuple[int, int], int]:
     """Values that go from block to block."""
     owner = {i: b for b, block in enumerate(blocks) for i in block.sums}
-    values = {(owner[n], owner[i], n) for i in owner for n, *_ in graph.nodes[i][1:]
+    values = {(owner[n], owner[i], n) for i in owner for n, *_ in graph.terms(i)
               if n in owner and owner[n] != owner[i]}
     edges: dict[tuple[int, int], int] = defaultdict(int)
     for a, b, _ in values:
@@ -229,7 +230,7 @@ def folded(graph: Graph, title: str, names: tuple[list[str], list[str]]) -> str:
     for k, (node, _) in enumerate(graph.outputs):
         outputs[node].append(names[1][k])
     for b, block in enumerate(blocks):
-        used = {n for i in block.sums for n, *_ in graph.nodes[i][1:] if n >= 0}
+        used = {n for i in block.sums for n, *_ in graph.terms(i) if n >= 0}
         inputs = [names[0][graph.nodes[n]] for n in sorted(used) if isinstance(graph.nodes[n], int)]
         made = [name for i in block.sums for name in outputs[i]]
         name = block.stage.split(", ")[-1] or "sums and products"
@@ -248,7 +249,7 @@ def folded(graph: Graph, title: str, names: tuple[list[str], list[str]]) -> str:
                     f"text-anchor='middle'>{escape(label[:27])}</text>"
                     f"<text x='{x[b] + box_width / 2:.1f}' y='{top + 39:.1f}' font-size='11' fill='#94a3b8' "
                     f"text-anchor='middle'>{escape(arrow + detail)}</text></g>")
-    return _card(width, height, title, body, legend=False)
+    return _card(width, height, title, body, frozenset())
 
 
 def is_whole(graph: Graph) -> bool:

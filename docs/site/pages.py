@@ -36,7 +36,7 @@ class Kernel:
 
     @property
     def title(self) -> str:
-        return f"{self.length:,} points, {self.family.title}, {self.bits} bit"
+        return f"{self.family.title}, {self.length:,} points, {self.bits} bit"
 
     def function(self, word: str) -> str:
         if self.family.slug == "dct4":
@@ -73,6 +73,14 @@ class Facts:
         part = self._designs.get(("dct4", f"fixed_{kernel.length}", kernel.type)) if family.slug == "dct4" else None
         return [("", part)] if part else found
 
+    def parts(self, kernel: Kernel) -> list[tuple[str, Design]]:
+        """Generated kernels that a planned transform runs, in this order."""
+        if kernel.family.slug != "dct4" or kernel.length <= 32:
+            return []
+        radix, factors = facts.plans()[kernel.length]
+        names = [f"fold_{factors[-1]}", *(f"inner_recombine_{f}" for f in factors[-2::-1]), f"recombine_{radix}"]
+        return [(name, self._designs["dct4", name, kernel.type]) for name in names]
+
     def code(self, kernel: Kernel, word: str) -> facts.Code:
         if kernel.family.slug == "dct4":
             return facts.planned_code(self.library)
@@ -93,6 +101,12 @@ def _names(family: str, direction: str, length: int) -> tuple[list[str], list[st
 def pictures(kernel: Kernel, known: Facts) -> list[tuple[str, str]]:
     """File names and pictures of its graphs; of long Walsh-Hadamard transforms that of 32 points."""
     result = []
+    for name, part in known.parts(kernel):
+        assert part.graph
+        title = f"{part.algorithm}, {kernel.type}"
+        inputs = [f"in {i}" for i in range(len(part.graph.nodes))]
+        result.append((f"dct4-{name}-{kernel.type}.svg",
+                       flow.picture(part.graph, title, (inputs, [f"out {i}" for i in range(len(part.graph.outputs))]))))
     for direction, design in known.designs(kernel):
         graph, length = design.graph, kernel.length
         if kernel.family.slug == "wht" and length > 32:
@@ -146,14 +160,14 @@ def _top(recipe: str) -> str:
 def _glossary(page: str, recipes: list[str]) -> list[str]:
     """The rows of the notation that these recipes use."""
     rows = []
-    for tokens, meaning in facts.notation(page):
+    for cell, tokens, meaning in facts.notation(page):
         for token in tokens:
             head = re.split(r"[(\d]| a", token)[0] or token
-            pattern = {"(a . b)": r" \. ", "(a x b)": r" x ", "a || b": r"\|\|"}.get(token) or (
+            pattern = {"(a . b)": r" \. ", "(a x b)": r" x ", "a || b": r"\|\|", "rader 23 from 1": r" from \d"}.get(token) or (
                 r"(?<![\w'])" + re.escape(token) + r"(?![\w'])" if head == token
                 else r"\d+r literal" if "literal" in token else r"\d+r\((?!.*literal)" if token.startswith("13r") else re.escape(head))
             if any(re.search(pattern, recipe) for recipe in recipes):
-                rows.append(f"| {' '.join(f'`{t}`' for t in tokens)} | {meaning} |")
+                rows.append(f"| {cell} | {meaning} |")
                 break
     return rows
 
@@ -185,7 +199,7 @@ def _calls(kernel: Kernel) -> list[tuple[str, str, str]]:
              f"{function}(x, X, haldScaleNone, work);")
     kind = {"complex": "dft", "real": "rdft"}.get(slug, slug)
     return [
-        ("C", "c", f"#include <haldgen.h>\n\n{c}"),
+        ("C", "c", "#include <haldgen.h>\n" + ("#include <stddef.h>\n" if "NULL" in c else "") + f"\n{c}"),
         ("C++", "cpp", f"#include <haldgen.hpp>\n\n{cpp_arrays}{cpp}"),
         ("Python", "python", f"import haldgen\nimport numpy as np\n\nx = np.zeros({n}, np.{numpy})  # or any shape (..., {n})\nX = {python}"),
         ("JavaScript", "js", f"import {{load}} from 'haldgen';\n\nconst hald = await load('{slug}');\n"
@@ -243,11 +257,12 @@ def _bars(kernel: Kernel, known: Facts) -> list[str]:
                          f"<span>{_number(time)}</span></div>")
         busy = ' <span class="hg-busy">Other programs kept the machine busy: take these figures as rough ones.</span>' if speed.run.busy else ""
         lines += ["</div>", "", f"[{speed.run.caption}](../{speed.run.path}).{busy}", ""]
+    if kernel.family.slug != "complex":
+        lines.append("The [flavours](../flavours.md#what-is-wider) have this kernel as it is in the baseline.")
+        return lines
     ratios = known.flavours.get((kernel.type, kernel.length))
-    lines.append("Flavours, time over the baseline's ([on another machine](../flavours.md#figures)): "
-                 + (", ".join(f"{flavour} {ratio:.2f}" for flavour, ratio in ratios.items()) if ratios
-                    else "not measured" if kernel.family.slug == "complex"
-                    else "[the baseline's code](../flavours.md#what-is-wider)") + ".")
+    lines.append("Flavours, forward, time over the baseline's ([on another machine](../flavours.md#figures)): "
+                 + (", ".join(f"{flavour} {ratio:.2f}" for flavour, ratio in ratios.items()) if ratios else "not measured") + ".")
     return lines
 
 
@@ -309,10 +324,19 @@ def _computed(kernel: Kernel, known: Facts, designs: list[tuple[str, Design]]) -
                   + ("The picture is the network of 32 points; this one has " f"{order - 5} more levels of the same kind. "
                      if kernel.length > 32 else "") + "[More](../wht.md#the-network).", ""]
     elif family.slug == "dct4":
-        design = designs[0][1]
-        lines += [f"{design.algorithm}, one generated kernel." if design.algorithm
-                  else "Planned when its state is set up: folds, rotations and a recombination, each a generated kernel that runs over many rows.",
-                  "[The algorithm](../dct4.md#algorithm).", ""]
+        parts = known.parts(kernel)
+        if parts:
+            radix, factors = facts.plans()[kernel.length]
+            fold = " × ".join(map(str, factors))
+            lines += [f"Planned when its state is set up: {kernel.length} = {radix} · {fold}. Samples are read in rows of {2 * radix}; "
+                      f"folds of length {fold} run down the columns, rotations follow, and recombinations of radix {radix} make the outputs. "
+                      "Each part is a generated kernel that works on as many rows at once as a vector has lanes. "
+                      "[The algorithm](../dct4.md#algorithm).", "",
+                      "| part | additions | multiplications | depth |", "|---|--:|--:|--:|"]
+            lines += [f"| {part.algorithm} | {part.additions} | {part.multiplications} | {part.depth} |" for _, part in parts]
+            lines.append("")
+        else:
+            lines += [f"One generated kernel: {designs[0][1].algorithm}. [The algorithm](../dct4.md#algorithm).", ""]
     else:
         recipes = [design.algorithm for _, design in designs]
         for direction, design in designs:
@@ -327,14 +351,13 @@ def _computed(kernel: Kernel, known: Facts, designs: list[tuple[str, Design]]) -
             lines += ["The inverse is [made from the same graph](../complex.md#the-inverse) and has the same counts.", ""]
     for name, _ in pictures(kernel, known):
         lines += [f'<div class="hg-flow"><a href="{name}"><img src="{name}" loading="lazy" alt="Graph of {kernel.title}"></a></div>', ""]
-    drawn = [design.graph for _, design in designs if design.graph]
-    if family.slug != "wht" and any(not flow.is_whole(g) for g in drawn):
-        lines += ["Boxes are blocks of sums of one step, lines the values that go from one to the next, as thick as they are many; "
-                  "rest the pointer on a box of the [picture alone](" + pictures(kernel, known)[0][0] + ") for all its inputs and outputs.", ""]
-    elif drawn:
-        lines += ["Each dot is a sum, each line one of its terms; time runs to the right.", ""]
-    if family.slug == "dct4" and not drawn:
-        lines += ["    fold: sums of x in rows   →   rotate by exp(πi·(2j+1)(2b+1)/4N)   →   recombine: y", ""]
+    drawn = [design.graph for _, design in designs + known.parts(kernel) if design.graph]
+    if any(flow.is_whole(g) for g in drawn) or family.slug == "wht":
+        lines.append("Each dot is a sum, each line one of its terms; time runs to the right.")
+    if family.slug != "wht" and not all(flow.is_whole(g) for g in drawn):
+        lines.append("Boxes are blocks of sums of one step, lines the values that go from one to the next, as thick as they are many. "
+                     "Open a picture and rest the pointer on a box for all its inputs and outputs.")
+    lines.append("")
     return lines
 
 
@@ -366,6 +389,19 @@ def overview(known: Facts) -> str:
                 lines.append(f'<a href="{kernel.page}.html" {data}>{length}</a>')
             lines.append("</div>")
     return "\n".join([*lines, "</div>", "", "Real transforms show their forward kernel with CCS format. [Pictures of speed](speed.md).", ""])
+
+
+def calls(language: str) -> str:
+    """A source file of all calls in C or C++, each a function of its own, for a compiler to look at."""
+    label = {"c": "C", "cpp": "C++"}[language]
+    headers, functions = set(), []
+    for number, kernel in enumerate(kernels()):
+        text = next(code for name, _, code in _calls(kernel) if name == label)
+        headers |= set(re.findall(r"#include .*", text))
+        body = re.sub(r"#include .*\n+", "", text)
+        functions.append(f"void call_{number}(void);\nvoid call_{number}(void) {{\n{body}\n}}\n" if language == "c"
+                         else f"void call_{number}() {{\n{body}\n}}\n")
+    return "\n".join([*sorted(headers), *functions])
 
 
 def manifest(known: Facts) -> str:

@@ -14,7 +14,7 @@ int main(void) {
   }
   printf("Perm holds the last bin at 1: %.2f\n", perm[1]);
 
-  float back[8];
-  haldgDFTInv_CCSToR_8_32f(ccs, back, haldScaleInvByN); /* the format goes, the samples come */
+  float back[8]; /* and back to samples */
+  haldgDFTInv_CCSToR_8_32f(ccs, back, haldScaleInvByN);
   printf("sample 7: %.2f\n", back[7]);
 }
