@@ -1,4 +1,5 @@
-# Installation: headers, libraries, haldgen-bits with the published sums, CMake package, pkg-config files.
+# Installation: headers, libraries, haldgen-bits with the published sums, haldgen-generate, CMake
+# package, pkg-config files.
 include(CMakePackageConfigHelpers)
 
 set(haldgen_installed haldgenp8 haldcore)
@@ -13,6 +14,9 @@ foreach(library IN LISTS haldgen_installed)
     list(APPEND targets ${library}_static)
   endif()
 endforeach()
+if(TARGET haldgen-generate)
+  list(APPEND targets haldgen-generate)
+endif()
 install(TARGETS ${targets} EXPORT haldgenTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
@@ -24,11 +28,16 @@ install(FILES ${PROJECT_SOURCE_DIR}/bits/published.tsv
   DESTINATION ${CMAKE_INSTALL_DATADIR}/haldgen)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/haldgen)
-install(EXPORT haldgenTargets NAMESPACE haldgen:: FILE haldgenConfig.cmake
-  DESTINATION ${package_dir})
+install(EXPORT haldgenTargets NAMESPACE haldgen:: DESTINATION ${package_dir})
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/haldgenConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/haldgenConfig.cmake INSTALL_DESTINATION ${package_dir}
+  NO_SET_AND_CHECK_MACRO NO_CHECK_REQUIRED_COMPONENTS_MACRO)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/haldgenConfigVersion.cmake
   COMPATIBILITY SameMajorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/haldgenConfigVersion.cmake DESTINATION ${package_dir})
+install(FILES ${PROJECT_BINARY_DIR}/haldgenConfig.cmake
+  ${PROJECT_BINARY_DIR}/haldgenConfigVersion.cmake
+  ${PROJECT_SOURCE_DIR}/cmake/HaldgenKernels.cmake
+  DESTINATION ${package_dir})
 
 # The .pc files find the prefix from their own place, so an installed tree can be moved.
 cmake_path(IS_ABSOLUTE CMAKE_INSTALL_LIBDIR libdir_is_absolute)

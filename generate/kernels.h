@@ -15,7 +15,7 @@ inline std::string suffix(const family::Family& family, family::FloatType type) 
       names::suffix(family.words.front().elements[type == family::FloatType::f32 ? 0 : 1]));
 }
 
-/// Numbers of a family's kernels.
+/// Numbers of a family's kernels in the library.
 inline std::vector<int> kernels_of(const family::Family& family) {
   std::vector<int> numbers(family.sizes.begin(), family.sizes.end());
   for (std::size_t i = 0; i < family.generated->kernels.size(); ++i) {

@@ -208,6 +208,13 @@ def _calls(kernel: Kernel) -> list[tuple[str, str, str]]:
     ]
 
 
+def _to_go(kernel: Kernel) -> list[str]:
+    if kernel.family.slug not in ("complex", "real", "hartley"):
+        return []
+    return ["Without the library, as [one file of C](../kernels-to-go.md):", "",
+            *(f"    haldgen-generate single {name} {kernel.length} {kernel.type} -o {name}.c" for name in kernel.family.generated), ""]
+
+
 def _work_bytes(kernel: Kernel) -> int:
     row = next(line for line in (facts.ROOT / "docs/wht.md").read_text().splitlines()
                if re.match(rf"\| {kernel.family.size_of(kernel.length)} \| [\d+ ]+ \| \d+ \|", line))
@@ -296,7 +303,8 @@ def kernel_page(kernel: Kernel, known: Facts) -> str:
         lines += [f'=== "{label}"', "", f"    ```{language}", *("    " + line for line in text.splitlines()), "    ```", ""]
     lines += ["[Scales](../guide/scales.md), "
               + ("[packed formats](../guide/packed.md), " if family.slug == "real" else "")
-              + f"[arrays, threads, memory](../guide/calls.md), [the family](../{family.page}).", "", "## How it is computed", ""]
+              + f"[arrays, threads, memory](../guide/calls.md), [the family](../{family.page}).", "",
+              *_to_go(kernel), "## How it is computed", ""]
     lines += _computed(kernel, known, designs)
     lines += ["## Speed", "", *_bars(kernel, known), "", "## Errors", "",
               "Against the definition in wider arithmetic, on numbers uniform in [-1, 1); ε is the distance from 1 to the next float.", "",
