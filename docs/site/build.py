@@ -86,7 +86,7 @@ def main(build: Path, destination: Path) -> None:
             (catalogue / name).write_text(text)
     (catalogue / "index.md").write_text(pages.overview(known))
     (catalogue / "speed.md").write_text(speed_page())
-    for language in ("c", "cpp"):
+    for language in ("c", "cpp", "py"):
         (destination.parent / f"catalogue_calls.{language}").write_text(pages.calls(language))
     (destination.parent / "catalogue.json").write_text(pages.manifest(known))
 

@@ -400,15 +400,18 @@ def overview(known: Facts) -> str:
 
 
 def calls(language: str) -> str:
-    """A source file of all calls in C or C++, each a function of its own, for a compiler to look at."""
-    label = {"c": "C", "cpp": "C++"}[language]
+    """A source file of all calls in a language, each a function of its own; the one in Python calls them."""
+    label, arguments = {"c": ("C", "(void)"), "cpp": ("C++", "()"), "py": ("Python", "()")}[language]
     headers, functions = set(), []
     for number, kernel in enumerate(kernels()):
         text = next(code for name, _, code in _calls(kernel) if name == label)
-        headers |= set(re.findall(r"#include .*", text))
-        body = re.sub(r"#include .*\n+", "", text)
-        functions.append(f"void call_{number}(void);\nvoid call_{number}(void) {{\n{body}\n}}\n" if language == "c"
-                         else f"void call_{number}() {{\n{body}\n}}\n")
+        headers |= set(re.findall(r"^(?:#include|import) .*", text, re.M))
+        body = re.sub(r"(?:#include|import) .*\n+", "", text)
+        head = f"call_{number}{arguments}"
+        if language == "py":
+            functions.append(f"def {head}:\n    " + body.replace("\n", "\n    ") + f"\n\ncall_{number}()\n")
+        else:
+            functions.append(f"void {head};\nvoid {head} {{\n{body}\n}}\n")
     return "\n".join([*sorted(headers), *functions])
 
 
