@@ -201,6 +201,10 @@ class Error:
     largest: float | None = None
     largest_absolute: float | None = None
 
+    @property
+    def largest_text(self) -> str:
+        return f"{self.largest:.2f} ε" if self.largest is not None else f"{self.largest_absolute:.1e}"
+
 
 def _rows(lines: list[str]) -> list[list[str]]:
     cells = [[c.strip() for c in line.strip().strip("|").split("|")] for line in lines if line.startswith("|")]

@@ -7,9 +7,14 @@ import re
 from dataclasses import dataclass
 from pathlib import Path
 
+from jinja2 import Environment, FileSystemLoader, StrictUndefined
+
 import facts
 import flow
 from facts import Design, Family
+
+_TEMPLATES = Environment(loader=FileSystemLoader(Path(__file__).parent / "templates"), undefined=StrictUndefined,
+                         trim_blocks=True, lstrip_blocks=True)
 
 _FORMULAS = {
     "complex": ("X[k] = s · Σ x[n] · exp(∓2πi·k·n/{n}),  k, n = 0 … {last};  − forward, + inverse"),
@@ -157,7 +162,7 @@ def _top(recipe: str) -> str:
     return ""
 
 
-def _glossary(page: str, recipes: list[str]) -> list[str]:
+def _glossary(page: str, recipes: list[str]) -> list[tuple[str, str]]:
     """The rows of the notation that these recipes use."""
     rows = []
     for cell, tokens, meaning in facts.notation(page):
@@ -167,7 +172,7 @@ def _glossary(page: str, recipes: list[str]) -> list[str]:
                 r"(?<![\w'])" + re.escape(token) + r"(?![\w'])" if head == token
                 else r"\d+r literal" if "literal" in token else r"\d+r\((?!.*literal)" if token.startswith("13r") else re.escape(head))
             if any(re.search(pattern, recipe) for recipe in recipes):
-                rows.append(f"| {cell} | {meaning} |")
+                rows.append((cell, meaning))
                 break
     return rows
 
@@ -208,13 +213,6 @@ def _calls(kernel: Kernel) -> list[tuple[str, str, str]]:
     ]
 
 
-def _to_go(kernel: Kernel) -> list[str]:
-    if kernel.family.slug not in ("complex", "real", "hartley"):
-        return []
-    return ["Without the library, as [one file of C](../kernels-to-go.md):", "",
-            *(f"    haldgen-generate single {name} {kernel.length} {kernel.type} -o {name}.c" for name in kernel.family.generated), ""]
-
-
 def _work_bytes(kernel: Kernel) -> int:
     row = next(line for line in (facts.ROOT / "docs/wht.md").read_text().splitlines()
                if re.match(rf"\| {kernel.family.size_of(kernel.length)} \| [\d+ ]+ \| \d+ \|", line))
@@ -223,180 +221,101 @@ def _work_bytes(kernel: Kernel) -> int:
 
 # Pages.
 
-def _chips(kernel: Kernel) -> str:
+def _chips(kernel: Kernel) -> list[tuple[str, str, bool]]:
+    """Page, text, and whether it is the one that is shown: families, types, neighbours."""
     family = kernel.family
-    here = family.lengths.index(kernel.length)
     links = []
     for other in facts.FAMILIES:
         nearest = min(other.lengths, key=lambda n: abs(n - kernel.length))
         type_ = other.types[family.types.index(kernel.type)]
         links.append((Kernel(other, nearest, type_).page, other.title.removesuffix(" transform"), other is family))
     links += [(Kernel(family, kernel.length, t).page, f"{t[:2]} bit", t == kernel.type) for t in family.types]
+    here = family.lengths.index(kernel.length)
     for step, arrow in ((-1, "←"), (1, "→")):
         if 0 <= here + step < len(family.lengths):
             length = family.lengths[here + step]
             links.append((Kernel(family, length, kernel.type).page, f"{arrow} {length:,}", False))
-    links.append(("index", "all kernels", False))
-    return ('<div class="hg-chips">' + "".join(
-        f'<a href="{page}.html"{" class=hg-here" if chosen else ""}>{text}</a>' for page, text, chosen in links) + "</div>")
+    return [*links, ("index", "all kernels", False)]
 
 
-def _number(value: float) -> str:
+def _nanoseconds(value: float) -> str:
     return f"{value:,.0f}" if value >= 1000 else f"{value:.1f}" if value >= 100 else f"{value:.2f}"
 
 
-def _bars(kernel: Kernel, known: Facts) -> list[str]:
-    lines = []
-    for word in kernel.family.measured:
-        speed = known.speeds.get((word, kernel.type, kernel.length))
-        if speed is None:
-            lines += [f"`{kernel.function(word)}`: not measured.", ""]
-            continue
-        # Bars of the slowest are cut, so that the others can be told apart.
-        most = min(max(speed.nanoseconds.values()), 8 * speed.nanoseconds["haldgen"])
-        lines += [f"`{kernel.function(word)}`, nanoseconds of one call, arrays in the first-level cache:" if kernel.length <= 4096
-                  else f"`{kernel.function(word)}`, nanoseconds of one call, the same arrays again and again:", "",
-                  '<div class="hg-bars">']
-        for name, time in sorted(speed.nanoseconds.items(), key=lambda item: item[1]):
-            lines.append(f"<div>{'haldgen' if name == 'haldgen' else facts.PEERS[name]}</div>"
-                         f"<div><i class='{'hg-ours' if name == 'haldgen' else 'hg-cut' if time > most else ''}' "
-                         f"style='width:{100 * min(1, time / most):.1f}%'></i>"
-                         f"<span>{_number(time)}</span></div>")
-        busy = ' <span class="hg-busy">Other programs kept the machine busy: take these figures as rough ones.</span>' if speed.run.busy else ""
-        lines += ["</div>", "", f"[{speed.run.caption}](../{speed.run.path}).{busy}", ""]
-    if kernel.family.slug != "complex":
-        lines.append("The [flavours](../flavours.md#what-is-wider) have this kernel as it is in the baseline.")
-        return lines
-    ratios = known.flavours.get((kernel.type, kernel.length))
-    lines.append("Flavours, forward, time over the baseline's ([on another machine](../flavours.md#figures)): "
-                 + (", ".join(f"{flavour} {ratio:.2f}" for flavour, ratio in ratios.items()) if ratios else "not measured") + ".")
-    return lines
+def _bars(speed: facts.Speed) -> list[tuple[str, str, str, str]]:
+    """Name, style, width in per cent and figure. Bars of the slowest are cut, so that the others can be told apart."""
+    times = speed.nanoseconds
+    most = min(max(times.values()), 8 * times["haldgen"])
+    return [(facts.PEERS.get(name, name), "hg-ours" if name == "haldgen" else "hg-cut" if time > most else "",
+             f"{100 * min(1, time / most):.1f}", _nanoseconds(time))
+            for name, time in sorted(times.items(), key=lambda item: item[1])]
+
+
+def _cards(kernel: Kernel, known: Facts) -> list[tuple[str, str, str]]:
+    family, word = kernel.family, kernel.family.measured[0]
+    design = known.designs(kernel)[0][1]
+    speed = known.speeds.get((word, kernel.type, kernel.length))
+    peer = speed.best_peer if speed else None
+    error = known.errors[word, kernel.type, kernel.length]
+    code = known.code(kernel, word)
+    paths = {"complex": "both paths: aligned and not", "wht": "both paths: aligned and not",
+             "dct4": "for all lengths and both types"}.get(family.slug, "one path for any alignment")
+    stack = "bytes that a call takes at most"
+    if family.slug == "dct4":
+        stack = f"bytes, largest frame; a state has {facts.state_bytes(known.library, kernel.length, kernel.type):,}"
+    return [
+        ("time, hot", f"{_nanoseconds(speed.nanoseconds['haldgen'])} ns" if speed else "not measured",
+         f"{speed.ratio(peer):.2f} times that of {facts.PEERS[peer]}" if speed and peer else ""),
+        ("arithmetic", f"{design.additions:,} + {design.multiplications:,}",
+         "additions + multiplications, without the scale"),
+        ("depth", str(design.depth), "operations in a chain"),
+        ("error, L2", f"{error.l2:.2f} ε", f"largest {error.largest_text}"),
+        ("code", f"{code.size:,} B", f"bytes, {paths}"),
+        ("stack", f"{code.frame:,} B", stack),
+    ]
 
 
 def kernel_page(kernel: Kernel, known: Facts) -> str:
     family = kernel.family
-    designs = known.designs(kernel)
-    design = designs[0][1]
-    speed = known.speeds.get((family.measured[0], kernel.type, kernel.length))
-    error = known.errors[family.measured[0], kernel.type, kernel.length]
-    code = known.code(kernel, family.words[0])
-    peer = speed.best_peer if speed else None
-    largest = (f"largest {error.largest:.2f} ε of the mean output" if error.largest is not None
-               else f"largest {error.largest_absolute:.1e}, absolute")
-    state = facts.state_bytes(known.library, kernel.length, kernel.type) if family.slug == "dct4" else None
-    cards = [
-        ("time, hot", f"{_number(speed.nanoseconds['haldgen'])} ns" if speed else "not measured",
-         f"{speed.ratio(peer):.2f} times that of {facts.PEERS[peer]}" if speed and peer else ""),
-        ("arithmetic", f"{design.additions:,} + {design.multiplications:,}", "additions + multiplications, without the scale"),
-        ("depth", str(design.depth), "operations in a chain"),
-        ("error, L2", f"{error.l2:.2f} ε", largest),
-        ("code", f"{code.size:,} B", "bytes, for all lengths and both types" if family.slug == "dct4"
-         else "bytes, both paths: aligned and not" if family.slug in ("complex", "wht") else "bytes, one path for any alignment"),
-        ("stack", f"{code.frame:,} B", f"bytes, largest frame; a state has {state:,}" if state else "bytes that a call takes at most"),
-    ]
-    lines = ["---", "hide: [navigation]", "---", "", f"# {kernel.title}", "", _chips(kernel), "",
-             "    " + _FORMULAS[family.slug].format(n=kernel.length, last=kernel.length - 1, half=kernel.length // 2), "",
-             '<div class="hg-cards hg-figures">']
-    lines += [f'<div class="hg-card"><span>{name}</span><b>{value}</b><span>{note}</span></div>' for name, value, note in cards]
-    lines += ["</div>", "", "## The call", ""]
-    for label, language, text in _calls(kernel):
-        lines += [f'=== "{label}"', "", f"    ```{language}", *("    " + line for line in text.splitlines()), "    ```", ""]
-    lines += ["[Scales](../guide/scales.md), "
-              + ("[packed formats](../guide/packed.md), " if family.slug == "real" else "")
-              + f"[arrays, threads, memory](../guide/calls.md), [the family](../{family.page}).", "",
-              *_to_go(kernel), "## How it is computed", ""]
-    lines += _computed(kernel, known, designs)
-    lines += ["## Speed", "", *_bars(kernel, known), "", "## Errors", "",
-              "Against the definition in wider arithmetic, on numbers uniform in [-1, 1); ε is the distance from 1 to the next float.", "",
-              "| function | L2 | worst call | largest |", "|---|--:|--:|--:|"]
-    for word in family.measured:
-        e = known.errors[word, kernel.type, kernel.length]
-        most = f"{e.largest:.2f} ε" if e.largest is not None else f"{e.largest_absolute:.1e}"
-        lines.append(f"| `{kernel.function(word)}` | {e.l2:.2f} ε | {e.worst_call:.2f} ε | {most} |")
-    lines += ["", "*Largest*: of one output, " + ("absolute, the median over calls." if family.slug == "dct4"
-              else "over the root mean square of the exact outputs.")
-              + " [How it is measured](../" + ("dct4.md#accuracy" if family.slug == "dct4" else "accuracy.md") + ").", "",
-              "## Functions", "", "| function | code, bytes | stack, bytes | published sum |", "|---|--:|--:|---|"]
-    for word in family.words:
-        size = known.code(kernel, word)
-        lines.append(f"| `{kernel.function(word)}` | {size.size:,} | {size.frame:,} | `{known.sums[kernel.published(word)]}` |")
-    lines += ["", "Code and stack are those of this build, with all that a function calls. [What the sum is of](../guide/bits.md).", ""]
-    return "\n".join(lines)
+    designs, parts = known.designs(kernel), known.parts(kernel)
+    drawn = [design.graph for _, design in designs + parts if design.graph]
+    whole = [family.slug == "wht" or flow.is_whole(graph) for graph in drawn]
+    radix, factors = facts.plans()[kernel.length] if parts else (0, [])
+    measured = [(kernel.function(word), known.speeds.get((word, kernel.type, kernel.length))) for word in family.measured]
+    return _TEMPLATES.get_template("kernel.md").render(
+        kernel=kernel, family=family, slug=family.slug, order=family.size_of(kernel.length), chips=_chips(kernel),
+        formula=_FORMULAS[family.slug].format(n=kernel.length, last=kernel.length - 1, half=kernel.length // 2),
+        cards=_cards(kernel, known), calls=_calls(kernel), designs=designs, parts=parts, radix=radix,
+        fold=" × ".join(map(str, factors)), number="{:,}".format,
+        opening=lambda recipe: _opening(recipe, kernel.length),
+        notation=_glossary("real.md" if family.slug == "hartley" else family.page, [d.algorithm for _, d in designs]),
+        pictures=[name for name, _ in pictures(kernel, known)], any_whole=any(whole), any_folded=not all(whole),
+        speeds=[(function, speed, _bars(speed)) for function, speed in measured if speed],
+        flavours=known.flavours.get((kernel.type, kernel.length), {}),
+        errors=[(kernel.function(word), known.errors[word, kernel.type, kernel.length]) for word in family.measured],
+        functions=[(kernel.function(word), known.code(kernel, word), known.sums[kernel.published(word)])
+                   for word in family.words])
 
 
-def _computed(kernel: Kernel, known: Facts, designs: list[tuple[str, Design]]) -> list[str]:
-    family, lines = kernel.family, []
-    if family.slug == "wht":
-        order = family.size_of(kernel.length)
-        lines += [f"{order} levels: level b replaces each pair of elements whose indices differ in bit b alone by their sum and their difference. "
-                  + ("The picture is the network of 32 points; this one has " f"{order - 5} more levels of the same kind. "
-                     if kernel.length > 32 else "") + "[More](../wht.md#the-network).", ""]
-    elif family.slug == "dct4":
-        parts = known.parts(kernel)
-        if parts:
-            radix, factors = facts.plans()[kernel.length]
-            fold = " × ".join(map(str, factors))
-            lines += [f"Planned when its state is set up: {kernel.length} = {radix} · {fold}. Samples are read in rows of {2 * radix}; "
-                      f"folds of length {fold} run down the columns, rotations follow, and recombinations of radix {radix} make the outputs. "
-                      "Each part is a generated kernel that works on as many rows at once as a vector has lanes. "
-                      "[The algorithm](../dct4.md#algorithm).", "",
-                      "| part | additions | multiplications | depth |", "|---|--:|--:|--:|"]
-            lines += [f"| {part.algorithm} | {part.additions} | {part.multiplications} | {part.depth} |" for _, part in parts]
-            lines.append("")
-        else:
-            lines += [f"One generated kernel: {designs[0][1].algorithm}. [The algorithm](../dct4.md#algorithm).", ""]
-    else:
-        recipes = [design.algorithm for _, design in designs]
-        for direction, design in designs:
-            counts = (f" ({design.additions:,} additions, {design.multiplications:,} multiplications, depth {design.depth})"
-                      if len(designs) > 1 else "")
-            lines += [(f"**{direction.capitalize()}**{counts}. " if len(designs) > 1 else "")
-                      + f"{_opening(design.algorithm, kernel.length)} As a recipe:", "", "    " + design.algorithm, ""]
-        rows = _glossary("real.md" if family.slug == "hartley" else family.page, recipes)
-        if rows:
-            lines += ["| notation | meaning |", "|---|---|", *rows, ""]
-        if family.slug == "complex":
-            lines += ["The inverse is [made from the same graph](../complex.md#the-inverse) and has the same counts.", ""]
-    for name, _ in pictures(kernel, known):
-        lines += [f'<div class="hg-flow"><a href="{name}"><img src="{name}" loading="lazy" alt="Graph of {kernel.title}"></a></div>', ""]
-    drawn = [design.graph for _, design in designs + known.parts(kernel) if design.graph]
-    if any(flow.is_whole(g) for g in drawn) or family.slug == "wht":
-        lines.append("Each dot is a sum, each line one of its terms; time runs to the right.")
-    if family.slug != "wht" and not all(flow.is_whole(g) for g in drawn):
-        lines.append("Boxes are blocks of sums of one step, lines the values that go from one to the next, as thick as they are many. "
-                     "Open a picture and rest the pointer on a box for all its inputs and outputs.")
-    lines.append("")
-    return lines
-
-
-_FIGURES = (("ns", "time", "ns"), ("ratio", "time over the best peer", "of the best peer's time"), ("error", "L2 error", "ε"),
-            ("bytes", "code size", "bytes of code"), ("operations", "operations", "additions and multiplications"))
+def _figures(kernel: Kernel, known: Facts) -> dict[str, str]:
+    """What the overview colours by; empty where nothing is measured, or all lengths have the same."""
+    word = kernel.family.measured[0]
+    speed = known.speeds.get((word, kernel.type, kernel.length))
+    design = known.designs(kernel)[0][1]
+    return {
+        "ns": f"{speed.nanoseconds['haldgen']:g}" if speed else "",
+        "ratio": f"{speed.ratio(speed.best_peer):.2f}" if speed and speed.best_peer else "",
+        "error": f"{known.errors[word, kernel.type, kernel.length].l2:.2f}",
+        "bytes": "" if kernel.family.slug == "dct4" else str(known.code(kernel, word).size),
+        "operations": str(design.additions + design.multiplications),
+    }
 
 
 def overview(known: Facts) -> str:
-    lines = ["---", "hide: [toc]", "---", "", "# Catalogue", "",
-             "A portrait of every kernel. Choose what the colours say, then a length.", "",
-             '<div class="hg-overview">', '<div class="hg-chips">']
-    lines += [f'<button type="button" data-figure="{figure}" data-unit="{unit}">{label}</button>' for figure, label, unit in _FIGURES]
-    lines += ["</div>", '<div class="hg-legend">green is better</div>']
-    for family in facts.FAMILIES:
-        for type_ in family.types:
-            lines += [f"<h3>{family.title}, {type_[:2]} bit</h3>", '<div class="hg-grid">']
-            for length in family.lengths:
-                kernel = Kernel(family, length, type_)
-                speed = known.speeds.get((family.measured[0], type_, length))
-                design = known.designs(kernel)[0][1]
-                figures = {
-                    "ns": f"{speed.nanoseconds['haldgen']:g}" if speed else "",
-                    "ratio": f"{speed.ratio(speed.best_peer):.2f}" if speed and speed.best_peer else "",
-                    "error": f"{known.errors[family.measured[0], type_, length].l2:.2f}",
-                    "bytes": "" if family.slug == "dct4" else str(known.code(kernel, family.words[0]).size),
-                    "operations": str(design.additions + design.multiplications),
-                }
-                data = " ".join(f'data-{name}="{value}"' for name, value in figures.items())
-                lines.append(f'<a href="{kernel.page}.html" {data}>{length}</a>')
-            lines.append("</div>")
-    return "\n".join([*lines, "</div>", "", "Real transforms show their forward kernel with CCS format. [Pictures of speed](speed.md).", ""])
+    grids = [(f"{family.title}, {type_[:2]} bit",
+              [(kernel, _figures(kernel, known)) for kernel in (Kernel(family, n, type_) for n in family.lengths)])
+             for family in facts.FAMILIES for type_ in family.types]
+    return _TEMPLATES.get_template("overview.md").render(grids=grids)
 
 
 def calls(language: str) -> str:
