@@ -352,7 +352,10 @@ def notation(page: str) -> list[tuple[str, list[str], str]]:
     for line in (ROOT / "docs" / page).read_text().replace("\\|", "|").splitlines():
         match = re.fullmatch(r"\| ((?:`[^`]+`[ ,.]*)+) \| (.*) \|", line)
         if match and not re.match(r"`[a-z_0-9]+/`", match[1]):
-            result.append((match[1], re.findall(r"`([^`]+)`", match[1]), match[2]))
+            tokens = re.findall(r"`([^`]+)`", match[1])
+            if ".." in match[1]:  # powers of two in between
+                tokens += [str(2**k) for k in range(3, 6)]
+            result.append((match[1], tokens, match[2]))
     return result
 
 

@@ -193,7 +193,13 @@ def _joined(graph: Graph, blocks: list[_Block]) -> list[_Block]:
 
 
 def _listed(names: list[str]) -> str:
-    return " ".join(names) if len(names) <= 5 else f"{' '.join(names[:3])} … {names[-1]}"
+    """As many as a box has room for; parts of a bin are the bin."""
+    bins = list(dict.fromkeys(name.split(" ")[-1] if "[" in name else name for name in names))
+    for shown in range(len(bins), 0, -1):
+        text = " ".join(bins) if shown == len(bins) else f"{' '.join(bins[:shown])} … {bins[-1]}"
+        if len(text) <= 24:
+            break
+    return text
 
 
 def folded(graph: Graph, title: str, names: tuple[list[str], list[str]]) -> str:
