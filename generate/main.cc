@@ -36,6 +36,7 @@ constexpr std::string_view kUsage =
     "       haldgen-generate constants FAMILY FILE\n"
     "       haldgen-generate single FAMILY LENGTH TYPE [TUNING] [-o FILE]\n"
     "       haldgen-generate single-header [FAMILY LENGTH TYPE]... [-o FILE]\n"
+    "       haldgen-generate --help|--version\n"
     "  list     the families with their kernels and element types\n"
     "  catalogue  counts, recipe and graph of everything, a JSON object a line\n"
     "  counts   operation counts of all transforms, of a family's kernels or of one, as a table\n"
@@ -184,6 +185,14 @@ const Flavour* take_flavour(std::vector<std::string>& args) {
 
 void run(std::vector<std::string> args) {
   if (args.empty()) throw UsageError("no command");
+  if (args.size() == 1 && args[0] == "--help") {
+    std::cout << kUsage;
+    return;
+  }
+  if (args.size() == 1 && args[0] == "--version") {
+    std::cout << "haldgen-generate " HALDGEN_SINGLE_VERSION "\n";
+    return;
+  }
   const Flavour* const flavour = take_flavour(args);
   const std::string& command = args[0];
   if (command == "list" && args.size() == 1) return print_list();

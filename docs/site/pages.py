@@ -282,7 +282,7 @@ def kernel_page(kernel: Kernel, known: Facts) -> str:
     whole = [family.slug == "wht" or flow.is_whole(graph) for graph in drawn]
     radix, factors = facts.plans()[kernel.length] if parts else (0, [])
     measured = [(kernel.function(word), known.speeds.get((word, kernel.type, kernel.length))) for word in family.measured]
-    return _TEMPLATES.get_template("kernel.md").render(
+    return _TEMPLATES.get_template("kernel.md.j2").render(
         kernel=kernel, family=family, slug=family.slug, order=family.size_of(kernel.length), chips=_chips(kernel),
         formula=_FORMULAS[family.slug].format(n=kernel.length, last=kernel.length - 1, half=kernel.length // 2),
         cards=_cards(kernel, known), calls=_calls(kernel), designs=designs, parts=parts, radix=radix,
@@ -315,7 +315,7 @@ def overview(known: Facts) -> str:
     grids = [(f"{family.title}, {type_[:2]} bit",
               [(kernel, _figures(kernel, known)) for kernel in (Kernel(family, n, type_) for n in family.lengths)])
              for family in facts.FAMILIES for type_ in family.types]
-    return _TEMPLATES.get_template("overview.md").render(grids=grids)
+    return _TEMPLATES.get_template("overview.md.j2").render(grids=grids)
 
 
 def calls(language: str) -> str:
