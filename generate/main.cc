@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "generate/catalogue.h"
+#include "generate/kernels.h"
 #include "generate/single.h"
 #include "kernelgen/dot.h"
 #include "registry/registry.h"
@@ -18,10 +20,15 @@ using haldgen::family::Family;
 using haldgen::family::FloatType;
 using haldgen::family::Tuning;
 using haldgen::family::Work;
+using haldgen::generate::kernel_name;
+using haldgen::generate::kernels_of;
+using haldgen::generate::kTypes;
+using haldgen::generate::suffix;
 using haldgen::names::Flavour;
 
 constexpr std::string_view kUsage =
     "usage: haldgen-generate list\n"
+    "       haldgen-generate catalogue\n"
     "       haldgen-generate counts [FAMILY]\n"
     "       haldgen-generate recipe|counts|graph|code FAMILY KERNEL TYPE\n"
     "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [TUNING]\n"
@@ -31,6 +38,7 @@ constexpr std::string_view kUsage =
     "       haldgen-generate single-header [FAMILY LENGTH TYPE]... [-o FILE]\n"
     "       haldgen-generate --help|--version\n"
     "  list     the families with their kernels and element types\n"
+    "  catalogue  counts, recipe and graph of everything, a JSON object a line\n"
     "  counts   operation counts of all transforms, of a family's kernels or of one, as a table\n"
     "  recipe   the factorisation of a kernel\n"
     "  graph    its statements for Graphviz\n"
@@ -51,27 +59,6 @@ constexpr std::string_view kUsage =
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
-
-constexpr FloatType kTypes[] = {FloatType::f32, FloatType::f64};
-
-std::string suffix(const Family& family, FloatType type) {
-  return std::string(
-      haldgen::names::suffix(family.words.front().elements[type == FloatType::f32 ? 0 : 1]));
-}
-
-/// Numbers of a family's kernels in the library.
-std::vector<int> kernels_of(const Family& family) {
-  std::vector<int> numbers(family.sizes.begin(), family.sizes.end());
-  for (std::size_t i = 0; i < family.generated->kernels.size(); ++i) {
-    numbers.push_back(static_cast<int>(i));
-  }
-  return numbers;
-}
-
-std::string kernel_name(const Family& family, int number) {
-  const auto& names = family.generated->kernels;
-  return names.empty() ? std::to_string(number) : names[static_cast<std::size_t>(number)];
-}
 
 const Family& generated_family(const std::string& name) {
   for (const Family& family : haldgen::registry::families()) {
@@ -209,6 +196,9 @@ void run(std::vector<std::string> args) {
   const Flavour* const flavour = take_flavour(args);
   const std::string& command = args[0];
   if (command == "list" && args.size() == 1) return print_list();
+  if (command == "catalogue" && args.size() == 1) {
+    return haldgen::generate::write_catalogue(std::cout);
+  }
   if (command == "counts" && args.size() <= 2) {
     print_counts_head();
     return args.size() == 1 ? print_all_counts() : print_family_counts(generated_family(args[1]));
