@@ -1,5 +1,5 @@
 # Debian packages of what is installed, one for each component: script/packages.
-set(HALDGEN_MAINTAINER "haldgen authors <authors@haldgen.org>" CACHE STRING
+set(HALDGEN_MAINTAINER "haldgen authors <authors@haldgen.invalid>" CACHE STRING
     "Whom a package names as its maintainer")
 # The packages are those that the project makes, not a distribution.
 set(release 0haldgen1)

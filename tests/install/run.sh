@@ -41,9 +41,8 @@ libdir=$(pkg-config --variable=libdir haldgenp8)
 "$cc" -o "$scratch/consumer" "$consumer/consumer.c" \
   $(pkg-config --cflags --libs haldgenp8 haldcore) -lm -Wl,-rpath,"$libdir" ${LDFLAGS:-}
 "$scratch/consumer"
-# Each of the two by itself, the first as the README says.
-awk '/^```c$/ { inside = 1; next } /^```/ { inside = 0 } inside' "$source/README.md" \
-  >"$scratch/program.c"
+# Each of the two by itself, the first as the guide says.
+cp "$source/docs/guide/snippets/first.c" "$scratch/program.c"
 echo '#include <haldcore.h>
 int main(void) { haldFree(haldMalloc(64)); return 0; }' >"$scratch/core.c"
 # shellcheck disable=SC2046,SC2086
