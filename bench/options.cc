@@ -9,6 +9,8 @@
 #include <string_view>
 
 #include "bench/core/size_list.h"
+#include "lanes/processor.h"
+#include "names/flavour.h"
 
 namespace haldgen::bench {
 namespace {
@@ -25,6 +27,7 @@ enum Code : int {
   code_counts,
   code_library,
   code_also,
+  code_flavours,
   code_plans,
   code_help,
 };
@@ -41,6 +44,7 @@ constexpr option long_options[] = {
     {"counts", required_argument, nullptr, code_counts},
     {"kernel-library", required_argument, nullptr, code_library},
     {"also", required_argument, nullptr, code_also},
+    {"flavours", no_argument, nullptr, code_flavours},
     {"show-plans", no_argument, nullptr, code_plans},
     {"help", no_argument, nullptr, code_help},
     {nullptr, 0, nullptr, 0},
@@ -119,6 +123,9 @@ void apply(Options& options, int code, const std::string& value) {
     case code_also:
       options.variants.push_back(parse_variant(value, options.variants.size()));
       break;
+    case code_flavours:
+      options.flavours = true;
+      break;
     case code_plans:
       options.show_plans = true;
       break;
@@ -127,6 +134,17 @@ void apply(Options& options, int code, const std::string& value) {
       break;
     default:
       throw std::invalid_argument("unknown or incomplete option; see --help");
+  }
+}
+
+/// Where the loader would look for them.
+void add_flavours(Options& options) {
+  for (const names::Flavour& flavour : names::flavours) {
+    const auto path = options.library.parent_path() / "glibc-hwcaps" /
+                      (std::string("x86-64-") + flavour.tag) / "libhaldgenp8.so.8";
+    if (std::filesystem::exists(path) && lanes::processor_has(flavour.vector_bits)) {
+      options.variants.push_back({flavour.tag, path});
+    }
   }
 }
 
@@ -165,6 +183,7 @@ Options parse_options(int argc, char** argv, const std::filesystem::path& defaul
     throw std::invalid_argument(std::string("unexpected argument '") +
                                 own[static_cast<std::size_t>(optind)] + "'; see --help");
   }
+  if (options.flavours) add_flavours(options);
   require_distinct_labels(options.variants);
   return options;
 }
@@ -184,6 +203,7 @@ interleaved.
   --counts FILE           operation counts (TSV); without them there is no bound
   --kernel-library PATH   the libhaldgenp8.so to measure (default: of this build)
   --also [LABEL=]PATH     another libhaldgenp8.so beside it; may be repeated
+  --flavours              the same with the flavours below its folder that the processor can run
   --show-plans            prints the plans that FFTW chooses and stops
   --benchmark_*           options of Google Benchmark, such as --benchmark_list_tests
                           and --benchmark_out=FILE (JSON)

@@ -29,6 +29,7 @@ struct Options {
   std::filesystem::path counts;   ///< operation counts; empty for none
   std::filesystem::path library;  ///< the build under test
   std::vector<Variant> variants;
+  bool flavours = false;  ///< those of the library are further variants
   bool show_plans = false;
   bool help = false;
   std::vector<std::string> front_end;  ///< arguments for Google Benchmark

@@ -62,7 +62,7 @@ endfunction()
 #   haldgen_generated_sources(VARIABLE FAMILY KERNELS kernel... TYPES type... [COMMAND batch]
 #                             [FLAVOUR flavour])
 # Families in haldgen_flavoured have sources of their own in each flavour; others have the same.
-set(haldgen_flavoured complex)
+set(haldgen_flavoured complex dct4)
 set(HALDGEN_TUNING "" CACHE STRING
     "Tuning of all kernels, such as critical:16:0, to measure with; empty for the table")
 add_custom_target(haldgen_generated)

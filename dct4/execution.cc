@@ -52,15 +52,19 @@ void inner_fold_pass(const InnerFoldNode& node, Float* destination,
                      const Sequences<Float>& source) {
   Float* const lines =
       at_line(destination + node.subLength / 2 * inner_pitch<Float>(node.innerRadix));
+  // Each record is made where it is read: copies of what has just been stored wait for it.
+  const auto column = [&](int a) {
+    return Spectrum<Float>{destination + 2 * a * kLine<Float>, inner_pitch<Float>(node.innerRadix),
+                           kLine<Float>};
+  };
   for (int a = 0; a < node.innerRadix; ++a) {
-    const Spectrum<Float> column{destination + 2 * a * kLine<Float>,
-                                 inner_pitch<Float>(node.innerRadix), kLine<Float>};
-    const Sequences<Float> part = source.every(node.innerRadix, a);
     if (node.foldClass == kPlannedFoldClass) {
-      inner_run(first_item<InnerPlan>(node.stageList.get()), column, part);
+      inner_run(first_item<InnerPlan>(node.stageList.get()), column(a),
+                source.every(node.innerRadix, a));
     } else {
+      const auto part = [&] { return source.every(node.innerRadix, a); };
       KernelTable<Float>::kFold[node.foldClass - 1](
-          {gathered(part, node.subLength, lines), column, kLineGroups});
+          {kGathers ? gathered(part(), node.subLength, lines) : part(), column(a), kLineGroups});
     }
   }
 }
@@ -144,19 +148,19 @@ template <class Float>
 int32_t fold_pass(const FoldNode& node, Float* destination, const Float* source) {
   if (node.foldClass < 1 || node.foldClass > kPlannedFoldClass) return haldStatusBadArgument;
   const std::ptrdiff_t row = node.rowLength;
-  Sequences<Float> from{source, source + row - kLanes<Float>, row};
-  Spectrum<Float> to{destination, row, node.radix};
+  FoldRun<Float> run{
+      {source, source + row - kLanes<Float>, row}, {destination, row, node.radix}, node.laneGroups};
   if (node.foldClass != kPlannedFoldClass) {
-    KernelTable<Float>::kFold[node.foldClass - 1]({from, to, node.laneGroups});
+    KernelTable<Float>::kFold[node.foldClass - 1](run);
     return haldStatusOk;
   }
   // Plans with an inner one have a radix of 32, a multiple of a line.
   const auto& plan = first_item<InnerPlan>(node.stageList.get());
   for (int32_t i = 0; i < node.laneGroups; i += kLineGroups) {
-    inner_run(plan, to, from);
-    from.ahead += kLine<Float>;
-    from.behind -= kLine<Float>;
-    to.first += kLine<Float>;
+    inner_run(plan, run.to, run.from);
+    run.from.ahead += kLine<Float>;
+    run.from.behind -= kLine<Float>;
+    run.to.first += kLine<Float>;
   }
   return haldStatusOk;
 }

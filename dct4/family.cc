@@ -64,11 +64,14 @@ Pass pass_of(Part part) {
   throw std::logic_error("no pass");
 }
 
+/// Flavours run the same programs in each block of wider vectors, where there are groups enough.
 family::Source source(int index, FloatType type, const family::Tuning& tuning) {
+  const bool flavoured = tuning.vector_bits() > 128;
   const Kernel& kernel = kernel_of(index, type);
   const std::string element(names::suffix(family::real_element(type)));
   const family::Choice choice = tuning.of("haldgDCT4_" + element + "/" + name(kernel));
-  const kernelgen::Program program = kernel_program(kernel, choice.ordering);
+  kernelgen::Program program = kernel_program(kernel, choice.ordering);
+  program.blockwise = flavoured && kernel.part != Part::fixed;
   const std::string float_name = kernelgen::type_name(type);
   const family::Work counts = work(index, type);
 
@@ -92,13 +95,15 @@ family::Source source(int index, FloatType type, const family::Tuning& tuning) {
     return source;
   }
   const Pass pass = pass_of(kernel.part);
-  source.kernels = {{"Body", remark,
-                     "  using Float = " + float_name +
-                         ";\n  using V = " + kernelgen::vector_name(program) +
-                         ";\n  static constexpr int kSize = " + std::to_string(kernel.size) +
-                         ";\n" + emit_constants(constants, "  static "),
-                     "template <class Io>\n  static inline void run(const Io& io)",
-                     emit_body(program, {}, constants)}};
+  source.kernels = {
+      {"Body", remark,
+       "  using Float = " + float_name + ";\n" +
+           (flavoured ? "" : "  using V = " + kernelgen::vector_name(program) + ";\n") +
+           "  static constexpr int kSize = " + std::to_string(kernel.size) + ";\n" +
+           emit_constants(constants, "  static "),
+       std::string("template <class ") + (flavoured ? "V, class Io" : "Io") +
+           ">\n  static inline void run(const Io& io)",
+       emit_body(program, {}, constants)}};
   source.functions = {"void " + name(kernel) + "(const " + pass.run + "<" + float_name +
                       ">& run) {\n  " + pass.function + "<Body>(run);\n}\n"};
   return source;

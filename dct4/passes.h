@@ -6,15 +6,53 @@
 // factorisation.h. What lies in a state is aligned, the caller's arrays need not be.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <type_traits>
 
 #include "dct4/kernel_list.h"
 #include "lanes/scalar.h"
 #include "lanes/vectors.h"
+#include "lanes/wide_lanes.h"
+#include "lanes/width.h"
 
 namespace haldgen::dct4 {
 
 using lanes::kLanes;
+
+/// Vectors of 16 bytes, each of a lane group, that a flavour runs at once as the blocks of one
+/// wider vector, if that many neighbours are there. Plans count in groups, whatever the flavour.
+inline constexpr int kMostGroups = lanes::kVectorBytes / 16;
+constexpr int groups_at_once(int groups) {
+  int count = kMostGroups;
+  while (groups % count != 0) count /= 2;
+  return count;
+}
+
+/// What a body computes on to run so many groups.
+template <class Float, int kGroups>
+using GroupLanes = std::conditional_t<kMostGroups == 1, lanes::Lanes<Float, kLanes<Float>>,
+                                      lanes::WideLanes<Float, kGroups * kLanes<Float>>>;
+
+/// A vector of each of these groups, which lie `distance` apart.
+template <class Lanes>
+inline typename Lanes::Value load_groups(const typename Lanes::Float* first,
+                                         std::ptrdiff_t distance) {
+  if constexpr (Lanes::kLanes == kLanes<typename Lanes::Float>) {
+    return Lanes::template load<lanes::Aligned>(first);
+  } else {
+    return lanes::load_blocks<typename Lanes::Value>([&](int j) { return first + j * distance; });
+  }
+}
+
+template <class Body, class Lanes, class Io>
+inline void run_body(const Io& io) {
+  if constexpr (kMostGroups == 1) {
+    Body::run(io);
+  } else {
+    Body::template run<typename Lanes::Value>(io);
+  }
+}
 
 /// Lane groups that inner plans work on together, and their elements: a cache line, which is then
 /// moved once and as a whole.
@@ -95,32 +133,48 @@ constexpr std::ptrdiff_t known_or(std::ptrdiff_t at_run_time) {
   return Known == 0 ? at_run_time : Known;
 }
 
-/// Steps that are known when a kernel is compiled; 0 where they are not.
+/// Steps that are known when a kernel is compiled, 0 where they are not, and groups that there are
+/// a multiple of.
 template <std::ptrdiff_t StepOfSequence, std::ptrdiff_t BlockOfSpectrum,
-          std::ptrdiff_t ImaginaryOfSpectrum>
+          std::ptrdiff_t ImaginaryOfSpectrum, int Groups = 1>
 struct FoldShape {
   static constexpr std::ptrdiff_t kStep = StepOfSequence;
   static constexpr std::ptrdiff_t kBlock = BlockOfSpectrum;
   static constexpr std::ptrdiff_t kImaginary = ImaginaryOfSpectrum;
+  static constexpr int kGroups = groups_at_once(Groups);
 
   template <class Float>
   static bool fits(const FoldRun<Float>& run) {
-    return run.from.step == kStep && run.to.block == kBlock && run.to.imaginary == kImaginary;
+    return (kStep == 0 || run.from.step == kStep) && run.to.block == kBlock &&
+           run.to.imaginary == kImaginary && run.groups % kGroups == 0;
   }
 };
 
-/// The first pass of a plan of this radix.
-template <int Radix>
-using FirstPass = FoldShape<std::ptrdiff_t{2} * Radix, std::ptrdiff_t{2} * Radix, Radix>;
+/// The first pass of a plan of this radix, for folds of length m. Beyond two, it runs no more
+/// groups at once than the second pass, of m/2 blocks, does behind it: parts of such stores come
+/// late.
+template <class Float, int Radix, int M>
+using FirstPass = FoldShape<std::ptrdiff_t{2} * Radix, std::ptrdiff_t{2} * Radix, Radix,
+                            std::max(M / 2 / kLanes<Float>, 2)>;
 
-/// A fold of an inner plan of this radix, from lines that follow one another.
+/// Whether inner plans bring their sequences together before they are folded. Four visits to a
+/// line pay for that; wider vectors come once or twice.
+inline constexpr bool kGathers = kMostGroups == 1;
+
+/// A fold of an inner plan of this radix, of lines that follow one another if they are gathered.
 template <class Float, int Radix>
-using InnerPass = FoldShape<kLine<Float>, inner_pitch<Float>(Radix), kLine<Float>>;
+using InnerPass =
+    FoldShape<(kGathers ? kLine<Float> : 0), inner_pitch<Float>(Radix), kLine<Float>, kLineGroups>;
+
+/// From the first group behind to the last of those that are run at once.
+template <class Float, int kGroups>
+inline constexpr std::ptrdiff_t kLastBehind = std::ptrdiff_t{kGroups - 1} * kLanes<Float>;
 
 template <class Body, class Shape>
 struct FoldIo {
   using Float = typename Body::Float;
-  using V = typename Body::V;
+  using Lanes = GroupLanes<Float, Shape::kGroups>;
+  using V = typename Lanes::Value;
   const Sequences<Float>& from;
   const Spectrum<Float>& to;
 
@@ -129,28 +183,32 @@ struct FoldIo {
     constexpr int kHalf = Body::kSize / 2;
     const std::ptrdiff_t step = known_or<Shape::kStep>(from.step);
     if constexpr (K < kHalf) {
-      return lanes::Anywhere::load(from.ahead + K * step);
+      return Lanes::template load<lanes::Anywhere>(from.ahead + K * step);
     } else {
-      return lanes::reversed(lanes::Anywhere::load(from.behind + (K - kHalf) * step));
+      const Float* const first = from.behind - kLastBehind<Float, Shape::kGroups>;
+      return lanes::reversed(Lanes::template load<lanes::Anywhere>(first + (K - kHalf) * step));
     }
   }
   template <int K>
   void store(V value) const {
     const std::ptrdiff_t block = known_or<Shape::kBlock>(to.block);
     const std::ptrdiff_t imaginary = known_or<Shape::kImaginary>(to.imaginary);
-    lanes::Aligned::store(to.first + K / 2 * block + K % 2 * imaginary, value);
+    Lanes::template store<lanes::Aligned>(to.first + K / 2 * block + K % 2 * imaginary, value);
   }
 };
 
 template <class Body, class Shape>
 inline void run_folds(const FoldRun<typename Body::Float>& run) {
-  auto from = run.from;
-  auto to = run.to;
-  for (int i = 0; i < run.groups; ++i) {
-    Body::run(FoldIo<Body, Shape>{from, to});
-    from.ahead += kLanes<typename Body::Float>;
-    from.behind -= kLanes<typename Body::Float>;
-    to.first += kLanes<typename Body::Float>;
+  using Io = FoldIo<Body, Shape>;
+  constexpr int kWidth = Io::Lanes::kLanes;
+  // Member by member: what copies two at once waits for the stores of the caller.
+  Sequences<typename Body::Float> from{run.from.ahead, run.from.behind, run.from.step};
+  Spectrum<typename Body::Float> to{run.to.first, run.to.block, run.to.imaginary};
+  for (int i = 0; i < run.groups; i += Shape::kGroups) {
+    run_body<Body, typename Io::Lanes>(Io{from, to});
+    from.ahead += kWidth;
+    from.behind -= kWidth;
+    to.first += kWidth;
   }
 }
 
@@ -166,53 +224,61 @@ inline void run_fold(const FoldRun<typename Body::Float>& run) {
   using Float = typename Body::Float;
   constexpr int kSize = Body::kSize;
   if constexpr (kSize == 64) {
-    if (run_known_folds<Body, FirstPass<32>, InnerPass<Float, 32>>(run)) return;
+    if (run_known_folds<Body, FirstPass<Float, 32, 64>, InnerPass<Float, 32>>(run)) return;
   } else if constexpr (kSize >= 16) {
-    if (run_known_folds<Body, FirstPass<kSize>, FirstPass<kSize / 2>, InnerPass<Float, kSize>,
-                        InnerPass<Float, kSize / 2>>(run)) {
+    if (run_known_folds<Body, FirstPass<Float, kSize, kSize>, FirstPass<Float, kSize / 2, kSize>,
+                        InnerPass<Float, kSize>, InnerPass<Float, kSize / 2>>(run)) {
       return;
     }
   } else if constexpr (kSize == 8) {
-    if (run_known_folds<Body, FirstPass<8>>(run)) return;
+    if (run_known_folds<Body, FirstPass<Float, 8, 8>>(run)) return;
   }
   run_folds<Body, FoldShape<0, 0, 0>>(run);
 }
 
 /// Length is the m of the plan, or 0.
-template <class Body, int Length>
+template <class Body, int Length, int kGroups>
 struct RecombineIo {
   using Float = typename Body::Float;
-  using V = typename Body::V;
+  using Lanes = GroupLanes<Float, kGroups>;
+  using V = typename Lanes::Value;
   static constexpr int kWidth = kLanes<Float>;
+  static constexpr int kGroup = 2 * Body::kSize * kWidth;  ///< elements of a group's blocks
   const RecombineRun<Float>& run;
 
   template <int K>
   V load() const {
     constexpr int kRow = 2 * Body::kSize;
     if constexpr (K >= kRow) {
-      return lanes::Aligned::load(run.table + (K - kRow) * kWidth);
+      return Lanes::template load<lanes::Aligned>(run.table + (K - kRow) * Lanes::kLanes);
     } else if constexpr (kRow < kWidth) {
-      return lanes::Aligned::load(run.blocks + K * kWidth);
+      return load_groups<Lanes>(run.blocks + K * kWidth, kGroup);
     } else {
-      return lanes::Aligned::load(run.blocks + K % kWidth * kRow + K / kWidth * kWidth);
+      return load_groups<Lanes>(run.blocks + K % kWidth * kRow + K / kWidth * kWidth, kGroup);
     }
   }
   template <int K>
   void store(V value) const {
     const std::ptrdiff_t length = known_or<Length>(run.length);
     if constexpr (K < Body::kSize) {
-      lanes::Anywhere::store(run.ascending + K * length, value);
+      Lanes::template store<lanes::Anywhere>(run.ascending + K * length, value);
     } else {
-      lanes::Anywhere::store(run.descending + (K - Body::kSize) * length, lanes::reversed(value));
+      Float* const first = run.descending - kLastBehind<Float, kGroups>;
+      Lanes::template store<lanes::Anywhere>(first + (K - Body::kSize) * length,
+                                             lanes::reversed(value));
     }
   }
 };
 
-template <class Body, int Length>
-inline void run_recombinations(RecombineRun<typename Body::Float> run) {
-  constexpr int kWidth = kLanes<typename Body::Float>;
-  for (int g = 0; g < run.groups; ++g) {
-    Body::run(RecombineIo<Body, Length>{run});
+template <class Body, int Length, int kGroups>
+inline void run_recombinations(const RecombineRun<typename Body::Float>& all) {
+  using Io = RecombineIo<Body, Length, kGroups>;
+  // Member by member: what copies two at once waits for the stores of the caller.
+  RecombineRun<typename Body::Float> run{all.blocks,     all.table,  all.ascending,
+                                         all.descending, all.length, all.groups};
+  constexpr int kWidth = Io::Lanes::kLanes;
+  for (int g = 0; g < run.groups; g += kGroups) {
+    run_body<Body, typename Io::Lanes>(Io{run});
     run.blocks += 2 * Body::kSize * kWidth;
     run.table += 2 * Body::kSize * kWidth;
     run.ascending += kWidth;
@@ -220,12 +286,26 @@ inline void run_recombinations(RecombineRun<typename Body::Float> run) {
   }
 }
 
+/// The table is laid out for as many groups at once.
+template <class Body, int kGroups = kMostGroups>
+inline void run_any_recombinations(const RecombineRun<typename Body::Float>& run) {
+  if constexpr (kGroups > 1) {
+    if (run.groups % kGroups != 0) return run_any_recombinations<Body, kGroups / 2>(run);
+  }
+  run_recombinations<Body, 0, kGroups>(run);
+}
+
 template <class Body>
 inline void run_recombine(const RecombineRun<typename Body::Float>& run) {
   constexpr int kSame = Body::kSize >= 8 ? Body::kSize : 0;
-  if (kSame != 0 && run.length == kSame) return run_recombinations<Body, kSame>(run);
-  if (kSame != 0 && run.length == 2 * kSame) return run_recombinations<Body, 2 * kSame>(run);
-  run_recombinations<Body, 0>(run);
+  // A plan of length m has m/2 blocks.
+  constexpr int kFew = groups_at_once(kSame / 2 / kLanes<typename Body::Float>);
+  constexpr int kMany = groups_at_once(kSame / kLanes<typename Body::Float>);
+  if (kSame != 0 && run.length == kSame && run.groups % kFew == 0)
+    return run_recombinations<Body, kSame, kFew>(run);
+  if (kSame != 0 && run.length == 2 * kSame && run.groups % kMany == 0)
+    return run_recombinations<Body, 2 * kSame, kMany>(run);
+  run_any_recombinations<Body>(run);
 }
 
 /// Where the outputs of a row lie: those of the first half of p from `ascending` on, those of the
@@ -241,7 +321,8 @@ struct RowOutputs {
 template <class Body, class Outputs>
 struct InnerRecombineIo {
   using Float = typename Body::Float;
-  using V = typename Body::V;
+  using Lanes = GroupLanes<Float, groups_at_once(kLineGroups)>;
+  using V = typename Lanes::Value;
   const Float* row;
   const Float* table;
   Outputs outputs;
@@ -249,8 +330,11 @@ struct InnerRecombineIo {
   template <int K>
   V load() const {
     constexpr int kRow = 2 * Body::kSize;
-    return lanes::Aligned::load(K < kRow ? row + K * kLine<Float>
-                                         : table + (K - kRow) * kLanes<Float>);
+    if constexpr (K < kRow) {
+      return Lanes::template load<lanes::Aligned>(row + K * kLine<Float>);
+    } else {
+      return load_groups<Lanes>(table + (K - kRow) * kLanes<Float>, 0);
+    }
   }
   template <int K>
   void store(V value) const {
@@ -258,17 +342,18 @@ struct InnerRecombineIo {
     Float* const place = kOutput < Body::kSize / 2
                              ? outputs.ascending + kOutput * outputs.part
                              : outputs.descending + (Body::kSize - 1 - kOutput) * outputs.part;
-    lanes::Aligned::store(place + K % 2 * outputs.imaginary, value);
+    Lanes::template store<lanes::Aligned>(place + K % 2 * outputs.imaginary, value);
   }
 };
 
 template <class Body, class Outputs>
 inline void run_inner_row(InnerRecombineIo<Body, Outputs> io) {
-  for (int i = 0; i < kLineGroups; ++i) {
-    Body::run(io);
-    io.row += kLanes<typename Body::Float>;
-    io.outputs.ascending += kLanes<typename Body::Float>;
-    io.outputs.descending += kLanes<typename Body::Float>;
+  using Lanes = typename InnerRecombineIo<Body, Outputs>::Lanes;
+  for (int i = 0; i < kLine<typename Body::Float>; i += Lanes::kLanes) {
+    run_body<Body, Lanes>(io);
+    io.row += Lanes::kLanes;
+    io.outputs.ascending += Lanes::kLanes;
+    io.outputs.descending += Lanes::kLanes;
   }
 }
 

@@ -42,17 +42,19 @@ Float inner_rotation_element(const InnerRotationFormula& formula, int32_t row) {
 template <class Float>
 void fill_rotation_table(const RecombineNode& node) {
   const RotationView& view = *node.view.get();
+  const int32_t at_once = groups_at_once(view.groupCount);
+  const int32_t width = at_once * kLanes<Float>;
   auto* entry = reinterpret_cast<Float*>(node.table.get());
-  for (int32_t group = 0; group < view.groupCount; ++group) {
+  for (int32_t group = 0; group < view.groupCount; group += at_once) {
     for (int32_t position = 0; position < node.radix; ++position) {
       const int32_t j = walk_index(node.radix, position);
-      for (int32_t lane = 0; lane < kLanes<Float>; ++lane) {
+      for (int32_t lane = 0; lane < width; ++lane) {
         const auto value = rotation<Float>(*view.formula.get(), kLanes<Float> * group + lane, j);
         // The node has a table. NOLINTNEXTLINE(clang-analyzer-core.NullDereference)
         entry[lane] = value.cosine;
-        entry[kLanes<Float> + lane] = value.sine;
+        entry[width + lane] = value.sine;
       }
-      entry += 2 * kLanes<Float>;
+      entry += 2 * width;
     }
   }
 }

@@ -32,14 +32,16 @@ class Tuning {
   /// Those of the table.
   Tuning() = default;
   /// Those of a flavour: orders and pairs of its own, and of all else what the baseline has, since
-  /// its bits are the same. Families with such rows are told to the build by haldgen_flavoured in
-  /// cmake/HaldgenFamily.cmake.
+  /// its bits are the same. Families with sources of their own there are told to the build by
+  /// haldgen_flavoured in cmake/HaldgenFamily.cmake.
   explicit Tuning(const names::Flavour& flavour) : vector_bits_(flavour.vector_bits) {}
   /// The same choice everywhere, to measure with.
   explicit Tuning(const Choice& everywhere) : everywhere_(everywhere) {}
 
   /// By the exported name of the kernel, or of the first of those that share it.
   Choice of(std::string_view exported_name) const;
+  /// Of the widest vectors of the flavour.
+  int vector_bits() const { return vector_bits_; }
 
  private:
   std::optional<Choice> everywhere_;

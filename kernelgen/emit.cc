@@ -55,7 +55,9 @@ class Printer {
                        [](const Instruction& in) { return in.op == Op::scale; });
   }
   bool paired() const { return program_.memory == Memory::paired; }
-  bool blocks() const { return program_.memory == Memory::blocks || paired(); }
+  bool blocks() const {
+    return program_.memory == Memory::blocks || paired() || program_.blockwise;
+  }
   /// What the code calls the type of an instruction's result: W is twice as wide as V.
   std::string vector_of(const Instruction& in) const {
     return lanes_of(program_, in) > program_.lanes ? "W" : "V";
@@ -369,6 +371,12 @@ class Printer {
       case Op::alternate:
         define(index, "lanes::alternate_in_blocks(" + a + ", " + name(in.b) + ")");
         return true;
+      case Op::interleave_lower:
+        define(index, "lanes::in_turns_of_blocks<0>(" + a + ", " + name(in.b) + ")");
+        return true;
+      case Op::interleave_upper:
+        define(index, "lanes::in_turns_of_blocks<1>(" + a + ", " + name(in.b) + ")");
+        return true;
       case Op::sign:
         define(index, "lanes::change_sign_of_blocks(" + a + ", " + constants(in) + ")");
         return true;
@@ -397,11 +405,11 @@ class Printer {
     if ((program_.memory == Memory::elements || bins) && in.op == Op::store) return store_part(in);
     if (program_.lanewise && print_lanewise(index)) return;
     if (paired() && print_paired(index)) return;
-    if (blocks() && print_in_blocks(index)) return;
     if (program_.memory == Memory::slots || bins) {
       if (in.op == Op::load) return define(index, "io.template load" + slot(in) + "()");
       if (in.op == Op::store) return line("io.template store" + slot(in) + "(" + a + ");");
     }
+    if (blocks() && print_in_blocks(index)) return;
     switch (in.op) {
       case Op::load:
         return define(index, scalar() ? scalar_word("load") + "(" +

@@ -20,7 +20,7 @@ enum class Language { cpp, c };
 /// Statements of a function body over `src`, `dst` (pointers to floats) and `scale`, one per
 /// instruction; programs over slots call `io` instead. Vector programs speak the vocabulary of
 /// lanes/vectors.h and touch memory through a type `Access`; scalar programs are plain expressions,
-/// on vectors of type V and the vocabulary of lanes/wide.h if they are lanewise.
+/// on vectors of type V and the vocabulary of lanes/wide.h if they are lanewise, or blockwise.
 ///
 /// Scalar programs may reach source or destination through a function of the address, such as
 /// `Format::at`: the name of that function, or nothing.

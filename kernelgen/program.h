@@ -80,6 +80,9 @@ struct Program {
   /// Of scalar programs: in each lane of vectors, whose type V the code is a template over, runs
   /// the program of another transform.
   bool lanewise = false;
+  /// Of vector programs: in each block of 128 bits of wider vectors, whose type V the code is a
+  /// template over, runs the program of others; programs in Memory::blocks are such by themselves.
+  bool blockwise = false;
   /// The values of which the magnitudes of its constants are roundings.
   std::map<double, Wide> exact = {};
 };

@@ -41,15 +41,23 @@ HALDGEN_INLINE WideVector<double, 32> alternate_x86(WideVector<double, 32> a,
 #ifdef __AVX512F__
 /// Instructions of 512 bits are told how to round: as the processor is set.
 inline constexpr int kCurrentRounding = 4;
+/// Masks as the compiler's built-in functions take them.
+#ifdef __clang__
+using Mask16 = unsigned short;
+using Mask8 = unsigned char;
+#else
+using Mask16 = short;
+using Mask8 = char;
+#endif
 // Of 512 bits there is one that multiplies before: by one, which is exact.
 HALDGEN_INLINE WideVector<float, 64> alternate_x86(WideVector<float, 64> a,
                                                    WideVector<float, 64> b) {
-  return __builtin_ia32_vfmaddsubps512_mask(a, splat<WideVector<float, 64>>(1), b, -1,
+  return __builtin_ia32_vfmaddsubps512_mask(a, splat<WideVector<float, 64>>(1), b, Mask16(-1),
                                             kCurrentRounding);
 }
 HALDGEN_INLINE WideVector<double, 64> alternate_x86(WideVector<double, 64> a,
                                                     WideVector<double, 64> b) {
-  return __builtin_ia32_vfmaddsubpd512_mask(a, splat<WideVector<double, 64>>(1), b, -1,
+  return __builtin_ia32_vfmaddsubpd512_mask(a, splat<WideVector<double, 64>>(1), b, Mask8(-1),
                                             kCurrentRounding);
 }
 #endif
@@ -75,6 +83,29 @@ HALDGEN_INLINE WideVector<double, 32> add_product_x86(WideVector<double, 32> a,
                                                       WideVector<double, 32> b,
                                                       WideVector<double, 32> c) {
   return __builtin_ia32_vfmaddpd256(b, c, a);
+}
+#endif
+
+#ifdef __FMA__
+// The other way round: sums in even lanes, differences in odd ones. There are only instructions
+// that multiply before: by one, which is exact.
+HALDGEN_INLINE WideVector<float, 32> sums_and_differences_x86(WideVector<float, 32> a,
+                                                              WideVector<float, 32> b) {
+  return __builtin_ia32_vfmaddsubps256(a, splat<WideVector<float, 32>>(1), -b);
+}
+HALDGEN_INLINE WideVector<double, 32> sums_and_differences_x86(WideVector<double, 32> a,
+                                                               WideVector<double, 32> b) {
+  return __builtin_ia32_vfmaddsubpd256(a, splat<WideVector<double, 32>>(1), -b);
+}
+#endif
+#ifdef __AVX512F__
+HALDGEN_INLINE WideVector<float, 64> sums_and_differences_x86(WideVector<float, 64> a,
+                                                              WideVector<float, 64> b) {
+  return alternate_x86(a, -b);
+}
+HALDGEN_INLINE WideVector<double, 64> sums_and_differences_x86(WideVector<double, 64> a,
+                                                               WideVector<double, 64> b) {
+  return alternate_x86(a, -b);
 }
 #endif
 

@@ -3,12 +3,16 @@
 
 #include <cstdint>
 #include <numbers>
+#include <type_traits>
 
 #include "haldcore.h"
 #include "haldgen.h"
 #include "lanes/vectors.h"
+#include "lanes/wide_lanes.h"
+#include "lanes/width.h"
 #include "wht/blocking.h"
 #include "wht/network.h"
+#include "wht/wide_network.h"
 
 namespace haldgen::wht {
 
@@ -19,11 +23,22 @@ struct Kernel {
   static_assert(kBlocking.order() == kOrder);
   static constexpr std::int32_t kBufferBytes = wht::kBufferBytes<Float>[kOrder - 1];
 
-  /// Vectors from four of them on; smaller transforms are scalar.
-  static constexpr bool kVectors = kBlocking.points() >= 4 * lanes::kLanes<Float>;
-  using Lanes = lanes::Lanes<Float, kVectors ? lanes::kLanes<Float> : 1>;
+  /// Bytes of a vector: of 16 from four of them on, of more, in flavours, from two on. Smaller
+  /// transforms are scalar.
+  static constexpr int kBytes = [] {
+    constexpr int kAll = kBlocking.points() * sizeof(Float);
+    for (int bytes = lanes::kVectorBytes; bytes > 16; bytes /= 2) {
+      if (kAll >= 2 * bytes) return bytes;
+    }
+    return kAll >= 4 * 16 ? 16 : static_cast<int>(sizeof(Float));
+  }();
+  using Lanes = lanes::LanesOfBytes<Float, kBytes>;
   using Value = typename Lanes::Value;
+  static constexpr bool kWide = kBytes > 16;
+  using Chunk = std::conditional_t<kWide, WideContiguous, Contiguous>;
 
+  /// Only vectors of 16 bytes are moved in another way where they are aligned.
+  static constexpr bool kPathsDiffer = kBytes == 16;
   /// The paths of a kernel whose chunk is one group of vectors are short and stand together.
   static constexpr bool kPathsApart = kBlocking.chunk() / Lanes::kLanes > kGroup;
 
@@ -39,6 +54,7 @@ struct Phases {
   using Float = typename Kernel::Float;
   using Lanes = typename Kernel::Lanes;
   using Value = typename Kernel::Value;
+  using Chunk = typename Kernel::Chunk;
   static constexpr Blocking kBlocking = Kernel::kBlocking;
   static constexpr std::size_t kLanes = Lanes::kLanes;
 
@@ -53,14 +69,14 @@ struct Phases {
   using Keep = Sink<Lanes, lanes::Aligned, kStride>;
 
   HALDGEN_INLINE static void in_registers(const Float* src, Float* dst, Value scale) {
-    step<Contiguous, Lanes, kBlocking.chunk() / kLanes>(From<kLanes>{src}, To<kLanes>{dst, scale});
+    step<Chunk, Lanes, kBlocking.chunk() / kLanes>(From<kLanes>{src}, To<kLanes>{dst, scale});
   }
 
   /// The chunks of one block, to `rows`.
   HALDGEN_INLINE static void chunks(const Float* src, Float* rows) {
     for (std::size_t at = 0; at < kBlocking.block(); at += kBlocking.chunk()) {
-      step<Contiguous, Lanes, kBlocking.chunk() / kLanes>(From<kLanes>{src + at},
-                                                          Keep<kLanes>{rows + at});
+      step<Chunk, Lanes, kBlocking.chunk() / kLanes>(From<kLanes>{src + at},
+                                                     Keep<kLanes>{rows + at});
     }
   }
 
@@ -81,17 +97,18 @@ struct Phases {
   }
 
   HALDGEN_INLINE static void in_buffer(const Float* src, Float* dst, Value scale, Float* buffer) {
-    Float* const main = buffer;
     if constexpr (kBlocking.has_tile()) {
-      Float* const tile = main + kBlocking.points();
+      // In wide vectors blocks rest in dst, which is one array less to go through the caches.
+      Float* const main = Kernel::kWide ? dst : buffer;
+      Float* const tile = Kernel::kWide ? buffer : main + kBlocking.points();
       for (std::size_t at = 0; at < kBlocking.points(); at += kBlocking.block()) {
         chunks(src + at, tile);
         columns_of_block(tile, main + at);
       }
       last_columns<kBlocking.blocks(), kBlocking.block()>(main, dst, scale);
     } else {
-      chunks(src, main);
-      last_columns<kBlocking.rows(), kBlocking.chunk()>(main, dst, scale);
+      chunks(src, buffer);
+      last_columns<kBlocking.rows(), kBlocking.chunk()>(buffer, dst, scale);
     }
   }
 };
@@ -147,7 +164,7 @@ template <class Float, int kOrder>
 HALDGEN_INLINE std::int32_t run(const Float* src, Float* dst, std::int32_t flag,
                                 std::uint8_t* buffer) {
   using K = Kernel<Float, kOrder>;
-  if constexpr (K::kVectors) {
+  if constexpr (K::kPathsDiffer) {
     const auto bits = reinterpret_cast<std::uintptr_t>(src) | reinterpret_cast<std::uintptr_t>(dst);
     if (bits % sizeof(typename K::Value) != 0) [[unlikely]] {
       if constexpr (K::kPathsApart) return unaligned<K>(src, dst, flag, buffer);

@@ -58,8 +58,16 @@ HALDGEN_INLINE void level_inside_pairs(Value* x, std::index_sequence<kPair...>) 
 /// As many values as sixteen registers hold together with what they need besides.
 inline constexpr std::size_t kGroup = 8;
 
+/// Values of a group as they come.
+struct InOrder {
+  template <class Lanes, std::size_t kFirst, std::size_t kCount, class From>
+  HALDGEN_INLINE static auto fetch(const From& from, std::size_t k) {
+    return from.get(kFirst + k);
+  }
+};
+
 /// What a step does to up to kGroup values of consecutive elements.
-struct Contiguous {
+struct Contiguous : InOrder {
   /// All levels of these elements. Those of the bits inside the vectors run between two
   /// transpositions, when lanes have changed places with vectors.
   template <class Lanes, std::size_t kCount, class Value>
@@ -90,7 +98,7 @@ struct Contiguous {
 };
 
 /// The same for values that are rows of a column: each lane is a transform of its own.
-struct Column {
+struct Column : InOrder {
   template <class Lanes, std::size_t kCount, class Value>
   HALDGEN_INLINE static void run(Value* x) {
     levels<kCount>(x);
@@ -128,7 +136,7 @@ struct ScaledSink {
 template <class Kind, class Lanes, std::size_t kFirst, class From, std::size_t... k>
 HALDGEN_INLINE void run_group(typename Lanes::Value* x, const From& from,
                               std::index_sequence<k...>) {
-  ((x[kFirst + k] = from.get(kFirst + k)), ...);
+  ((x[kFirst + k] = Kind::template fetch<Lanes, kFirst, sizeof...(k)>(from, k)), ...);
   Kind::template run<Lanes, sizeof...(k)>(x + kFirst);
 }
 

@@ -95,7 +95,7 @@ int Mnemonics::fused_that_round() const {
     for (const std::string_view start :
          {"vfm", "vfnm", "fma", "fms", "fnma", "fnms", "fml", "fcml"}) {
       if (mnemonic.starts_with(start) && !mnemonic.starts_with("fmax") &&
-          !mnemonic.starts_with("vfmaddsub")) {
+          !mnemonic.starts_with("vfmaddsub") && !mnemonic.starts_with("vfmsubadd")) {
         total += count;
         break;
       }

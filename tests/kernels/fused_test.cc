@@ -62,8 +62,8 @@ TEST(Rounding, FusedInstructionsAreKnown) {
     mnemonics.add(name, "");
   }
   EXPECT_EQ(mnemonics.fused_that_round(), 11);
-  for (const char* const name :
-       {"fmul", "fmov", "fnmul", "fmax", "fmaxnm", "vmulpd", "mulsd", "vfmaddsub213ps"}) {
+  for (const char* const name : {"fmul", "fmov", "fnmul", "fmax", "fmaxnm", "vmulpd", "mulsd",
+                                 "vfmaddsub213ps", "vfmsubadd132pd"}) {
     mnemonics.add(name, "");
   }
   EXPECT_EQ(mnemonics.fused_that_round(), 11);
