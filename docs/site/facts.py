@@ -325,16 +325,21 @@ def speeds(mode: str = "hot") -> dict[tuple[str, str, int], Speed]:
     return result
 
 
-def flavour_ratios() -> dict[tuple[str, int], dict[str, float]]:
-    """Time over the baseline's, of forward complex kernels; by type and length, then flavour."""
-    result: dict[tuple[str, int], dict[str, float]] = {}
-    rows = [[c.strip() for c in line.strip("|\n").split("|")]
-            for line in (ROOT / "docs/flavours.md").read_text().splitlines() if line.startswith("|")]
-    for row in rows[2:]:
-        match = re.fullmatch(r"(\d+fc), (v\d)", row[0])
-        if match:
-            for length, ratio in zip(rows[0][1:], row[1:]):
-                result.setdefault((match[1], int(length)), {})[match[2]] = float(ratio)
+def flavour_ratios() -> dict[tuple[str, str, int], dict[str, float]]:
+    """Time over the baseline's, of forward kernels; by family, type and length, then flavour."""
+    result: dict[tuple[str, str, int], dict[str, float]] = {}
+    head: list[str] = []
+    for line in (ROOT / "docs/flavours.md").read_text().splitlines():
+        row = [c.strip() for c in line.strip("|").split("|")]
+        if line.startswith("|") and row[0] in ("points", "order"):
+            head = row
+        match = re.fullmatch(r"(\d+fc?), (v\d)", row[0])
+        if match is None:
+            continue
+        family = "complex" if match[1].endswith("c") else "wht" if head[0] == "order" else "dct4"
+        for size, ratio in zip(head[1:], row[1:]):
+            length = 2 ** int(size) if family == "wht" else int(size)
+            result.setdefault((family, match[1], length), {})[match[2]] = float(ratio)
     return result
 
 
