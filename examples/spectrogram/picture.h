@@ -1,0 +1,174 @@
+// The spectrogram as a picture with axes and a scale of loudness: seventy decibels, 0 dB being a
+// sine of full scale, that end at the first ten above the loudest part.
+#pragma once
+
+#include <cairo.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+#include <cstdint>
+#include <memory>
+#include <new>
+#include <numbers>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "spectrogram/short_time.h"
+
+namespace haldgen::demo {
+
+/// In pixels.
+struct Rectangle {
+  int left, top, width, height;
+};
+
+/// Where the spectrogram proper lies in a picture of this size; bin 0 is at the bottom.
+inline Rectangle plot_area(int width, int height) { return {84, 36, width - 200, height - 104}; }
+
+inline constexpr double kShownDb = 70;
+inline constexpr double kSilentPower = 1e-12;  // a silent recording still needs a scale
+inline constexpr int kBarWidth = 20;
+inline constexpr int kMark = 6;
+inline constexpr double kFontSize = 15;
+
+inline std::shared_ptr<cairo_surface_t> new_surface(int width, int height) {
+  return {cairo_image_surface_create(CAIRO_FORMAT_RGB24, width, height), cairo_surface_destroy};
+}
+
+inline double decibels(double power) { return 10 * std::log10(std::max(power, kSilentPower)); }
+
+// From near black over violet and orange to pale yellow; brightness rises throughout, so the order
+// of levels survives printing in grey. As a pixel of CAIRO_FORMAT_RGB24.
+inline std::uint32_t colour_of(double level) {
+  const auto step = [level](double from, double to) {
+    const double t = std::clamp((level - from) / (to - from), 0.0, 1.0);
+    return t * t * (3 - 2 * t);
+  };
+  const auto byte = [](double value) {
+    return static_cast<std::uint32_t>(std::lround(255 * std::clamp(value, 0.0, 1.0)));
+  };
+  const double violet = std::sin(std::numbers::pi * std::clamp(level / 0.7, 0.0, 1.0));
+  return byte(0.04 + 0.96 * step(0.1, 0.7)) << 16U | byte(0.02 + 0.96 * step(0.35, 1.0)) << 8U |
+         byte(0.08 + 0.5 * violet + 0.65 * step(0.75, 1.0));
+}
+
+// Levels from 0 to 1 by column and row from the bottom, stretched over `area`.
+template <class Level>
+void draw_levels(cairo_t* cairo, const Rectangle& area, std::size_t columns, std::size_t rows,
+                 Level level) {
+  const auto surface = new_surface(static_cast<int>(columns), static_cast<int>(rows));
+  unsigned char* const pixels = cairo_image_surface_get_data(surface.get());
+  if (pixels == nullptr) throw std::bad_alloc();
+  const auto stride = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get()));
+  for (std::size_t row = 0; row < rows; ++row) {
+    auto* line = reinterpret_cast<std::uint32_t*>(pixels + (rows - 1 - row) * stride);
+    for (std::size_t x = 0; x < columns; ++x) line[x] = colour_of(level(x, row));
+  }
+  cairo_surface_mark_dirty(surface.get());
+  cairo_save(cairo);
+  cairo_translate(cairo, area.left, area.top);
+  cairo_scale(cairo, area.width / static_cast<double>(columns),
+              area.height / static_cast<double>(rows));
+  cairo_set_source_surface(cairo, surface.get(), 0, 0);
+  cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_NEAREST);
+  cairo_paint(cairo);
+  cairo_restore(cairo);
+}
+
+// The round numbers from `first` to `last`, at most `most` steps of 1, 2 or 5 times a power of ten.
+inline std::vector<double> marks(double first, double last, int most) {
+  const double least = (last - first) / most;
+  double step = std::pow(10.0, std::floor(std::log10(least)));
+  for (const double factor : {2.0, 2.5, 2.0}) {
+    if (step < 0.9999 * least) step *= factor;
+  }
+  std::vector<double> found;
+  // Half a thousandth forgives the rounding of an end that is itself a multiple of the step.
+  const auto past = std::lround(std::floor(last / step + 0.0005));
+  for (auto i = std::lround(std::ceil(first / step - 0.0005)); i <= past; ++i) {
+    found.push_back(static_cast<double>(i) * step);
+  }
+  return found;
+}
+
+// `x` is the left end of the text, its middle or its right end for `align` 0, 0.5 or 1.
+inline void text(cairo_t* cairo, double x, double y, double align, const std::string& label) {
+  cairo_text_extents_t size;
+  cairo_text_extents(cairo, label.c_str(), &size);
+  cairo_move_to(cairo, x - align * size.x_advance, y + 0.35 * kFontSize);
+  cairo_show_text(cairo, label.c_str());
+}
+
+inline void mark(cairo_t* cairo, double x, double y, double dx, double dy, double align,
+                 double value) {
+  cairo_move_to(cairo, x, y);
+  cairo_rel_line_to(cairo, kMark * dx, kMark * dy);
+  cairo_stroke(cairo);
+  std::ostringstream label;
+  label << value;
+  text(cairo, x + 2 * kMark * dx, y + 3 * kMark * dy, align, label.str());
+}
+
+inline void draw_axes(cairo_t* cairo, const Rectangle& area, double seconds, double bin_hz,
+                      std::size_t bins) {
+  const int bottom = area.top + area.height;
+  const int right = area.left + area.width;
+  for (const double t : marks(0, seconds, area.width / 90)) {
+    mark(cairo, area.left + t / seconds * area.width, bottom, 0, 1, 0.5, t);
+  }
+  text(cairo, right, bottom + 7 * kMark, 1, "s");
+  const double top_khz = static_cast<double>(bins - 1) * bin_hz / 1000;
+  for (const double f : marks(0, top_khz, std::max(1, area.height / 40))) {
+    // A bin is centred on its frequency.
+    const double rows = (f * 1000 / bin_hz + 0.5) / static_cast<double>(bins);
+    mark(cairo, area.left, bottom - rows * area.height, -1, 0, 1, f);
+  }
+  text(cairo, area.left - kMark, area.top - 3 * kMark, 1, "kHz");
+}
+
+/// Draws frames that span `seconds`, of bins `bin_hz` apart, into a PNG file. Throws.
+inline void draw_png(const ShortTimeSpectrum& spectrum, double seconds, double bin_hz, int width,
+                     int height, const std::string& path) {
+  double peak = 0;
+  for (std::size_t x = 0; x < spectrum.columns(); ++x) {
+    for (std::size_t k = 0; k < spectrum.bins(); ++k) peak = std::max(peak, spectrum.power(x, k));
+  }
+  const double top_db = 10 * std::ceil(decibels(peak) / 10);
+  const double bottom_db = top_db - kShownDb;
+
+  const auto surface = new_surface(width, height);
+  const std::shared_ptr<cairo_t> context(cairo_create(surface.get()), cairo_destroy);
+  cairo_t* const cairo = context.get();
+  cairo_set_source_rgb(cairo, 1, 1, 1);
+  cairo_paint(cairo);
+  const Rectangle area = plot_area(width, height);
+  draw_levels(cairo, area, spectrum.columns(), spectrum.bins(), [&](std::size_t x, std::size_t k) {
+    return (decibels(spectrum.power(x, k)) - bottom_db) / kShownDb;
+  });
+  const Rectangle bar{area.left + area.width + 24, area.top, kBarWidth, area.height};
+  draw_levels(cairo, bar, 1, static_cast<std::size_t>(bar.height), [&](std::size_t, std::size_t y) {
+    return (static_cast<double>(y) + 0.5) / bar.height;
+  });
+
+  cairo_set_source_rgb(cairo, 0.1, 0.1, 0.15);
+  cairo_select_font_face(cairo, "sans-serif", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
+  cairo_set_font_size(cairo, kFontSize);
+  draw_axes(cairo, area, seconds, bin_hz, spectrum.bins());
+  for (const double db : marks(bottom_db, top_db, 7)) {
+    mark(cairo, bar.left + bar.width, bar.top + (top_db - db) / kShownDb * bar.height, 1, 0, 0, db);
+  }
+  text(cairo, bar.left, bar.top - 3 * kMark, 0, "dB");
+
+  errno = 0;
+  const cairo_status_t status = cairo_surface_write_to_png(surface.get(), path.c_str());
+  if (status != CAIRO_STATUS_SUCCESS) {
+    throw std::runtime_error(errno != 0 ? std::generic_category().message(errno)
+                                        : cairo_status_to_string(status));
+  }
+}
+
+}  // namespace haldgen::demo
