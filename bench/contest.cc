@@ -36,6 +36,22 @@ bool wanted(const Options& options, const registry::Export& function) {
          (options.types.empty() || options.types.contains(type_of(function)));
 }
 
+/// The functions of the library and, if they are asked for, of kernels that stand alone and have
+/// other lengths: a library of such kernels may be the one to measure.
+std::vector<registry::Export> functions(const Options& options) {
+  std::vector<registry::Export> all = registry::exports();
+  for (const names::Word& word : registry::words()) {
+    if (word.signature != names::Signature::transform) continue;
+    for (const int length : options.lengths) {
+      if (word.sizes.contains(length)) continue;
+      for (const names::Element element : word.elements) {
+        all.push_back({export_name(word, element, length), &word, element, length});
+      }
+    }
+  }
+  return all;
+}
+
 OperationCounts read_counts(const std::filesystem::path& path) {
   if (path.empty()) return {};
   std::ifstream file(path);
@@ -47,7 +63,7 @@ OperationCounts read_counts(const std::filesystem::path& path) {
 
 std::vector<Kernel> selected_kernels(const Options& options) {
   std::vector<Kernel> kernels;
-  for (const registry::Export& function : registry::exports()) {
+  for (const registry::Export& function : functions(options)) {
     for (const registry::Export& sized : measured_sizes(function)) {
       std::shared_ptr<const Problem> problem = problem_of(sized);
       if (!problem || !wanted(options, sized)) continue;

@@ -5,6 +5,7 @@
 #include <haldgen.h>
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <optional>
 #include <ostream>
@@ -20,7 +21,7 @@ constexpr std::string_view usage =
     "usage: haldgen-bits [--library PATH] [compare [FILE]]\n"
     "       haldgen-bits [--library PATH] batches [FILE]\n"
     "       haldgen-bits [--library PATH] record FILE\n"
-    "       haldgen-bits --help\n"
+    "       haldgen-bits --help|--version\n"
     "Calls every function of the library that the program is linked with, or of the one at PATH,\n"
     "takes a checksum of the results and compares it with the published one, or with that in "
     "FILE.\n"
@@ -28,6 +29,8 @@ constexpr std::string_view usage =
     "The exit status is 0 if all are equal, 1 if not, and 2 if there is nothing to compare with.\n"
     "record writes the checksums to FILE.\n";
 
+constexpr std::array version = {HALDGEN_VERSION_MAJOR, HALDGEN_VERSION_MINOR,
+                                HALDGEN_VERSION_UPDATE};
 constexpr std::string_view version_name = "bits version\t";
 
 std::string version_line() {
@@ -133,6 +136,10 @@ int run(const Find& find, std::span<const std::string> arguments, const std::str
   const std::string command = arguments.empty() ? "compare" : arguments[0];
   if (command == "--help" && arguments.size() == 1) {
     out << usage;
+    return 0;
+  }
+  if (command == "--version" && arguments.size() == 1) {
+    out << "haldgen-bits " << version[0] << '.' << version[1] << '.' << version[2] << "\n";
     return 0;
   }
   const bool records = command == "record" && arguments.size() == 2;

@@ -33,7 +33,12 @@ function(haldgen_place_flavour flavour target library)
       LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${folder}
       INSTALL_RPATH $ORIGIN/../..)
     if(HALDGEN_INSTALL)
-      install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder} NAMELINK_SKIP)
+      set(component runtime)
+      if(library STREQUAL "haldbatch")
+        set(component batch)
+      endif()
+      install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder}
+        COMPONENT ${component} NAMELINK_SKIP)
     endif()
   endif()
 endfunction()

@@ -67,12 +67,13 @@ struct RaderOrder {
 /// C[m] = (1/L) sum_j W_p^(g^-j) W_L^(jm), the factor 1/L of the way back folded in.
 std::vector<WideComplex> rader_constants(int p, const RaderOrder& order) {
   const int length = order.length;
+  std::vector<WideComplex> kernel, roots;
+  for (int j = 0; j < length; ++j) kernel.push_back(kernelgen::root(p, order.write[at(j)]));
+  for (int j = 0; j < length; ++j) roots.push_back(kernelgen::root(length, j));
   std::vector<WideComplex> c;
   for (int m = 0; m < length; ++m) {
     WideComplex sum;
-    for (int j = 0; j < length; ++j) {
-      sum = sum + kernelgen::root(p, order.write[at(j)]) * kernelgen::root(length, j * m % length);
-    }
+    for (int j = 0; j < length; ++j) sum = sum + kernel[at(j)] * roots[at(j * m % length)];
     c.push_back((Wide(1.0) / Wide(length)) * sum);
   }
   return c;

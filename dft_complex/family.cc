@@ -34,7 +34,7 @@ family::Work work(int length, FloatType type) {
   return {counts.additions, counts.multiplications, counts.depth, 0};
 }
 
-family::Source source(int length, FloatType type, const family::Tuning& tuning) {
+family::Transforms transforms(int length, FloatType type, const family::Tuning& tuning) {
   const Element element = family::complex_element(type);
   const std::string forward = names::export_name(kForward, element, length);
   const std::string inverse = names::export_name(kInverse, element, length);
@@ -45,29 +45,28 @@ family::Source source(int length, FloatType type, const family::Tuning& tuning) 
       programs_of(design_of(length, type), type, there.seed, {there.pairs, back.pairs});
   const family::Work counts = work(length, type);
 
-  family::Source source;
-  source.title = "Complex DFT of length " + std::to_string(length);
-  source.type = type;
-  source.algorithm = algorithm(length, type);
-  source.operations = "//   " + std::to_string(counts.additions) + " additions, " +
+  family::Transforms result;
+  result.length = length;
+  result.type = type;
+  result.element = element;
+  result.title = "Complex DFT of length " + std::to_string(length);
+  result.algorithm = algorithm(length, type);
+  result.operations = "//   " + std::to_string(counts.additions) + " additions, " +
                       std::to_string(counts.multiplications) + " multiplications, depth " +
                       std::to_string(counts.depth) + ", and the scale\n";
-  source.command = "complex " + std::to_string(length) + " " + std::string(names::suffix(element));
-  source.includes = {"family/contract.h"};
-  if (there.pairs || back.pairs) source.includes.emplace_back("lanes/paired.h");
-  source.scope = "dft_complex";
+  result.command = "complex " + std::to_string(length) + " " + std::string(names::suffix(element));
+  result.includes = {"family/contract.h"};
+  if (there.pairs || back.pairs) result.includes.emplace_back("lanes/paired.h");
+  result.scope = "dft_complex";
   family::Transform transform{"Forward", length, Divides::forward, element};
   const Recipe& recipe = design_of(length, type).recipe;
   if (recipe.method == Method::bluestein) transform.convolution = recipe.first.front().length;
-  source.kernels.push_back(
-      transform_kernel(transform, scheduled(programs.forward, there.ordering), there));
+  result.bodies.push_back({transform, scheduled(programs.forward, there.ordering), there});
   transform.name = "Inverse";
   transform.divides = Divides::inverse;
-  source.kernels.push_back(
-      transform_kernel(transform, scheduled(programs.inverse, back.ordering), back));
-  source.functions = {family::transform_function(forward, element, "Forward"),
-                      family::transform_function(inverse, element, "Inverse")};
-  return source;
+  result.bodies.push_back({transform, scheduled(programs.inverse, back.ordering), back});
+  result.functions = {{kForward, 0, {}, {}}, {kInverse, 1, {}, {}}};
+  return result;
 }
 
 /// The program of one lane.
@@ -119,11 +118,13 @@ family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
 }  // namespace
 
 family::Family complex(const names::Sizes& lengths) {
-  family::Family result{kName,
-                        "complex DFT, forward and inverse",
-                        lengths,
-                        {},
-                        family::Generated{algorithm, graph, work, source, {}, batch}};
+  family::Family result{
+      kName,
+      "complex DFT, forward and inverse",
+      lengths,
+      {},
+      family::Generated{
+          algorithm, graph, work, family::source_from<transforms>, {}, batch, transforms}};
   add_transform(result, kForward, names::kComplex,
                 {Scaling::forward, Layout::complex, Layout::complex}, text("Forward", "-"));
   add_transform(result, kInverse, names::kComplex,

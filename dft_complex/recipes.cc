@@ -1,5 +1,7 @@
 #include "dft_complex/recipes.h"
 
+#include "dft_complex/rules.h"
+
 #include "kernelgen/design_table.h"
 
 namespace haldgen::dft_complex {
@@ -264,16 +266,17 @@ DesignTable<Design> designs_of_64_bits() {
   };
 }
 
-const DesignTable<Design>& table_of(FloatType type) {
-  static const DesignTable<Design> f32 = designs_of_32_bits();
-  static const DesignTable<Design> f64 = designs_of_64_bits();
+DesignTable<Design>& table_of(FloatType type) {
+  static DesignTable<Design> f32 = designs_of_32_bits();
+  static DesignTable<Design> f64 = designs_of_64_bits();
   return type == FloatType::f32 ? f32 : f64;
 }
 
 }  // namespace
 
 const Design& design_of(int length, FloatType type) {
-  return kernelgen::row_of(table_of(type), length);
+  return kernelgen::row_of(table_of(type), length,
+                           [&](int without_row) { return design_by_rule(without_row, type); });
 }
 
 }  // namespace haldgen::dft_complex

@@ -1,4 +1,5 @@
-// The design table of the complex DFT: one row for each length and element type.
+// The design table of the complex DFT: one row for each length and element type. Longer ones have
+// designs by rules (rules.h).
 #pragma once
 
 #include "dft_complex/design.h"

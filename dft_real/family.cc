@@ -75,25 +75,25 @@ struct Family {
     return family::work_of(program_of(design_of(length, kDirection), type));
   }
 
-  static family::Source source(int length, FloatType type, const family::Tuning& tuning) {
+  static family::Transforms transforms(int length, FloatType type, const family::Tuning& tuning) {
     const Element element = family::real_element(type);
-    const auto exported = [&](Packing packing) {
-      return names::export_name(transform_word(kDirection, packing), element, length);
-    };
-    const family::Choice choice = tuning.of(exported(kPackings[0]));
+    const family::Choice choice =
+        tuning.of(names::export_name(transform_word(kDirection, kPackings[0]), element, length));
     const kernelgen::Program program = scheduled(program_of(design_of(length, kDirection), type),
                                                  choice.ordering, overlap_of(length, kDirection));
 
-    family::Source source;
-    source.title = std::string(kForward ? "Forward" : "Inverse") + " real DFT of length " +
+    family::Transforms result;
+    result.length = length;
+    result.type = type;
+    result.element = element;
+    result.title = std::string(kForward ? "Forward" : "Inverse") + " real DFT of length " +
                    std::to_string(length);
-    source.type = type;
-    source.algorithm = algorithm(length, type) + (kForward ? "" : ", transposed");
-    source.operations = kernelgen::describe(kernelgen::tally(program), type);
-    source.command = std::string(kName) + " " + std::to_string(length) + " " +
+    result.algorithm = algorithm(length, type) + (kForward ? "" : ", transposed");
+    result.operations = kernelgen::describe(kernelgen::tally(program), type);
+    result.command = std::string(kName) + " " + std::to_string(length) + " " +
                      std::string(names::suffix(element));
-    source.includes = {"dft_real/packing.h", "family/contract.h"};
-    source.scope = "dft_real";
+    result.includes = {"dft_real/packing.h", "family/contract.h"};
+    result.scope = "dft_real";
     family::Transform transform{
         "Kernel", length, kForward ? kernelgen::Divides::forward : kernelgen::Divides::inverse,
         element};
@@ -104,14 +104,17 @@ struct Family {
     } else {
       transform.subscripts = {"Format::at", ""};
     }
-    source.kernels = {transform_kernel(transform, program, choice)};
+    result.bodies = {{transform, program, choice}};
     for (const Packing packing : kPackings) {
-      source.functions.push_back(
-          family::transform_function(exported(packing), element,
-                                     "Kernel, Format<Packing::" + packing_name(packing) + ", " +
-                                         std::to_string(length) + ">"));
+      family::Transforms::Function function{
+          transform_word(kDirection, packing),
+          0,
+          "Format<Packing::" + packing_name(packing) + ", " + std::to_string(length) + ">",
+          {}};
+      for (int i = 0; i < length; ++i) function.places.push_back(position(packing, length, i));
+      result.functions.push_back(function);
     }
-    return source;
+    return result;
   }
 
   static family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
@@ -132,7 +135,12 @@ struct Family {
 
   static family::Family make(const names::Sizes& lengths) {
     family::Family result{
-        kName, kTitle, lengths, {}, family::Generated{algorithm, graph, work, source, {}, batch}};
+        kName,
+        kTitle,
+        lengths,
+        {},
+        family::Generated{
+            algorithm, graph, work, family::source_from<transforms>, {}, batch, transforms}};
     for (const Packing packing : kPackings) {
       const Layout spectrum = layout_of(packing);
       const names::Usage usage = kForward ? names::Usage{Scaling::forward, Layout::real, spectrum}

@@ -6,6 +6,7 @@
 
 #include "kernelgen/design_table.h"
 #include "real_blocks/pieces.h"
+#include "real_blocks/rules.h"
 
 namespace haldgen::dft_real {
 namespace {
@@ -210,16 +211,23 @@ DesignTable<Design> inverse_designs() {
   };
 }
 
-const DesignTable<Design>& table_of(Direction direction) {
-  static const DesignTable<Design> forward = forward_designs();
-  static const DesignTable<Design> inverse = inverse_designs();
+DesignTable<Design>& table_of(Direction direction) {
+  static DesignTable<Design> forward = forward_designs();
+  static DesignTable<Design> inverse = inverse_designs();
   return direction == Direction::forward ? forward : inverse;
 }
 
 }  // namespace
 
 const Design& design_of(int length, Direction direction) {
-  return kernelgen::row_of(table_of(direction), length);
+  return kernelgen::row_of(table_of(direction), length, [&](int without_row) {
+    const auto design = [&](const Recipe& recipe) {
+      return direction == Direction::forward ? forward(recipe) : transposed(recipe);
+    };
+    return design(recipe_by_rule(
+        without_row, [&](int row) { return design_of(row, direction).recipe; },
+        [&](const Recipe& recipe) { return operations_of(design(recipe)); }));
+  });
 }
 
 }  // namespace haldgen::dft_real

@@ -1,4 +1,5 @@
-// The design table of the real DFT: one row for each length and direction.
+// The design table of the real DFT: one row for each length and direction. Longer ones have designs
+// by rules (real_blocks/rules.h).
 #pragma once
 
 #include "real_blocks/design.h"

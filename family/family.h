@@ -33,6 +33,9 @@ struct Generated {
   std::vector<std::string> kernels = {};  ///< names, where kernels are no whole transforms
   /// The source file of the kernels of batches.
   Source (*batch)(int size, FloatType type, const Tuning& tuning) = nullptr;
+  /// What `source` is made of, where kernels are whole transforms: of the library's lengths, and of
+  /// those behind them for which there is a rule.
+  Transforms (*transforms)(int size, FloatType type, const Tuning& tuning) = nullptr;
 };
 
 /// Transforms that are planned at run time, made of several kernels each.
@@ -55,6 +58,12 @@ struct Family {
 void add_transform(Family& family, const std::string& word,
                    const std::vector<names::Element>& elements, const names::Usage& usage,
                    const names::TransformText& text);
+
+/// The source of the transforms that a function gives.
+template <Transforms (*kTransforms)(int size, FloatType type, const Tuning& tuning)>
+Source source_from(int size, FloatType type, const Tuning& tuning) {
+  return source_of(kTransforms(size, type, tuning));
+}
 
 /// Work of a scalar program.
 Work work_of(const kernelgen::Program& program);

@@ -51,8 +51,10 @@ std::string ordered_by(const Choice& choice, bool has_forms) {
   return text + ".";
 }
 
-Kernel transform_kernel(const Transform& transform, const kernelgen::Program& program,
-                        const Choice& choice) {
+namespace {
+
+Kernel transform_kernel(const Transforms::Body& body) {
+  const auto& [transform, program, choice] = body;
   const bool vectors = program.lanes > 1;
   Kernel kernel;
   kernel.name = transform.name;
@@ -71,20 +73,50 @@ Kernel transform_kernel(const Transform& transform, const kernelgen::Program& pr
   kernel.function =
       "template <class " + transform.memory +
       ">\n  HALDGEN_INLINE static void transform(const Float* src, Float* dst, Float scale)";
-  std::vector<int> lengths{transform.length};
-  if (transform.convolution) lengths.push_back(*transform.convolution);
-  const auto constants = named_constants(program, kernelgen::ConstantNames(lengths));
+  const auto constants = constants_of(body);
   kernel.members += emit_constants(constants, "  static ");
   kernel.body = emit_body(program, transform.subscripts, constants) + transform.epilogue;
   return kernel;
 }
 
+/// Definition of the function behind an exported name, which runs a kernel: "Forward", or "Kernel,
+/// Format<..>".
 std::string transform_function(const std::string& exported_name, names::Element element,
                                const std::string& kernel) {
   return "extern \"C\" " +
          declaration(names::Signature::transform, element,
                      names::implementation_symbol(exported_name)) +
          " {\n  return family::run<" + kernel + ">(src, dst, flag);\n}\n";
+}
+
+}  // namespace
+
+std::vector<kernelgen::NamedConstant> constants_of(const Transforms::Body& body) {
+  std::vector<int> lengths{body.transform.length};
+  if (body.transform.convolution) lengths.push_back(*body.transform.convolution);
+  return named_constants(body.program, kernelgen::ConstantNames(lengths));
+}
+
+Source source_of(const Transforms& transforms) {
+  Source source{.title = transforms.title,
+                .type = transforms.type,
+                .algorithm = transforms.algorithm,
+                .operations = transforms.operations,
+                .command = transforms.command,
+                .includes = transforms.includes,
+                .scope = transforms.scope,
+                .kernels = {},
+                .functions = {}};
+  for (const Transforms::Body& body : transforms.bodies) {
+    source.kernels.push_back(transform_kernel(body));
+  }
+  for (const Transforms::Function& function : transforms.functions) {
+    const std::string& body = source.kernels[function.body].name;
+    source.functions.push_back(transform_function(
+        names::export_name(function.word, transforms.element, transforms.length),
+        transforms.element, function.memory.empty() ? body : body + ", " + function.memory));
+  }
+  return source;
 }
 
 }  // namespace haldgen::family

@@ -53,13 +53,39 @@ struct Transform {
   /// The length of a convolution inside, where it does not follow from the transform's.
   std::optional<int> convolution = {};
 };
-Kernel transform_kernel(const Transform& transform, const kernelgen::Program& program,
-                        const Choice& choice);
 
-/// Definition of the function behind an exported name, which runs a kernel: "Forward", or "Kernel,
-/// Format<..>".
-std::string transform_function(const std::string& exported_name, names::Element element,
-                               const std::string& kernel);
+/// The transforms of one length and type, as data. The library's source and the file of a kernel
+/// to go are printed from it.
+struct Transforms {
+  struct Body {
+    Transform transform;
+    kernelgen::Program program;  ///< scheduled
+    Choice choice;
+  };
+  struct Function {
+    std::string word;         ///< of its name
+    std::size_t body;         ///< that it runs
+    std::string memory;       ///< the body's template argument in the library, if it has one
+    std::vector<int> places;  ///< positions in the array of the values that the body numbers
+  };
+  int length = 0;
+  FloatType type = FloatType::f32;
+  names::Element element = names::Element::none;
+  std::string title;  ///< as in Source, and so on
+  std::string algorithm;
+  std::string operations;
+  std::string command;
+  std::string scope;
+  std::vector<std::string> includes;
+  std::vector<Body> bodies;
+  std::vector<Function> functions;
+};
+
+/// The source for the library.
+Source source_of(const Transforms& transforms);
+
+/// The constants of a body that have names.
+std::vector<kernelgen::NamedConstant> constants_of(const Transforms::Body& body);
 
 /// The remark on a kernel's tuning.
 std::string ordered_by(const Choice& choice, bool has_forms);

@@ -4,8 +4,9 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "family/family.h"
+#include "registry/registry.h"
 
 namespace haldgen::frame {
 
@@ -49,8 +50,9 @@ std::string emit_batch_entries();
 /// C++ source: what a program that is linked with them has (linked_functions.h).
 std::string emit_linked_batches();
 
-/// C++ source: the functions that a program is linked with (linked_functions.h).
-std::string emit_linked_functions();
+/// C++ source: the functions that a program is linked with (linked_functions.h), those of the
+/// library or of kernels that stand alone, in order of their names.
+std::string emit_linked_functions(const std::vector<registry::Export>& functions);
 
 /// All names in byte order, one a line.
 std::string emit_list();

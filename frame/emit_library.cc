@@ -175,14 +175,19 @@ std::string emit_public_names() {
   return text;
 }
 
-std::string emit_linked_functions() {
+std::string emit_linked_functions(const std::vector<Export>& functions) {
   std::ostringstream out;
   out << "// " << generated_notice << "\n"
       << "#include \"frame/linked_functions.h\"\n\n#include \"haldgen.h\"\n\n"
+      << "extern \"C\" {\n";
+  for (const Export& function : functions) {
+    out << declaration(function.word->signature, function.element, function.name) << ";\n";
+  }
+  out << "}\n\n"
       << "namespace haldgen::frame {\n\n"
       << "std::span<const LinkedFunction> linked_functions() {\n"
       << "  static const LinkedFunction all[] = {\n";
-  for (const Export& function : registry::exports()) {
+  for (const Export& function : functions) {
     const Word& word = *function.word;
     out << "      {\"" << function.name << "\", reinterpret_cast<void (*)()>(" << function.name
         << "), \"" << word.word << "\", names::Signature{" << static_cast<int>(word.signature)

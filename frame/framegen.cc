@@ -1,15 +1,20 @@
-// Generator of the frame, run by the build: haldgen-framegen WHAT [FILE], or for the general
-// entries haldgen-framegen general_entries FAMILY TYPE FILE.
+// Generator of the frame, run by the build: haldgen-framegen WHAT [FILE], and two commands with
+// arguments of their own.
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "frame/emit.h"
 #include "registry/registry.h"
 
 namespace {
+
+namespace registry = haldgen::registry;
 
 struct Output {
   std::string_view name;
@@ -26,7 +31,8 @@ constexpr Output outputs[] = {
     {"linker_exports", haldgen::frame::emit_linker_exports, "options of a linker"},
     {"implementations", haldgen::frame::emit_implementations, "hidden declarations, C++"},
     {"public_names", haldgen::frame::emit_public_names, "public names of implementations"},
-    {"linked_functions", haldgen::frame::emit_linked_functions, "names, addresses and arrays, C++"},
+    {"linked_functions", [] { return haldgen::frame::emit_linked_functions(registry::exports()); },
+     "names, addresses and arrays, C++"},
     {"batch_header", haldgen::frame::emit_batch_header, "the public header of batches"},
     {"batch_tables", haldgen::frame::emit_batch_tables, "what their C++ header looks up"},
     {"batch_exports", haldgen::frame::emit_batch_exports, "their linker version script"},
@@ -39,11 +45,29 @@ constexpr Output outputs[] = {
 int usage() {
   std::cerr << "usage: haldgen-framegen WHAT [FILE]\n"
                "       haldgen-framegen general_entries FAMILY TYPE FILE\n"
+               "       haldgen-framegen linked_kernels FILE [FAMILY LENGTH TYPE]...\n"
                "Writes to FILE, or to standard output. WHAT is one of\n";
   for (const Output& output : outputs) {
     std::cerr << "  " << output.name << ": " << output.meaning << "\n";
   }
   return 2;
+}
+
+/// The functions of kernels, of any length: family, length and type of each.
+std::vector<registry::Export> functions_of(std::span<char*> kernels) {
+  std::vector<registry::Export> functions;
+  for (std::size_t i = 0; i + 3 <= kernels.size(); i += 3) {
+    const int length = std::stoi(kernels[i + 1]);
+    for (const haldgen::names::Word& word : registry::family_named(kernels[i]).words) {
+      for (const haldgen::names::Element element : word.elements) {
+        if (size_in_name(word) && haldgen::names::suffix(element) == kernels[i + 2]) {
+          functions.push_back({export_name(word, element, length), &word, element, length});
+        }
+      }
+    }
+  }
+  std::ranges::sort(functions, {}, &registry::Export::name);
+  return functions;
 }
 
 int write(const std::string& text, std::ostream& stream) {
@@ -58,9 +82,13 @@ int write(const std::string& text, std::ostream& stream) {
 int main(int argc, char** argv) {
   if (argc == 5 && std::string_view(argv[1]) == "general_entries") {
     std::ofstream file(argv[4], std::ios::binary);
-    return write(
-        haldgen::frame::emit_general_entries(haldgen::registry::family_named(argv[2]), argv[3]),
-        file);
+    return write(haldgen::frame::emit_general_entries(registry::family_named(argv[2]), argv[3]),
+                 file);
+  }
+  if (argc >= 3 && std::string_view(argv[1]) == "linked_kernels") {
+    std::ofstream file(argv[2], std::ios::binary);
+    const auto kernels = std::span(argv, static_cast<std::size_t>(argc)).subspan(3);
+    return write(haldgen::frame::emit_linked_functions(functions_of(kernels)), file);
   }
   if (argc < 2 || argc > 3) return usage();
   for (const Output& output : outputs) {

@@ -10,6 +10,7 @@
 
 #include "generate/catalogue.h"
 #include "generate/kernels.h"
+#include "generate/single.h"
 #include "kernelgen/dot.h"
 #include "registry/registry.h"
 
@@ -33,6 +34,9 @@ constexpr std::string_view kUsage =
     "       haldgen-generate source|batch FAMILY KERNEL TYPE FILE [TUNING]\n"
     "       haldgen-generate source|code ... --flavour TAG\n"
     "       haldgen-generate constants FAMILY FILE\n"
+    "       haldgen-generate single FAMILY LENGTH TYPE [TUNING] [-o FILE]\n"
+    "       haldgen-generate single-header [FAMILY LENGTH TYPE]... [-o FILE]\n"
+    "       haldgen-generate --help|--version\n"
     "  list     the families with their kernels and element types\n"
     "  catalogue  counts, recipe and graph of everything, a JSON object a line\n"
     "  counts   operation counts of all transforms, of a family's kernels or of one, as a table\n"
@@ -41,6 +45,9 @@ constexpr std::string_view kUsage =
     "  code     its C++ source, as source writes it to a file\n"
     "  batch    the source of its batches\n"
     "  constants  a source file of constants for the planner of a family\n"
+    "  single   a kernel to go: its source in C, which is C++ as well, for a file that stands "
+    "alone\n"
+    "  single-header  the declarations of such kernels\n"
     "  TAG      v3 or v4, a flavour: its vectors and its column of the table\n"
     "  KERNEL   a length, or the name of a part of planned transforms\n"
     "  TYPE     32f or 64f; of complex elements 32fc or 64fc\n"
@@ -61,8 +68,10 @@ const Family& generated_family(const std::string& name) {
 }
 
 int kernel_named(const Family& family, const std::string& name) {
-  for (const int number : kernels_of(family)) {
-    if (kernel_name(family, number) == name) return number;
+  for (const auto& numbers : {kernels_of(family), haldgen::generate::single_lengths(family)}) {
+    for (const int number : numbers) {
+      if (kernel_name(family, number) == name) return number;
+    }
   }
   throw UsageError("no kernel of the family " + family.name + ": " + name);
 }
@@ -123,6 +132,45 @@ void write_file(const std::string& path, const std::string& text) {
   if (!file.flush()) throw std::runtime_error("cannot write " + path);
 }
 
+haldgen::generate::Single single_named(const std::string& family_name, const std::string& length,
+                                       const std::string& type) {
+  const Family& family = generated_family(family_name);
+  const std::vector<int> lengths = haldgen::generate::single_lengths(family);
+  for (const int n : lengths) {
+    if (std::to_string(n) == length) return {&family, n, type_named(family, type)};
+  }
+  if (lengths.empty()) throw UsageError("no kernels to go in the family " + family_name);
+  throw UsageError("no kernel to go of " + length + " points, but of " +
+                   std::to_string(lengths.front()) + " to " + std::to_string(lengths.back()));
+}
+
+/// `single` and `single-header`.
+void run_single(std::vector<std::string> args) {
+  std::string path;
+  if (args.size() >= 2 && args[args.size() - 2] == "-o") {
+    path = args.back();
+    args.resize(args.size() - 2);
+  }
+  const bool header = args[0] == "single-header";
+  Tuning tuning;
+  if (!header && args.size() == 5) {
+    const haldgen::family::Choice choice = haldgen::family::parse_choice(args.back());
+    if (choice.pairs) throw UsageError("kernels to go have vectors of one width");
+    tuning = Tuning(choice);
+    args.pop_back();
+  }
+  if (args.size() % 3 != 1 || (!header && args.size() != 4)) throw UsageError("arguments");
+  std::vector<haldgen::generate::Single> kernels;
+  for (std::size_t i = 1; i < args.size(); i += 3) {
+    kernels.push_back(single_named(args[i], args[i + 1], args[i + 2]));
+    kernels.back().tuning = tuning;
+  }
+  const std::string text = header ? haldgen::generate::single_header(kernels)
+                                  : haldgen::generate::single_file(kernels.front());
+  if (!path.empty()) return write_file(path, text);
+  if (!(std::cout << text << std::flush)) throw std::runtime_error("cannot write the output");
+}
+
 /// Takes an option and its value from the arguments; null if it is not there.
 const Flavour* take_flavour(std::vector<std::string>& args) {
   const auto option = std::find(args.begin(), args.end(), "--flavour");
@@ -137,6 +185,14 @@ const Flavour* take_flavour(std::vector<std::string>& args) {
 
 void run(std::vector<std::string> args) {
   if (args.empty()) throw UsageError("no command");
+  if (args.size() == 1 && args[0] == "--help") {
+    std::cout << kUsage;
+    return;
+  }
+  if (args.size() == 1 && args[0] == "--version") {
+    std::cout << "haldgen-generate " HALDGEN_SINGLE_VERSION "\n";
+    return;
+  }
   const Flavour* const flavour = take_flavour(args);
   const std::string& command = args[0];
   if (command == "list" && args.size() == 1) return print_list();
@@ -147,6 +203,7 @@ void run(std::vector<std::string> args) {
     print_counts_head();
     return args.size() == 1 ? print_all_counts() : print_family_counts(generated_family(args[1]));
   }
+  if (command == "single" || command == "single-header") return run_single(args);
   if (command == "constants" && args.size() == 3) {
     const Family& family = generated_family(args[1]);
     if (!family.planned) throw UsageError("nothing is planned in the family " + family.name);

@@ -35,25 +35,25 @@ family::Work work(int length, FloatType type) {
   return family::work_of(program_of(design_of(length), type));
 }
 
-family::Source source(int length, FloatType type, const family::Tuning& tuning) {
+family::Transforms transforms(int length, FloatType type, const family::Tuning& tuning) {
   const Element element = family::real_element(type);
-  const std::string exported = names::export_name(kWord, element, length);
-  const family::Choice choice = tuning.of(exported);
+  const family::Choice choice = tuning.of(names::export_name(kWord, element, length));
   const kernelgen::Program program =
       scheduled(program_of(design_of(length), type), choice.ordering);
 
-  family::Source source;
-  source.title = "Hartley transform of length " + std::to_string(length);
-  source.type = type;
-  source.algorithm = algorithm(length, type);
-  source.operations = kernelgen::describe(kernelgen::tally(program), type);
-  source.command = "hartley " + std::to_string(length) + " " + std::string(names::suffix(element));
-  source.includes = {"family/contract.h"};
-  source.scope = "hartley";
-  source.kernels = {
-      transform_kernel({"Kernel", length, kernelgen::Divides::both, element}, program, choice)};
-  source.functions = {family::transform_function(exported, element, "Kernel")};
-  return source;
+  family::Transforms result;
+  result.length = length;
+  result.type = type;
+  result.element = element;
+  result.title = "Hartley transform of length " + std::to_string(length);
+  result.algorithm = algorithm(length, type);
+  result.operations = kernelgen::describe(kernelgen::tally(program), type);
+  result.command = "hartley " + std::to_string(length) + " " + std::string(names::suffix(element));
+  result.includes = {"family/contract.h"};
+  result.scope = "hartley";
+  result.bodies = {{{"Kernel", length, kernelgen::Divides::both, element}, program, choice}};
+  result.functions = {{kWord, 0, {}, {}}};
+  return result;
 }
 
 family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
@@ -72,11 +72,13 @@ family::Source batch(int length, FloatType type, const family::Tuning& tuning) {
 }  // namespace
 
 family::Family hartley(const names::Sizes& lengths) {
-  family::Family result{kName,
-                        "Hartley transform",
-                        lengths,
-                        {},
-                        family::Generated{algorithm, graph, work, source, {}, batch}};
+  family::Family result{
+      kName,
+      "Hartley transform",
+      lengths,
+      {},
+      family::Generated{
+          algorithm, graph, work, family::source_from<transforms>, {}, batch, transforms}};
   add_transform(result, kWord, names::kReal,
                 {names::Scaling::directionless, Layout::real, Layout::real}, kText);
   return result;

@@ -5,6 +5,7 @@
 
 #include "kernelgen/design_table.h"
 #include "real_blocks/pieces.h"
+#include "real_blocks/rules.h"
 
 namespace haldgen::hartley {
 namespace {
@@ -116,13 +117,19 @@ DesignTable<Design> designs() {
   };
 }
 
-const DesignTable<Design>& table() {
-  static const DesignTable<Design> rows = designs();
+DesignTable<Design>& table() {
+  static DesignTable<Design> rows = designs();
   return rows;
 }
 
 }  // namespace
 
-const Design& design_of(int length) { return kernelgen::row_of(table(), length); }
+const Design& design_of(int length) {
+  return kernelgen::row_of(table(), length, [](int without_row) {
+    return paired(recipe_by_rule(
+        without_row, [](int row) { return design_of(row).recipe; },
+        [](const Recipe& recipe) { return operations_of(paired(recipe)); }));
+  });
+}
 
 }  // namespace haldgen::hartley

@@ -1,4 +1,5 @@
-// The design table of the Hartley transform: one row for each length.
+// The design table of the Hartley transform: one row for each length. Longer ones have designs by
+// rules (real_blocks/rules.h).
 #pragma once
 
 #include "real_blocks/design.h"

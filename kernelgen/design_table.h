@@ -18,4 +18,16 @@ const Design& row_of(const DesignTable<Design>& table, int length) {
   throw std::out_of_range("no kernel of length " + std::to_string(length));
 }
 
+/// Designs of lengths without a row are made by a rule, up to this one.
+inline constexpr int kLongestByRule = 128;
+
+/// The row of a length, or what `rule` makes of it. Throws std::out_of_range beyond the above.
+template <class Design, class Rule>
+const Design& row_of(DesignTable<Design>& table, int length, const Rule& rule) {
+  if (length > table.rbegin()->first && length <= kLongestByRule && !table.contains(length)) {
+    table.emplace(length, rule(length));
+  }
+  return row_of(table, length);
+}
+
 }  // namespace haldgen::kernelgen

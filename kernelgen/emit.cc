@@ -23,8 +23,8 @@ std::string shortest(Float value) {
 class Printer {
  public:
   Printer(const Program& program, const Subscripts& subscripts,
-          const std::vector<NamedConstant>& constants)
-      : program_(program), subscripts_(subscripts), constants_(constants) {
+          const std::vector<NamedConstant>& constants, Language language)
+      : program_(program), subscripts_(subscripts), constants_(constants), language_(language) {
     for (const Instruction& in : program.code) {
       if (is_store(in.op)) last_stored_ = std::max(last_stored_, in.address[0]);
     }
@@ -34,7 +34,7 @@ class Printer {
     if (program_.lanewise) {
       define_lanewise_scales();
     } else if (scalar()) {
-      define_two();
+      if (!in_c()) define_two();
     } else if (has_scales()) {
       define_scales();
     }
@@ -48,6 +48,7 @@ class Printer {
   }
 
  private:
+  bool in_c() const { return language_ == Language::c; }
   bool scalar() const { return program_.lanes == 1; }
   bool has_scales() const {
     return std::any_of(program_.code.begin(), program_.code.end(),
@@ -96,7 +97,18 @@ class Printer {
     }
   }
 
-  void line(const std::string& content) { text_ += "    " + content + "\n"; }
+  void line(const std::string& content) { text_ += (in_c() ? "  " : "    ") + content + "\n"; }
+
+  /// A word of the vocabulary of vectors, or of scalars.
+  std::string word(const std::string& name) const { return in_c() ? name : "lanes::" + name; }
+  std::string scalar_word(const std::string& name) const {
+    return in_c() ? name : "scalar::" + name;
+  }
+  /// Of whole vectors: its name and its last arguments.
+  std::string access(const std::string& name, const std::string& arguments) const {
+    return in_c() ? name + "(" + arguments + ", aligned)"
+                  : "Access::" + name + "(" + arguments + ")";
+  }
 
   static std::string name(int value) { return "v" + std::to_string(value); }
   static std::string at(const char* base, int address) {
@@ -140,7 +152,7 @@ class Printer {
   void define_scales() {
     if (paired()) return define_paired_scales();
     line(blocks() ? "const V s0 = lanes::splat<V>(scale);"
-                  : "const V s0 = lanes::broadcast(scale);");
+                  : "const V s0 = " + word("broadcast") + "(scale);");
     for (int mask = 1; mask < 4; ++mask) {
       for (const Instruction& in : program_.code) {
         if (in.op != Op::scale || scale_mask(in) != mask) continue;
@@ -148,7 +160,7 @@ class Printer {
         for (int l = 0; l < program_.lanes; ++l) {
           signs.constant[static_cast<std::size_t>(l)] = (mask >> (l % 2)) & 1 ? -0.0 : 0.0;
         }
-        line("const V s" + std::to_string(mask) + " = lanes::change_sign" +
+        line("const V s" + std::to_string(mask) + " = " + word("change_sign") +
              (blocks() ? "_of_blocks" : "") + "(s0, " + constants(signs) + ");");
         break;
       }
@@ -188,8 +200,9 @@ class Printer {
     }
   }
 
-  static std::string place(const char* array, const std::string& subscript, int address) {
+  std::string place(const char* array, const std::string& subscript, int address) const {
     if (subscript.empty()) return at(array, address);
+    if (in_c()) return array + (" + " + subscript + "[" + std::to_string(address) + "]");
     return array + (" + " + subscript + "(" + std::to_string(address) + ")");
   }
 
@@ -216,12 +229,12 @@ class Printer {
   std::string constants(const Instruction& in) const {
     if (scalar()) return constant(in.constant[0], in.wide ? FloatType::f64 : program_.type);
     const bool repeated = blocks() && !paired();
-    std::string text = repeated ? "lanes::repeated<V>(" : vector_of(in) + "{";
+    std::string text = repeated ? "lanes::repeated<V>(" : in_c() ? "vector(" : vector_of(in) + "{";
     for (int l = 0; l < lanes_of(program_, in); ++l) {
       text +=
           (l > 0 ? ", " : "") + constant(in.constant[static_cast<std::size_t>(l)], program_.type);
     }
-    return text + (repeated ? ")" : "}");
+    return text + (repeated || in_c() ? ")" : "}");
   }
 
   std::string slot(const Instruction& in) const {
@@ -391,58 +404,61 @@ class Printer {
     }
     switch (in.op) {
       case Op::load:
-        return define(index, scalar() ? "scalar::load(" +
+        return define(index, scalar() ? scalar_word("load") + "(" +
                                             place("src", subscripts_.source, in.address[0]) + ")"
-                                      : "Access::load(" + at("src", in.address[0]) + ")");
+                                      : access("load", at("src", in.address[0])));
       case Op::load_pair:
-        return define(index, "lanes::load_pair(" + at("src", in.address[0]) + ", " +
+        return define(index, word("load_pair") + "(" + at("src", in.address[0]) + ", " +
                                  at("src", in.address[1]) + ")");
       case Op::load_single:
-        return define(index, "lanes::load_single(" + at("src", in.address[0]) + ")");
+        return define(index, word("load_single") + "(" + at("src", in.address[0]) + ")");
       case Op::zero:
-        return define(index, scalar() ? "0" : "V{}");
+        return define(index, scalar() ? "0" : in_c() ? "broadcast(0)" : "V{}");
       case Op::add:
         return define(index, a + " + " + b);
       case Op::subtract:
         return define(index, a + " - " + b);
       case Op::alternate:
-        return define(index, "lanes::alternate(" + a + ", " + b + ")");
+        return define(index, word("alternate") + "(" + a + ", " + b + ")");
       case Op::multiply:
-        return define(index, (scalar() && is_doubling(in) ? "two" : constants(in)) + (" * " + a));
+        return define(
+            index, (scalar() && is_doubling(in) && !in_c() ? "two" : constants(in)) + (" * " + a));
       case Op::product:
         return define(index, a + " * " + b);
       case Op::interleave_lower:
-        return define(index, "lanes::interleave_lower(" + a + ", " + b + ")");
+        return define(index, word("interleave_lower") + "(" + a + ", " + b + ")");
       case Op::interleave_upper:
-        return define(index, "lanes::interleave_upper(" + a + ", " + b + ")");
+        return define(index, word("interleave_upper") + "(" + a + ", " + b + ")");
       case Op::sign:
-        return define(index, "lanes::change_sign(" + a + ", " + constants(in) + ")");
+        return define(index, word("change_sign") + "(" + a + ", " + constants(in) + ")");
       case Op::exchange:
-        return define(index, "lanes::exchange(" + a + ")");
+        return define(index, word("exchange") + "(" + a + ")");
       case Op::gather:
-        return define(index, "lanes::gather<" + std::to_string(in.half[0]) + ", " +
-                                 std::to_string(in.half[1]) + ", " + std::to_string(in.cross[0]) +
-                                 ", " + std::to_string(in.cross[1]) + ">(" + a + ", " + b + ")");
+        return define(index, word("gather") + (in_c() ? "(" : "<") + std::to_string(in.half[0]) +
+                                 ", " + std::to_string(in.half[1]) + ", " +
+                                 std::to_string(in.cross[0]) + ", " + std::to_string(in.cross[1]) +
+                                 (in_c() ? ", " : ">(") + a + ", " + b + ")");
       case Op::negate:
         return define(index, std::string(f32() && !in.wide ? "0.0f - " : "0.0 - ") + a);
       case Op::widen:
         return define(index, a);
       case Op::narrow:
-        return define(index, "static_cast<float>(" + a + ")");
+        return define(index,
+                      (in_c() ? "(float)" : "static_cast<float>(") + a + (in_c() ? "" : ")"));
       case Op::scale:
         return define(index, (scalar() ? std::string("scale") : scale_name(in)) + " * " + a);
       case Op::store:
         return line(scalar()
-                        ? "scalar::store(" + place("dst", subscripts_.destination, in.address[0]) +
-                              ", " + a + ");"
-                        : "Access::store(" + at("dst", in.address[0]) + ", " + a + ");");
+                        ? scalar_word("store") + "(" +
+                              place("dst", subscripts_.destination, in.address[0]) + ", " + a + ");"
+                        : access("store", at("dst", in.address[0]) + ", " + a) + ";");
       case Op::store_pair:
-        return line("lanes::store_pair(" + at("dst", in.address[0]) + ", " +
+        return line(word("store_pair") + "(" + at("dst", in.address[0]) + ", " +
                     at("dst", in.address[1]) + ", " + a + ");");
       case Op::store_single:
-        return line("lanes::store_single(" + at("dst", in.address[0]) + ", " + a + ");");
+        return line(word("store_single") + "(" + at("dst", in.address[0]) + ", " + a + ");");
       case Op::store_upper:
-        return line("lanes::store_upper(" + at("dst", in.address[0]) + ", " + a + ");");
+        return line(word("store_upper") + "(" + at("dst", in.address[0]) + ", " + a + ");");
       case Op::signed_add:
       case Op::join:
       case Op::merge:
@@ -454,6 +470,7 @@ class Printer {
   const Program& program_;
   const Subscripts& subscripts_;
   const std::vector<NamedConstant>& constants_;
+  Language language_;
   std::string text_;
   std::vector<Mark> marks_;
   int last_stored_ = 0;        ///< highest address of a store
@@ -493,29 +510,36 @@ ScaleFactors scale_factors(int points, FloatType type) {
           literal(rounded(Wide(1.0) / sqrt(n), type), type)};
 }
 
-std::string scale_members(int length, Divides divides, FloatType type) {
-  const auto member = [&](const char* name, const std::string& factor) {
-    return std::string("  static constexpr Float ") + name + " = " + factor + ";\n";
-  };
+std::array<std::string, 3> factors_by_flag(int length, Divides divides, FloatType type) {
   const ScaleFactors factors = scale_factors(length, type);
   const std::string one = literal(1.0, type);
-  return member("kFwdByN", divides == Divides::inverse ? one : factors.by_n) +
-         member("kInvByN", divides == Divides::forward ? one : factors.by_n) +
-         member("kBySqrtN", factors.by_root);
+  return {divides == Divides::inverse ? one : factors.by_n,
+          divides == Divides::forward ? one : factors.by_n, factors.by_root};
+}
+
+std::string scale_members(int length, Divides divides, FloatType type) {
+  constexpr const char* kNames[] = {"kFwdByN", "kInvByN", "kBySqrtN"};
+  const auto factors = factors_by_flag(length, divides, type);
+  std::string text;
+  for (std::size_t i = 0; i < factors.size(); ++i) {
+    text += std::string("  static constexpr Float ") + kNames[i] + " = " + factors[i] + ";\n";
+  }
+  return text;
 }
 
 std::string emit_body(const Program& program, const Subscripts& subscripts,
-                      const std::vector<NamedConstant>& constants) {
-  return Printer(program, subscripts, constants).run();
+                      const std::vector<NamedConstant>& constants, Language language) {
+  return Printer(program, subscripts, constants, language).run();
 }
 
-std::string emit_constants(const std::vector<NamedConstant>& constants, const std::string& before) {
+std::string emit_constants(const std::vector<NamedConstant>& constants, const std::string& before,
+                           Language language) {
   if (constants.empty()) return "";
   std::string text = before.substr(0, before.find_first_not_of(' '));
   text += "// cos_1_5 is cos(2 pi 1/5), and so on.\n";
   for (const NamedConstant& c : constants) {
-    text += before + "constexpr " + type_name(c.type) + " " + c.name + " = " +
-            literal(c.value, c.type) + ";\n";
+    text += before + (language == Language::c ? "const " : "constexpr ") + type_name(c.type) + " " +
+            c.name + " = " + literal(c.value, c.type) + ";\n";
   }
   return text;
 }

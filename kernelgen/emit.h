@@ -1,6 +1,7 @@
-// Prints a program as the body of a C++ function.
+// Prints a program as the body of a function, in C++ or in C.
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,12 @@
 #include "kernelgen/program.h"
 
 namespace haldgen::kernelgen {
+
+/// What is printed: C++ for the library, on the vocabulary of lanes/; or C that is C++ as well,
+/// with the same words as functions without a namespace. There, vector memory is told by a
+/// parameter `aligned`, and the function of an address is a table: Subscripts{"", "at"} makes
+/// `at[5]` of 5.
+enum class Language { cpp, c };
 
 /// Statements of a function body over `src`, `dst` (pointers to floats) and `scale`, one per
 /// instruction; programs over slots call `io` instead. Vector programs speak the vocabulary of
@@ -23,10 +30,12 @@ struct Subscripts {
 };
 /// Constants are printed by these names, others as literals.
 std::string emit_body(const Program& program, const Subscripts& subscripts = {},
-                      const std::vector<NamedConstant>& constants = {});
+                      const std::vector<NamedConstant>& constants = {},
+                      Language language = Language::cpp);
 
 /// Definitions of the constants, a line each, behind `before`: an indentation, perhaps "static ".
-std::string emit_constants(const std::vector<NamedConstant>& constants, const std::string& before);
+std::string emit_constants(const std::vector<NamedConstant>& constants, const std::string& before,
+                           Language language = Language::cpp);
 
 /// Whether memory is touched in a way that an aligned and an unaligned path do differently.
 bool has_whole_vector_access(const Program& program);
@@ -55,6 +64,9 @@ ScaleFactors scale_factors(int points, FloatType type);
 
 /// The members of a kernel's struct that hold the factors of its scaling flags.
 std::string scale_members(int length, Divides divides, FloatType type);
+
+/// Literals of the factors by flag: FwdByN, InvByN, BySqrtN.
+std::array<std::string, 3> factors_by_flag(int length, Divides divides, FloatType type);
 
 /// The shortest decimal literal that reads back as the same number.
 std::string literal(double value, FloatType type);

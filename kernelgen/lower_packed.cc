@@ -209,13 +209,6 @@ class PackedLowering {
     return emit(instruction);
   }
 
-  // Neighbours that an aligned array of pairs holds in one aligned vector.
-  bool whole_vector(const PackedNode& n) const {
-    if (graph_.halves == 1) return true;
-    return graph_.access != Access::singles && n.element[0] && *n.element[0] % 2 == 0 &&
-           n.element[1] == *n.element[0] + 1;
-  }
-
   static std::array<int, 2> addresses(const PackedNode& n) {
     return {2 * n.element[0].value_or(0), 2 * n.element[1].value_or(0)};
   }
@@ -223,7 +216,7 @@ class PackedLowering {
   int load(const PackedNode& n) {
     Instruction instruction;
     instruction.address = addresses(n);
-    if (whole_vector(n)) {
+    if (is_whole(graph_, n)) {
       instruction.op = Op::load;
     } else {
       instruction.op = n.element[1] ? Op::load_pair : Op::load_single;
@@ -247,7 +240,7 @@ class PackedLowering {
     instruction.a =
         scale(held(n.a, demand_of(n, choice(node)).a), static_cast<int>(choice(node).lowering));
     instruction.address = addresses(n);
-    if (whole_vector(n)) {
+    if (is_whole(graph_, n)) {
       instruction.op = Op::store;
     } else if (n.element[0] && n.element[1]) {
       instruction.op = Op::store_pair;

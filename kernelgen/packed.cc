@@ -426,6 +426,35 @@ int instructions(const PackedGraph& graph) {
 
 }  // namespace
 
+bool is_whole(const PackedGraph& graph, const PackedNode& node) {
+  if (graph.halves == 1) return true;
+  const auto& [lower, upper] = node.element;
+  return graph.access != Access::singles && lower && *lower % 2 == 0 && upper == *lower + 1;
+}
+
+int vector_operations(const PackedGraph& graph) {
+  const auto accesses = [&](const PackedNode& node) {
+    return is_whole(graph, node) ? 1 : (node.element[0] ? 1 : 0) + (node.element[1] ? 1 : 0);
+  };
+  int count = 0;
+  for (const PackedNode& node : graph.nodes) {
+    switch (node.kind) {
+      case PackedKind::load:
+        count += accesses(node);
+        break;
+      case PackedKind::store:
+        count += 1 + accesses(node);  // and the scale
+        break;
+      case PackedKind::rotate:
+        count += 4;  // two products, their sum, an exchange
+        break;
+      default:
+        ++count;
+    }
+  }
+  return count;
+}
+
 PackedGraph pack(const Graph& graph, int elements_per_vector, Access access) {
   PackedGraph best = Packer(graph, elements_per_vector, access, 0).run();
   if (elements_per_vector == 1) return best;

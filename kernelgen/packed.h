@@ -50,6 +50,13 @@ struct PackedGraph {
   std::vector<PackedNode> nodes;
 };
 
+/// Whether a load or store moves a whole vector: neighbours that an aligned array of pairs holds in
+/// an aligned vector. Others move element by element.
+bool is_whole(const PackedGraph& graph, const PackedNode& node);
+
+/// About as many instructions as the packed graph becomes, whatever forms its values are held in.
+int vector_operations(const PackedGraph& graph);
+
 /// `elements_per_vector` is 1 or 2; `access` matters to 2 only.
 PackedGraph pack(const Graph& graph, int elements_per_vector, Access access = Access::pairs);
 

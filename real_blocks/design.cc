@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "kernelgen/count.h"
 #include "kernelgen/lower.h"
 #include "kernelgen/orient.h"
 #include "kernelgen/stage.h"
@@ -130,6 +131,11 @@ Graph graph_of(const Design& design) {
   const Graph spectrum = kernelgen::fold_products(half_spectrum(design.recipe), design.fold);
   const Graph graph = structured(spectrum, design.structure, length);
   return kernelgen::order_terms(oriented(graph, design));
+}
+
+int operations_of(const Design& design) {
+  const kernelgen::Counts counts = count(graph_of(design));
+  return counts.additions + counts.multiplications;
 }
 
 kernelgen::Program program_of(const Design& design, FloatType type) {

@@ -44,6 +44,9 @@ Design turned(Design design, std::vector<kernelgen::Way> differences);
 /// have the sign that the design asks for.
 kernelgen::Graph graph_of(const Design& design);
 
+/// Additions and multiplications of the graph.
+int operations_of(const Design& design);
+
 /// The program, not yet scheduled.
 kernelgen::Program program_of(const Design& design, kernelgen::FloatType type);
 

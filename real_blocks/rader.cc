@@ -14,6 +14,17 @@ struct Convolution {
   int prime;
   int root;
   int shift;
+  std::vector<Wide> cosines;  ///< at the outputs
+  std::vector<Wide> sines;    ///< negative, as the transform has them
+  std::vector<WideComplex> roots;
+
+  Convolution(int p, int first) : prime(p), root(kernelgen::primitive_root(p)), shift(first) {
+    for (int r = 0; r < length(); ++r) {
+      cosines.push_back(kernelgen::cos_turn(output(r), prime));
+      sines.push_back(-kernelgen::sin_turn(output(r), prime));
+      roots.push_back(kernelgen::root(length(), r));
+    }
+  }
 
   int length() const { return prime - 1; }
   int half() const { return length() / 2; }
@@ -24,15 +35,9 @@ struct Convolution {
   /// Bin j of the spectrum of cosines (even j) or of -sines (odd j) at the outputs, which as a
   /// whole is real or imaginary symmetric: its two parts.
   WideComplex spectrum(int j) const {
+    const std::vector<Wide>& kernel = j % 2 == 0 ? cosines : sines;
     WideComplex sum;
-    for (int r = 0; r < length(); ++r) {
-      const int k = output(r);
-      const Wide cosine = kernelgen::cos_turn(k, prime);
-      const Wide sine = -kernelgen::sin_turn(k, prime);
-      const Wide kernel = j % 2 == 0 ? cosine : sine;
-      const int turn = j * r % length();
-      sum = sum + kernel * kernelgen::root(length(), turn);
-    }
+    for (int r = 0; r < length(); ++r) sum = sum + kernel[at(r)] * roots[at(j * r % length())];
     return sum;
   }
 };
@@ -50,7 +55,7 @@ Graph side_graph(const Recipe& recipe, bool odd) {
 
 Bins rader_bins(Graph& g, const Recipe& recipe, const Reals& x) {
   const int prime = recipe.length;
-  const Convolution c{prime, kernelgen::primitive_root(prime), recipe.chosen<Rader>().shift};
+  const Convolution c(prime, recipe.chosen<Rader>().shift);
   const int m = c.half();
   const Wide length(c.length());
 

@@ -11,6 +11,19 @@ namespace {
 using names::Element;
 using registry::Export;
 
+/// The linked functions.
+std::vector<Export> linked_exports() {
+  std::vector<Export> all;
+  for (const frame::LinkedFunction& f : frame::linked_functions()) {
+    for (const names::Word& word : registry::words()) {
+      if (word.word == f.word && word.signature == f.signature) {
+        all.push_back({std::string(f.name), &word, f.element, f.size});
+      }
+    }
+  }
+  return all;
+}
+
 // A work area of the calling thread, 16-byte aligned, for any order.
 std::uint8_t* work_area() {
   thread_local std::vector<std::max_align_t> area((std::size_t{1} << 17) /
@@ -57,7 +70,7 @@ void add(const Export& entry, Live<Float>& all) {
 
 template <class Float, class Real, class Complex>
 Live<Float> find(Element real, Element complex) {
-  static const std::vector<Export> exports = registry::exports();
+  static const std::vector<Export> exports = linked_exports();
   Live<Float> all;
   for (const Export& entry : exports) {
     if (entry.word->usage.scaling == names::Scaling::none) continue;

@@ -19,6 +19,7 @@ configure() {
 configure build 8.1 >/dev/null
 "$cmake" --build "$scratch/build" >/dev/null
 "$scratch/build/consumer"
+"$scratch/build/kernels"
 "$scratch/build/consumer_cpp"
 "$scratch/build/static_consumer"
 if readelf -d "$scratch/build/static_consumer" | grep hald; then

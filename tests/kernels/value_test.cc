@@ -6,6 +6,7 @@
 #include "dft_complex/recipes.h"
 #include "dft_real/recipes.h"
 #include "hartley/recipes.h"
+#include "kernelgen/design_table.h"
 #include "kernelgen/evaluate.h"
 #include "tests/built/library.h"
 
@@ -17,6 +18,13 @@ using kernelgen::FloatType;
 using kernelgen::Wide;
 using kernelgen::WideComplex;
 using Inputs = std::vector<WideComplex>;
+
+/// The library's lengths and those for which there are rules.
+std::set<int> all_lengths(std::string_view word) {
+  std::set<int> lengths = lengths_of(word);
+  for (int n = *lengths.rbegin() + 1; n <= kernelgen::kLongestByRule; ++n) lengths.insert(n);
+  return lengths;
+}
 
 /// Random numbers, or complex ones.
 Inputs random_inputs(int count, bool complex) {
@@ -51,7 +59,7 @@ void expect_sums(const kernelgen::Graph& graph, int count, bool complex, const s
 }
 
 TEST(Value, OfComplexGraphs) {
-  for (const int n : lengths_of("DFTFwd_CToC")) {
+  for (const int n : all_lengths("DFTFwd_CToC")) {
     for (const auto type : {FloatType::f32, FloatType::f64}) {
       expect_sums(graph_of(dft_complex::design_of(n, type)), n, true,
                   std::to_string(n) + std::string(type == FloatType::f32 ? "32fc" : "64fc"),
@@ -66,7 +74,7 @@ TEST(Value, OfRealGraphs) {
     const WideComplex turn = root((i + 1) / 2 * j);
     return WideComplex{i > 0 && i % 2 == 0 ? turn.im : turn.re, 0.0};
   };
-  for (const int n : lengths_of("DFTFwd_RToCCS")) {
+  for (const int n : all_lengths("DFTFwd_RToCCS")) {
     const std::string name = std::to_string(n);
     expect_sums(graph_of(dft_real::design_of(n, Direction::forward)), n, false, name + " forward",
                 forward);
@@ -79,7 +87,7 @@ TEST(Value, OfRealGraphs) {
 }
 
 TEST(Value, OfHartleyGraphs) {
-  for (const int n : lengths_of("Hartley")) {
+  for (const int n : all_lengths("Hartley")) {
     expect_sums(graph_of(hartley::design_of(n)), n, false, std::to_string(n),
                 [](const auto& root, int j, int k) {
                   const WideComplex turn = root(j * k);

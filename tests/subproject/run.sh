@@ -24,8 +24,14 @@ for linked in haldgenp8 haldgenp8_static haldbatch haldbatch_static; do
   [ "$(steps "user_of_$linked")" -gt 600 ] || fail "$linked without its kernels"
 done
 
-"$cmake" --build "$scratch" >"$scratch/log" 2>&1 || { cat "$scratch/log"; fail "no build"; }
+for target in all kernels; do
+  "$cmake" --build "$scratch" --target "$target" >"$scratch/log" 2>&1 || {
+    cat "$scratch/log"
+    fail "no build of $target"
+  }
+done
 "$scratch/consumer"
+"$scratch/kernels"
 readelf -d "$(find "$scratch" -name 'libhaldcore.so')" | grep -q PATH && fail "a run path"
 "$cmake" --install "$scratch" >/dev/null
 [ "$(find "$scratch/prefix" -type f)" = "$scratch/prefix/bin/consumer" ] || fail "installs more"
