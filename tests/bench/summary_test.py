@@ -28,7 +28,7 @@ ROWS = [
 ]
 
 
-def screen(load="0.31", **chosen):
+def screen(load="1.31", **chosen):
     with tempfile.TemporaryDirectory() as folder:
         path = Path(folder) / "results.tsv"
         path.write_text(HEAD.format(load=load) + "\n".join(ROWS).replace(" ", "\t") + "\n")
@@ -37,7 +37,7 @@ def screen(load="0.31", **chosen):
 
 
 lines = screen()
-assert "BUSY" in lines[1] and "BUSY" not in screen("0.30")[1], lines[1]
+assert "BUSY" in lines[1] and "BUSY" not in screen("1.29")[1], lines[1]
 assert [line.split() for line in lines[3:]] == [
     "family type lengths hot: /best faster worst /n /old /bound ring".split(),
     "DFTFwd_CToC 32fc 8..12 4.000 0 of 2 8.00 at 12 (b) 1.000 4.000 5.000 3.000".split(),  # bound: 4 + 32 / 4 * 0.5
