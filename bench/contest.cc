@@ -1,24 +1,19 @@
 // What is measured.
 #include "bench/contest.h"
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
-#include <fstream>
+#include <random>
+#include <regex>
 #include <stdexcept>
 #include <tuple>
 #include <utility>
 
-#include "bench/calibration.h"
 #include "bench/core/arena.h"
 #include "bench/core/duel.h"
+#include "bench/peers/peers.h"
 
 namespace haldgen::bench {
 namespace {
-
-std::string type_of(const registry::Export& function) {
-  return std::string(names::suffix(function.element));
-}
 
 /// The function itself, or a planned transform at each of its lengths.
 std::vector<registry::Export> measured_sizes(const registry::Export& function) {
@@ -32,8 +27,10 @@ std::vector<registry::Export> measured_sizes(const registry::Export& function) {
 }
 
 bool wanted(const Options& options, const registry::Export& function) {
+  const auto& types = options.types;
   return (options.lengths.empty() || options.lengths.contains(function.size)) &&
-         (options.types.empty() || options.types.contains(type_of(function)));
+         (types.empty() ||
+          std::find(types.begin(), types.end(), names::suffix(function.element)) != types.end());
 }
 
 /// The functions of the library and, if they are asked for, of kernels that stand alone and have
@@ -52,22 +49,14 @@ std::vector<registry::Export> functions(const Options& options) {
   return all;
 }
 
-OperationCounts read_counts(const std::filesystem::path& path) {
-  if (path.empty()) return {};
-  std::ifstream file(path);
-  if (!file) throw std::runtime_error("cannot read " + path.string());
-  return OperationCounts::read(file);
-}
-
 }  // namespace
 
 std::vector<Kernel> selected_kernels(const Options& options) {
   std::vector<Kernel> kernels;
   for (const registry::Export& function : functions(options)) {
     for (const registry::Export& sized : measured_sizes(function)) {
-      std::shared_ptr<const Problem> problem = problem_of(sized);
-      if (!problem || !wanted(options, sized)) continue;
-      kernels.push_back({sized, std::move(problem)});
+      const std::optional<Problem> problem = problem_of(sized);
+      if (problem && wanted(options, sized)) kernels.push_back({sized, *problem});
     }
   }
   std::sort(kernels.begin(), kernels.end(), [](const Kernel& a, const Kernel& b) {
@@ -83,47 +72,56 @@ std::vector<Kernel> selected_kernels(const Options& options) {
 class Contest::Lineup {
  public:
   Lineup(Contest& contest, Kernel kernel)
-      : contest_(contest), kernel_(std::move(kernel)), source_(kernel_.problem->source()) {}
+      : contest_(contest), kernel_(std::move(kernel)), source_(random_source(kernel_.problem)) {}
 
   const Kernel& kernel() const { return kernel_; }
-  const std::vector<std::byte>& source() const { return source_; }
 
-  /// Empty if there is no kernel to compare with. The contestants are made and checked at the
-  /// first call, since planning takes time; `walk` must hold the source.
-  const std::vector<Contestant>& contestants(const Walk& walk) {
-    if (!assembled_) assemble(walk);
+  /// Fills the arena with the source. Empty if there is no kernel to compare with. The contestants
+  /// are made and checked at the first call, since planning takes time.
+  const std::vector<Contestant>& contestants(Arena& arena) {
+    if (!assembled_) assemble(arena);
     assembled_ = true;
+    arena.fill_sources(source_);
     return contestants_;
   }
 
  private:
-  void assemble(const Walk& walk) {
-    const registry::Export& function = kernel_.function;
-    admit(contest_.library_.contestant(function, "haldgen", Role::subject), walk);
-    if (contestants_.empty()) {
-      contest_.faults_.push_back(function.name + ": not measured");
-      return;
-    }
+  void assemble(Arena& arena) {
+    const auto& [function, problem] = kernel_;
+    std::vector<Contestant> candidates;
+    const auto add = [&candidates](std::optional<Contestant> candidate) {
+      if (candidate) candidates.push_back(std::move(*candidate));
+    };
+    add(contest_.library_.contestant(function, "haldgen", Role::subject));
     for (std::size_t i = 0; i < contest_.variants_.size(); ++i) {
       const std::string& label = contest_.options_.variants[i].label;
-      admit(contest_.variants_[i]->contestant(function, label, Role::variant), walk);
+      add(contest_.variants_[i]->contestant(function, label, Role::variant));
     }
-    for (Contestant& rival : kernel_.problem->rivals()) admit(std::move(rival), walk);
-    for (Contestant& yardstick : kernel_.problem->yardsticks()) {
-      contestants_.push_back(std::move(yardstick));
-    }
-    contestants_.push_back(null_call_contestant());
-    contestants_.push_back(vector_add_contestant(function.element));
-  }
-
-  void admit(std::optional<Contestant> contestant, const Walk& walk) {
-    if (!contestant) return;
-    const std::string fault = kernel_.problem->fault(*contestant, walk, source_);
-    if (fault.empty()) {
-      contestants_.push_back(std::move(*contestant));
+    if (problem.transform == Transform::wht) {
+      for (Contestant& loop : plain_wht_contestants(problem)) add(std::move(loop));
     } else {
-      contest_.faults_.push_back(kernel_.function.name + ": " + contestant->name + ": " + fault);
+      for (const FftwWidth width : {FftwWidth::full, FftwWidth::narrow}) {
+        add(fftw_contestant(problem, {}, arena.walk(), width, FftwEffort::patient));
+      }
+      add(kissfft_contestant(problem));
+      add(av_tx_contestant(problem));
     }
+    arena.fill_sources(source_);
+    const Check check(problem, source_);
+    for (Contestant& candidate : candidates) {
+      const std::string fault = check.fault(candidate, arena.walk());
+      if (fault.empty()) {
+        contestants_.push_back(std::move(candidate));
+      } else {
+        contest_.faults_.push_back(function.name + ": " + candidate.name + ": " + fault);
+      }
+    }
+    if (contestants_.empty() || contestants_.front().role != Role::subject) {
+      contest_.faults_.push_back(function.name + ": not measured");
+      contestants_.clear();
+      return;
+    }
+    for (Contestant& yardstick : yardsticks(problem)) contestants_.push_back(std::move(yardstick));
   }
 
   Contest& contest_;
@@ -133,104 +131,74 @@ class Contest::Lineup {
   bool assembled_ = false;
 };
 
-/// One kernel in one mode: a benchmark of which every repetition adds rounds.
+/// One kernel in one mode. Every visit adds rounds.
 class Contest::Bout {
  public:
-  Bout(const Contest& contest, std::shared_ptr<Lineup> lineup, Mode mode)
-      : contest_(contest), lineup_(std::move(lineup)), mode_(mode) {}
+  Bout(std::shared_ptr<Lineup> lineup, Mode mode) : lineup_(std::move(lineup)), mode_(mode) {}
 
   std::string title() const {
-    const registry::Export& function = lineup_->kernel().function;
-    return std::string(function.word->word) + "/" + type_of(function) + "/" +
-           std::to_string(function.size) + "/" + std::string(name(mode_));
+    const auto& [function, problem] = lineup_->kernel();
+    return problem.word() + "/" + problem.type() + "/" + std::to_string(function.size) + "/" +
+           std::string(name(mode_));
   }
 
-  void run(benchmark::State& state) {
-    if (!duel_ && !prepare()) {
-      state.SkipWithError("no kernel to measure");
-      return;
+  void visit(int rounds, double slice_ns) {
+    if (!arena_) {
+      const Problem& problem = lineup_->kernel().problem;
+      arena_.emplace(mode_, problem.source_bytes(), problem.result_bytes());
+      const std::vector<Contestant>& contestants = lineup_->contestants(*arena_);
+      if (!contestants.empty()) duel_.emplace(contestants, arena_->walk(), slice_ns);
     }
-    for (const auto& iteration : state) {
-      static_cast<void>(iteration);
-      duel_->round();
-      state.SetIterationTime(duel_->samples().front().back() * 1e-9);
-    }
-    const std::optional<Measurement> so_far = result();
-    if (!so_far) return;
-    for (const Series& series : so_far->series) {
-      state.counters[series.name + "_median_ns"] = evaluate(Statistic::median, series.samples);
-      state.counters[series.name + "_min_ns"] = evaluate(Statistic::minimum, series.samples);
-    }
+    for (int round = 0; duel_ && round < rounds; ++round) duel_->round();
   }
 
-  /// All rounds so far; none before the first.
-  std::optional<Measurement> result() const {
-    if (!duel_ || duel_->samples().front().empty()) return std::nullopt;
-    const registry::Export& function = lineup_->kernel().function;
-    Measurement measurement{
-        mode_, std::string(function.word->word), type_of(function), function.size, std::nullopt,
-        {}};
-    const Problem& problem = *lineup_->kernel().problem;
-    if (const auto work = problem.work(contest_.counts_)) {
-      measurement.vector_additions = work->additions;
-      measurement.conversions = work->conversions;
-    }
-    measurement.sized_by_order = problem.sized_by_order();
-    measurement.bytes = lineup_->source().size() + problem.result_bytes();
-    const std::vector<Contestant>& contestants = lineup_->contestants(arena_->walk());
-    for (std::size_t i = 0; i < contestants.size(); ++i) {
-      Series series{contestants[i].name, contestants[i].role, duel_->samples()[i]};
-      if (series.name == vector_add_name) {
-        for (double& sample : series.samples) sample /= vector_adds_per_call;
-      }
-      if (series.name == convert_name) {
-        for (double& sample : series.samples) sample /= conversions_per_call;
-      }
-      measurement.series.push_back(std::move(series));
-    }
-    return measurement;
+  /// All rounds so far; none without a kernel.
+  std::optional<Measurement> result() {
+    if (!duel_) return std::nullopt;
+    const Problem& problem = lineup_->kernel().problem;
+    return measurement(*duel_, std::string(name(mode_)), problem.word(), problem.type(),
+                       problem.length);
   }
 
  private:
-  bool prepare() {
-    const std::vector<std::byte>& source = lineup_->source();
-    arena_.emplace(mode_, source.size(), lineup_->kernel().problem->result_bytes());
-    arena_->fill_sources(source);
-    const std::vector<Contestant>& contestants = lineup_->contestants(arena_->walk());
-    if (contestants.empty()) return false;
-    duel_.emplace(contestants, arena_->walk(), contest_.options_.slice_us * 1000);
-    return true;
-  }
-
-  const Contest& contest_;
   std::shared_ptr<Lineup> lineup_;
   Mode mode_;
   std::optional<Arena> arena_;
   std::optional<Duel> duel_;
 };
 
-Contest::Contest(const Options& options)
-    : options_(options), counts_(read_counts(options.counts)), library_(options.library) {
+Contest::Contest(const Options& options) : options_(options), library_(options.library) {
   for (const Variant& variant : options.variants) {
     variants_.push_back(std::make_unique<KernelLibrary>(variant.path));
   }
+  const std::regex filter(options.filter);
+  for (Kernel& kernel : selected_kernels(options)) {
+    const auto lineup = std::make_shared<Lineup>(*this, std::move(kernel));
+    for (const Mode mode : options_.modes) {
+      auto bout = std::make_unique<Bout>(lineup, mode);
+      if (std::regex_search(bout->title(), filter)) bouts_.push_back(std::move(bout));
+    }
+  }
+  if (bouts_.empty()) throw std::runtime_error("there is no such kernel to measure");
 }
 
 Contest::~Contest() = default;
 
-void Contest::register_benchmarks() {
-  for (Kernel& kernel : selected_kernels(options_)) {
-    const auto lineup = std::make_shared<Lineup>(*this, std::move(kernel));
-    for (const Mode mode : options_.modes) {
-      const auto bout = std::make_shared<Bout>(*this, lineup, mode);
-      bouts_.push_back(bout);
-      benchmark::RegisterBenchmark(bout->title().c_str(),
-                                   [bout](benchmark::State& state) { bout->run(state); })
-          ->Iterations(options_.rounds)
-          ->Repetitions(options_.repetitions)
-          ->UseManualTime()
-          ->Unit(benchmark::kNanosecond);
-    }
+std::vector<std::string> Contest::titles() const {
+  std::vector<std::string> titles;
+  for (const auto& bout : bouts_) titles.push_back(bout->title());
+  return titles;
+}
+
+void Contest::run(const std::function<void(double done, const std::string& title)>& progress) {
+  std::vector<Bout*> visits;
+  for (int i = 0; i < options_.repetitions; ++i) {
+    for (const auto& bout : bouts_) visits.push_back(bout.get());
+  }
+  std::shuffle(visits.begin(), visits.end(), std::mt19937_64(std::random_device()()));
+  for (std::size_t i = 0; i < visits.size(); ++i) {
+    progress(static_cast<double>(i) / static_cast<double>(visits.size()), visits[i]->title());
+    visits[i]->visit(options_.rounds, options_.slice_us * 1000);
   }
 }
 
@@ -243,12 +211,12 @@ std::vector<Measurement> Contest::measurements() const {
   return measurements;
 }
 
-std::string Contest::describe() const {
-  std::string text = "haldgen: " + library_.path().string() + "\n";
+Head Contest::describe() const {
+  Head head = {{"haldgen", library_.path()}};
   for (std::size_t i = 0; i < variants_.size(); ++i) {
-    text += options_.variants[i].label + ": " + variants_[i]->path().string() + "\n";
+    head.emplace_back(options_.variants[i].label, variants_[i]->path());
   }
-  return text;
+  return head;
 }
 
 }  // namespace haldgen::bench

@@ -1,12 +1,12 @@
-// What is measured: every built kernel in every mode, each one a benchmark of Google Benchmark.
+// What is measured: every built kernel in every mode.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "bench/core/counts.h"
-#include "bench/core/report.h"
+#include "bench/core/results.h"
 #include "bench/haldgen_kernels.h"
 #include "bench/options.h"
 #include "bench/problem.h"
@@ -17,7 +17,7 @@ namespace haldgen::bench {
 /// A kernel of the table together with the transform that it computes.
 struct Kernel {
   registry::Export function;
-  std::shared_ptr<const Problem> problem;
+  Problem problem;
 };
 
 /// The built fixed-length kernels that the options ask for, ordered by family, type and length.
@@ -26,34 +26,37 @@ std::vector<Kernel> selected_kernels(const Options& options);
 /// Holds the libraries that are open and collects the results.
 class Contest {
  public:
-  /// Opens the libraries and reads the counts. Throws std::runtime_error on failure.
+  /// Opens the libraries. Throws std::runtime_error on failure, and when nothing is selected.
   explicit Contest(const Options& options);
   ~Contest();
   Contest(const Contest&) = delete;
   Contest& operator=(const Contest&) = delete;
 
-  /// Registers one benchmark per kernel and mode, "family/type/length/mode". One iteration is one
-  /// round of all contestants; its time is that of one call of the kernel under test.
-  void register_benchmarks();
+  /// "family/type/length/mode" of each kernel and mode.
+  std::vector<std::string> titles() const;
 
-  /// What has been measured, in the order of registration.
+  /// Visits all in random order, as often as the options say, so that a busy spell of the machine
+  /// spoils one visit and not a kernel. Calls `progress` with the part of the work that is done and
+  /// the title that comes next.
+  void run(const std::function<void(double done, const std::string& title)>& progress);
+
+  /// What has been measured, ordered as the kernels are.
   std::vector<Measurement> measurements() const;
 
   /// What went wrong, one line each. A contestant that fails its check is not measured.
   const std::vector<std::string>& faults() const { return faults_; }
 
-  /// One line for each library that is open.
-  std::string describe() const;
+  /// The libraries that are open.
+  Head describe() const;
 
  private:
   class Lineup;
   class Bout;
 
   const Options& options_;
-  OperationCounts counts_;
   KernelLibrary library_;
   std::vector<std::unique_ptr<KernelLibrary>> variants_;
-  std::vector<std::shared_ptr<Bout>> bouts_;
+  std::vector<std::unique_ptr<Bout>> bouts_;
   std::vector<std::string> faults_;
 };
 

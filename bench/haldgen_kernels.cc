@@ -17,13 +17,6 @@ using Kernel = std::int32_t (*)(const void* src, void* dst, std::int32_t flag);
 using BufferedKernel = std::int32_t (*)(const void* src, void* dst, std::int32_t flag,
                                         std::uint8_t* buffer);
 
-Slice slice_of(Kernel kernel) {
-  return [kernel](const Walk& walk, std::int64_t calls) {
-    walk_calls(walk, calls,
-               [kernel](const std::byte* src, std::byte* dst) { kernel(src, dst, haldScaleNone); });
-  };
-}
-
 // A quarter page off the start of a page: source and destination begin at other quarters.
 struct WorkBuffer {
   static constexpr std::size_t page = 4096;
@@ -38,26 +31,9 @@ struct WorkBuffer {
   std::uint8_t* data() const { return block.get() + page / 4; }
 };
 
-Slice slice_of(BufferedKernel kernel, std::size_t buffer_bytes) {
-  const auto buffer = std::make_shared<WorkBuffer>(buffer_bytes);
-  return [kernel, buffer](const Walk& walk, std::int64_t calls) {
-    walk_calls(walk, calls, [kernel, area = buffer->data()](const std::byte* src, std::byte* dst) {
-      kernel(src, dst, haldScaleNone, area);
-    });
-  };
-}
-
 using Planned = std::int32_t (*)(const void* src, void* dst, Dct4State* state);
 using PlanInit = std::int32_t (*)(Dct4State** state, std::int32_t length);
 using PlanFree = std::int32_t (*)(Dct4State* state);
-
-Slice slice_of(Planned transform, const std::shared_ptr<Dct4State>& state) {
-  return [transform, state](const Walk& walk, std::int64_t calls) {
-    walk_calls(walk, calls, [transform, s = state.get()](const std::byte* src, std::byte* dst) {
-      transform(src, dst, s);
-    });
-  };
-}
 
 }  // namespace
 
@@ -74,14 +50,30 @@ std::optional<Contestant> KernelLibrary::contestant(const registry::Export& func
                                                     const std::string& name, Role role) const {
   void* const address = dlsym(handle_.get(), function.name.c_str());
   if (address == nullptr) return std::nullopt;
-  if (function.word->signature == names::Signature::buffered_transform) {
-    const std::size_t bytes = buffer_bytes(function);
-    return Contestant{name, role, slice_of(reinterpret_cast<BufferedKernel>(address), bytes)};
+  switch (function.word->signature) {
+    case names::Signature::buffered_transform: {
+      const auto buffer = std::make_shared<WorkBuffer>(buffer_bytes(function));
+      return contestant_of(
+          name, role,
+          [kernel = reinterpret_cast<BufferedKernel>(address), area = buffer->data()](
+              const std::byte* src, std::byte* dst) { kernel(src, dst, haldScaleNone, area); },
+          buffer);
+    }
+    case names::Signature::planned_transform: {
+      const auto state = state_of(function);
+      return contestant_of(
+          name, role,
+          [kernel = reinterpret_cast<Planned>(address), state = state.get()](
+              const std::byte* src, std::byte* dst) { kernel(src, dst, state); },
+          state);
+    }
+    default:
+      return contestant_of(
+          name, role,
+          [kernel = reinterpret_cast<Kernel>(address)](const std::byte* src, std::byte* dst) {
+            kernel(src, dst, haldScaleNone);
+          });
   }
-  if (function.word->signature == names::Signature::planned_transform) {
-    return Contestant{name, role, slice_of(reinterpret_cast<Planned>(address), state_of(function))};
-  }
-  return Contestant{name, role, slice_of(reinterpret_cast<Kernel>(address))};
 }
 
 std::shared_ptr<Dct4State> KernelLibrary::state_of(const registry::Export& function) const {

@@ -1,8 +1,8 @@
 // The command line of haldgen_bench.
 #pragma once
 
+#include <CLI/CLI.hpp>
 #include <filesystem>
-#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,26 +18,28 @@ struct Variant {
 };
 
 struct Options {
-  std::set<int> lengths;        ///< empty for all
-  std::set<std::string> types;  ///< element suffixes; empty for all
+  std::set<int> lengths;           ///< empty for all
+  std::vector<std::string> types;  ///< element suffixes; empty for all
   std::vector<Mode> modes = {Mode::hot, Mode::ring};
   int repetitions = 3;  ///< visits to a kernel and mode, spread over the run
   int rounds = 100;     ///< rounds per visit
   double slice_us = 30;
-  std::string filter;             ///< regular expression on benchmark names; empty for all
-  std::filesystem::path out;      ///< folder for tables and pictures; empty for none
-  std::filesystem::path counts;   ///< operation counts; empty for none
+  std::string filter;             ///< regular expression on names of measurements; empty for all
+  std::filesystem::path out;      ///< folder for the table; empty for standard output
   std::filesystem::path library;  ///< the build under test
   std::vector<Variant> variants;
-  bool flavours = false;  ///< those of the library are further variants
   bool show_plans = false;
-  bool help = false;
-  std::vector<std::string> front_end;  ///< arguments for Google Benchmark
+  bool list = false;
 };
 
-/// Throws std::invalid_argument with a message for users.
-Options parse_options(int argc, char** argv, const std::filesystem::path& default_library);
+/// An option with a list of lengths, such as "8,16,20-24".
+void add_lengths(CLI::App& app, std::set<int>& lengths, const std::string& help);
 
-void print_help(std::ostream& out);
+/// What main returns when the arguments end the program: 0 after help, 2 after an error.
+int exit_status(const CLI::App& app, const CLI::ParseError& error);
+
+/// Fills `options` from the command line; `options.library` holds the default. Throws
+/// CLI::ParseError.
+void parse_options(CLI::App& app, int argc, char** argv, Options& options);
 
 }  // namespace haldgen::bench

@@ -6,12 +6,13 @@
 """
 import argparse
 import collections
-import csv
+from pathlib import Path
 
 import matplotlib
 
 matplotlib.use("Agg")
 import matplotlib.pyplot as plt
+import summary
 
 KINDS = [
     ("DFTFwd_CToC", "32fc"),
@@ -25,22 +26,20 @@ LAYOUTS = ["rows", "columns"]
 def times(path, place):
     """Nanoseconds by (word, type, layout, contestant), then by length."""
     found = collections.defaultdict(dict)
-    with open(path, newline="") as file:
-        for row in csv.DictReader(file, delimiter="\t"):
-            if row["ns per transform"] is None:
-                break  # the table of means behind the measurements
-            if row["place"] == place:
-                key = row["word"], row["type"], row["layout"], row["contestant"]
-                found[key][int(row["length"])] = float(row["ns per transform"])
+    for row in summary.read(Path(path)).rows:
+        layout, _, room = row.mode.partition("/")
+        if room == place and row.statistic == "median":
+            for name, time in row.times.items():
+                found[row.family, row.type, layout, name][row.length] = time
     return found
 
 
 def draw(measured, caption, picture):
-    builds = sorted({key[3] for key in measured if key[3].endswith(" bits")})
+    builds = sorted({key[3] for key in measured if key[3].endswith("_bits")})
     figure, axes = plt.subplots(len(KINDS), len(LAYOUTS), figsize=(11, 11), sharey=True)
     for line, (word, element) in zip(axes, KINDS):
         for axis, layout in zip(line, LAYOUTS):
-            fftw = measured[word, element, layout, "FFTW"]
+            fftw = measured[word, element, layout, "fftw"]
             lengths = sorted(fftw)
             for i, build in enumerate(builds):
                 ours = measured[word, element, layout, build]
@@ -51,7 +50,7 @@ def draw(measured, caption, picture):
                     [ours[n] / fftw[n] - 1 for n in lengths],
                     width,
                     bottom=1,
-                    label=build,
+                    label=build.replace("_", " "),
                 )
             axis.axhline(1, color="0.2", linewidth=0.8)
             axis.set_yscale("log", base=2)

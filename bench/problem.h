@@ -1,47 +1,58 @@
-// A transform to be measured: its data, the check that a contestant computes it, who else does.
+// A transform to be measured: its data, and the check that a contestant computes it.
 #pragma once
 
 #include <cstddef>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "bench/core/contestant.h"
-#include "bench/core/counts.h"
 #include "registry/registry.h"
 
 namespace haldgen::bench {
 
+/// Half spectra are in CCS format, the layout of the other libraries.
+enum class Transform { dft, inverse_dft, real, inverse_real, hartley, wht, dct4 };
+
 /// A transform without scaling.
-class Problem {
- public:
-  virtual ~Problem() = default;
+struct Problem {
+  Transform transform;
+  names::Element element;
+  int length;
 
-  /// The bytes of random samples from [-1, 1), the same for every program run.
-  virtual std::vector<std::byte> source() const = 0;
-  virtual std::size_t result_bytes() const = 0;
-
-  /// Runs one call on the first pair of the walk, whose source is `source`. Returns what is wrong:
-  /// an error larger than rounding explains, or a changed source. Empty if all is well.
-  virtual std::string fault(const Contestant& contestant, const Walk& walk,
-                            std::span<const std::byte> source) const = 0;
-
-  /// Whom the kernel meets.
-  virtual std::vector<Contestant> rivals() const = 0;
-
-  /// What needs no check: copies and the like, which say what the machine can do.
-  virtual std::vector<Contestant> yardsticks() const { return {}; }
-
-  /// Instructions of the kernel that add or convert; none if they are not known.
-  virtual std::optional<OperationCounts::Counts> work(const OperationCounts& counts) const = 0;
-
-  /// Whether the size in the kernel's name is the order of a transform of 2^order points.
-  virtual bool sized_by_order() const { return false; }
+  std::string word() const;  ///< of exported names
+  std::string type() const { return std::string(names::suffix(element)); }
+  bool is_float() const;
+  bool is_inverse() const;
+  std::size_t float_bytes() const { return is_float() ? sizeof(float) : sizeof(double); }
+  std::size_t source_floats() const;
+  std::size_t result_floats() const;
+  std::size_t source_bytes() const { return source_floats() * float_bytes(); }
+  std::size_t result_bytes() const { return result_floats() * float_bytes(); }
 };
 
-/// The transform of a fixed-size function; null if this program does not measure its family.
-std::shared_ptr<const Problem> problem_of(const registry::Export& function);
+/// The transform of a fixed-size function; none if this program does not measure its family.
+std::optional<Problem> problem_of(const registry::Export& function);
+
+/// Random samples from [-1, 1), the same for every program run, `count` transforms' sources.
+std::vector<std::byte> random_source(const Problem& problem, std::size_t count = 1);
+
+/// Holds contestants to the definition, evaluated in wide arithmetic.
+class Check {
+ public:
+  Check(const Problem& problem, std::span<const std::byte> source);
+
+  /// Runs one call on the first pair of the walk, whose source is that of the constructor. Returns
+  /// what is wrong: an error larger than rounding explains, or a changed source. Empty if all is
+  /// well.
+  std::string fault(const Contestant& contestant, const Walk& walk) const;
+
+ private:
+  Problem problem_;
+  std::vector<std::byte> source_;
+  std::vector<long double> expected_;  ///< NaN where outputs are not compared
+  long double bound_;
+};
 
 }  // namespace haldgen::bench

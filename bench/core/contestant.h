@@ -4,7 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
+#include <utility>
 
 namespace haldgen::bench {
 
@@ -36,6 +38,7 @@ struct Contestant {
   std::string name;
   Role role;
   Slice slice;
+  double per_call = 1;  ///< things that a call does and that time is reported for
 };
 
 /// Body of a slice: `call(src, dst)` for each step of the walk. A template, so that all that
@@ -56,6 +59,17 @@ void walk_calls(const Walk& walk, std::int64_t calls, const Call& call) {
       dst += walk.dst_stride;
     }
   }
+}
+
+/// One that calls `call(src, dst)`, which may need what `owner` holds.
+template <class Call>
+Contestant contestant_of(std::string name, Role role, Call call,
+                         std::shared_ptr<const void> owner = {}) {
+  return {std::move(name), role, [call, owner](const Walk& walk, std::int64_t calls) {
+            // A copy, which functions out of sight cannot change.
+            const Call local = call;
+            walk_calls(walk, calls, local);
+          }};
 }
 
 }  // namespace haldgen::bench

@@ -36,11 +36,11 @@ std::int64_t Duel::calibrate(const Slice& slice, double slice_ns) const {
 }
 
 double Duel::timed_slice(std::size_t index) const {
-  const Slice& slice = contestants_[index].slice;
+  const auto& [name, role, slice, per_call] = contestants_[index];
   const std::int64_t calls = calls_[index];
   // The neighbour has just used the instruction cache and the branch predictor.
   slice(walk_, std::max(std::int64_t{2}, calls / 8));
-  return nanoseconds(slice, walk_, calls) / static_cast<double>(calls);
+  return nanoseconds(slice, walk_, calls) / (static_cast<double>(calls) * per_call);
 }
 
 void Duel::round() {

@@ -22,7 +22,10 @@ class Duel {
   /// One slice of every contestant.
   void round();
 
-  /// Nanoseconds per call: one list per contestant, in their order, one entry per round.
+  const std::vector<Contestant>& contestants() const { return contestants_; }
+
+  /// Nanoseconds per call, or per thing that it does: one list per contestant, in their order, one
+  /// entry per round.
   const std::vector<std::vector<double>>& samples() const { return samples_; }
 
  private:

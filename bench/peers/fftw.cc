@@ -4,120 +4,153 @@
 #include <cstdlib>
 #include <memory>
 #include <stdexcept>
+#include <type_traits>
 
 #include "bench/peers/peers.h"
 
 // The copy has the same functions under other names.
-extern "C" {
-decltype(fftw_plan_dft_1d) narrow_fftw_plan_dft_1d;
-decltype(fftw_execute_dft) narrow_fftw_execute_dft;
-decltype(fftw_destroy_plan) narrow_fftw_destroy_plan;
-decltype(fftw_sprint_plan) narrow_fftw_sprint_plan;
-decltype(fftwf_plan_dft_1d) narrow_fftwf_plan_dft_1d;
-decltype(fftwf_execute_dft) narrow_fftwf_execute_dft;
-decltype(fftwf_destroy_plan) narrow_fftwf_destroy_plan;
-decltype(fftwf_sprint_plan) narrow_fftwf_sprint_plan;
-}
+#define HALDGEN_DECLARE_COPY(prefix)                                        \
+  extern "C" {                                                              \
+  decltype(prefix##_plan_many_dft) narrow_##prefix##_plan_many_dft;         \
+  decltype(prefix##_plan_many_dft_r2c) narrow_##prefix##_plan_many_dft_r2c; \
+  decltype(prefix##_plan_many_dft_c2r) narrow_##prefix##_plan_many_dft_c2r; \
+  decltype(prefix##_plan_many_r2r) narrow_##prefix##_plan_many_r2r;         \
+  decltype(prefix##_execute_dft) narrow_##prefix##_execute_dft;             \
+  decltype(prefix##_execute_dft_r2c) narrow_##prefix##_execute_dft_r2c;     \
+  decltype(prefix##_execute_dft_c2r) narrow_##prefix##_execute_dft_c2r;     \
+  decltype(prefix##_execute_r2r) narrow_##prefix##_execute_r2r;             \
+  decltype(prefix##_destroy_plan) narrow_##prefix##_destroy_plan;           \
+  decltype(prefix##_sprint_plan) narrow_##prefix##_sprint_plan;             \
+  }
+HALDGEN_DECLARE_COPY(fftw)
+HALDGEN_DECLARE_COPY(fftwf)
 
 namespace haldgen::bench {
 namespace {
 
-/// One of the four builds of FFTW in this program.
-template <class Plan, class Complex>
-struct Library {
-  Plan (*plan)(int, Complex*, Complex*, int, unsigned);
-  void (*execute)(const Plan, Complex*, Complex*);
-  void (*destroy)(Plan);
-  char* (*describe)(const Plan);
+/// The functions of one of the four builds of FFTW in this program.
+#define HALDGEN_LIBRARY(name, prefix, real)                   \
+  struct name {                                               \
+    using Real = real;                                        \
+    static constexpr auto c2c = prefix##_plan_many_dft;       \
+    static constexpr auto r2c = prefix##_plan_many_dft_r2c;   \
+    static constexpr auto c2r = prefix##_plan_many_dft_c2r;   \
+    static constexpr auto r2r = prefix##_plan_many_r2r;       \
+    static constexpr auto run_c2c = prefix##_execute_dft;     \
+    static constexpr auto run_r2c = prefix##_execute_dft_r2c; \
+    static constexpr auto run_c2r = prefix##_execute_dft_c2r; \
+    static constexpr auto run_r2r = prefix##_execute_r2r;     \
+    static constexpr auto destroy = prefix##_destroy_plan;    \
+    static constexpr auto describe = prefix##_sprint_plan;    \
+  }
+HALDGEN_LIBRARY(WideDouble, fftw, double);
+HALDGEN_LIBRARY(WideFloat, fftwf, float);
+HALDGEN_LIBRARY(NarrowDouble, narrow_fftw, double);
+HALDGEN_LIBRARY(NarrowFloat, narrow_fftwf, float);
+
+struct Free {
+  void operator()(char* text) const { std::free(text); }
 };
 
-constexpr Library<fftw_plan, fftw_complex> wide_double = {fftw_plan_dft_1d, fftw_execute_dft,
-                                                          fftw_destroy_plan, fftw_sprint_plan};
-constexpr Library<fftwf_plan, fftwf_complex> wide_float = {fftwf_plan_dft_1d, fftwf_execute_dft,
-                                                           fftwf_destroy_plan, fftwf_sprint_plan};
-constexpr Library<fftw_plan, fftw_complex> narrow_double = {
-    narrow_fftw_plan_dft_1d, narrow_fftw_execute_dft, narrow_fftw_destroy_plan,
-    narrow_fftw_sprint_plan};
-constexpr Library<fftwf_plan, fftwf_complex> narrow_float = {
-    narrow_fftwf_plan_dft_1d, narrow_fftwf_execute_dft, narrow_fftwf_destroy_plan,
-    narrow_fftwf_sprint_plan};
-
-template <class Plan, class Complex>
-class Planned {
- public:
-  Planned(const Library<Plan, Complex>& library, const ComplexProblem& problem)
-      : library_(library) {
-    // Planning runs on arrays as aligned as those of the measurement; it overwrites them.
-    const std::size_t bytes = (problem.bytes() + 63) / 64 * 64;
-    const Array in(static_cast<Complex*>(std::aligned_alloc(64, bytes)));
-    const Array out(static_cast<Complex*>(std::aligned_alloc(64, bytes)));
-    const int sign = problem.direction == Direction::forward ? FFTW_FORWARD : FFTW_BACKWARD;
-    plan_ = library.plan(problem.length, in.get(), out.get(), sign, FFTW_PATIENT);
-    if (plan_ == nullptr) throw std::runtime_error("FFTW found no plan");
+/// Calls `body` with the build of FFTW that is meant.
+template <class Body>
+auto with_library(const Problem& problem, FftwWidth width, const Body& body) {
+  if (width == FftwWidth::narrow) {
+    return problem.is_float() ? body(NarrowFloat()) : body(NarrowDouble());
   }
-  ~Planned() { library_.destroy(plan_); }
-  Planned(const Planned&) = delete;
-  Planned& operator=(const Planned&) = delete;
+  return problem.is_float() ? body(WideFloat()) : body(WideDouble());
+}
 
-  void run(const Walk& walk, std::int64_t calls) const {
-    walk_calls(walk, calls,
-               [execute = library_.execute, plan = plan_](const std::byte* src, std::byte* dst) {
-                 // The interface has no const, but a plan out of place keeps its input.
-                 auto* const in = reinterpret_cast<Complex*>(const_cast<std::byte*>(src));
-                 execute(plan, in, reinterpret_cast<Complex*>(dst));
-               });
+template <class F>
+auto plan_of(F /*library*/, const Problem& problem, const Places& places, const Walk& walk,
+             FftwEffort effort) {
+  using Real = typename F::Real;
+  using Complex = Real[2];
+  auto* const in = const_cast<std::byte*>(walk.src);
+  auto* const real_in = reinterpret_cast<Real*>(in);
+  auto* const complex_in = reinterpret_cast<Complex*>(in);
+  auto* const real_out = reinterpret_cast<Real*>(walk.dst);
+  auto* const complex_out = reinterpret_cast<Complex*>(walk.dst);
+  const int sizes[] = {problem.length, problem.length};
+  const auto& [count, step, src, dst, rank] = places;
+  const unsigned flags =
+      FFTW_PRESERVE_INPUT | (effort == FftwEffort::patient ? FFTW_PATIENT : FFTW_MEASURE);
+  const fftw_r2r_kind kind = problem.transform == Transform::hartley ? FFTW_DHT : FFTW_REDFT11;
+  decltype(F::r2r(0, nullptr, 0, nullptr, nullptr, 0, 0, nullptr, nullptr, 0, 0, nullptr, 0)) plan;
+  switch (problem.transform) {
+    case Transform::dft:
+    case Transform::inverse_dft:
+      plan = F::c2c(rank, sizes, count, complex_in, nullptr, step, src, complex_out, nullptr, step,
+                    dst, problem.is_inverse() ? FFTW_BACKWARD : FFTW_FORWARD, flags);
+      break;
+    case Transform::real:
+      plan = F::r2c(rank, sizes, count, real_in, nullptr, step, src, complex_out, nullptr, step,
+                    dst, flags);
+      break;
+    case Transform::inverse_real:
+      plan = F::c2r(rank, sizes, count, complex_in, nullptr, step, src, real_out, nullptr, step,
+                    dst, flags);
+      break;
+    default:
+      plan = F::r2r(rank, sizes, count, real_in, nullptr, step, src, real_out, nullptr, step, dst,
+                    &kind, flags);
   }
+  if (plan == nullptr) throw std::runtime_error("FFTW found no plan");
+  return std::shared_ptr<std::remove_pointer_t<decltype(plan)>>(plan, F::destroy);
+}
 
-  std::string describe() const {
-    const std::unique_ptr<char, Free> text(library_.describe(plan_));
-    return text.get();
-  }
+template <class F, class Plan>
+std::string description(F /*library*/, const Plan& plan) {
+  const std::unique_ptr<char, Free> text(F::describe(plan.get()));
+  return text.get();
+}
 
- private:
-  struct Free {
-    void operator()(void* block) const { std::free(block); }
-  };
-  using Array = std::unique_ptr<Complex, Free>;
-
-  const Library<Plan, Complex>& library_;
-  Plan plan_;
-};
-
-template <class Plan, class Complex>
-Contestant contestant(const std::string& name, Role role, const Library<Plan, Complex>& library,
-                      const ComplexProblem& problem) {
-  const auto planned = std::make_shared<const Planned<Plan, Complex>>(library, problem);
-  if (role == Role::narrow_peer && planned->describe().find("avx") != std::string::npos) {
-    throw std::runtime_error("the plan of FFTW at 128 bits uses wider vectors: " +
-                             planned->describe());
-  }
-  return {name, role,
-          [planned](const Walk& walk, std::int64_t calls) { planned->run(walk, calls); }};
+/// `run` executes a plan on arrays of these elements.
+template <class In, class Out, class Plan, class Run>
+Contestant running(const char* name, Role role, const Plan& plan, Run run) {
+  return contestant_of(
+      name, role,
+      [run, plan = plan.get()](const std::byte* src, std::byte* dst) {
+        // The interface has no const, but these plans keep their input.
+        run(plan, reinterpret_cast<In*>(const_cast<std::byte*>(src)), reinterpret_cast<Out*>(dst));
+      },
+      plan);
 }
 
 }  // namespace
 
-std::optional<Contestant> fftw_contestant(const ComplexProblem& problem) {
-  if (problem.element == names::Element::c32) {
-    return contestant("fftw", Role::peer, wide_float, problem);
-  }
-  return contestant("fftw", Role::peer, wide_double, problem);
+Contestant fftw_contestant(const Problem& problem, const Places& places, const Walk& walk,
+                           FftwWidth width, FftwEffort effort) {
+  return with_library(problem, width, [&](auto library) {
+    using F = decltype(library);
+    using Real = typename F::Real;
+    using Complex = Real[2];
+    const auto plan = plan_of(library, problem, places, walk, effort);
+    const bool narrow = width == FftwWidth::narrow;
+    if (narrow && description(library, plan).find("avx") != std::string::npos) {
+      throw std::runtime_error("the plan of FFTW at 128 bits uses wider vectors: " +
+                               description(library, plan));
+    }
+    const char* const name = narrow ? "fftw128" : "fftw";
+    const Role role = narrow ? Role::narrow_peer : Role::peer;
+    switch (problem.transform) {
+      case Transform::dft:
+      case Transform::inverse_dft:
+        return running<Complex, Complex>(name, role, plan, F::run_c2c);
+      case Transform::real:
+        return running<Real, Complex>(name, role, plan, F::run_r2c);
+      case Transform::inverse_real:
+        return running<Complex, Real>(name, role, plan, F::run_c2r);
+      default:
+        return running<Real, Real>(name, role, plan, F::run_r2r);
+    }
+  });
 }
 
-std::optional<Contestant> narrow_fftw_contestant(const ComplexProblem& problem) {
-  if (problem.element == names::Element::c32) {
-    return contestant("fftw128", Role::narrow_peer, narrow_float, problem);
-  }
-  return contestant("fftw128", Role::narrow_peer, narrow_double, problem);
-}
-
-std::string describe_fftw_plans(const ComplexProblem& problem) {
-  const auto both = [&](const auto& wide, const auto& narrow) {
-    return "fftw:\n" + Planned(wide, problem).describe() + "\nfftw128:\n" +
-           Planned(narrow, problem).describe() + "\n";
-  };
-  return problem.element == names::Element::c32 ? both(wide_float, narrow_float)
-                                                : both(wide_double, narrow_double);
+std::string describe_fftw_plan(const Problem& problem, const Walk& walk, FftwWidth width) {
+  return with_library(problem, width, [&](auto library) {
+    return description(library, plan_of(library, problem, {}, walk, FftwEffort::patient));
+  });
 }
 
 }  // namespace haldgen::bench

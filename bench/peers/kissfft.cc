@@ -1,29 +1,47 @@
 // kissfft, as Debian builds it: a shared library for float.
-#include <kiss_fft.h>
+#include <kiss_fftr.h>
 
-#include <memory>
 #include <type_traits>
 
 #include "bench/peers/peers.h"
 
 namespace haldgen::bench {
+namespace {
 
 static_assert(std::is_same_v<kiss_fft_scalar, float>);
 
-std::optional<Contestant> kissfft_contestant(const ComplexProblem& problem) {
-  if (problem.element != names::Element::c32) return std::nullopt;
-  const int inverse = problem.direction == Direction::inverse ? 1 : 0;
-  const std::shared_ptr<kiss_fft_state> plan(
-      kiss_fft_alloc(problem.length, inverse, nullptr, nullptr),
-      [](kiss_fft_state* state) { kiss_fft_free(state); });
-  if (!plan) return std::nullopt;
-  return Contestant{"kissfft", Role::peer, [plan](const Walk& walk, std::int64_t calls) {
-                      walk_calls(walk, calls,
-                                 [state = plan.get()](const std::byte* src, std::byte* dst) {
-                                   kiss_fft(state, reinterpret_cast<const kiss_fft_cpx*>(src),
-                                            reinterpret_cast<kiss_fft_cpx*>(dst));
-                                 });
-                    }};
+/// `run` transforms arrays of these elements by a plan that `allocate` makes.
+template <class In, class Out, class Allocate, class Run>
+std::optional<Contestant> contestant(const Problem& problem, Allocate allocate, Run run) {
+  const auto state = allocate(problem.length, problem.is_inverse() ? 1 : 0, nullptr, nullptr);
+  if (state == nullptr) return std::nullopt;
+  const std::shared_ptr<const void> owner(state, [state](const void*) { kiss_fft_free(state); });
+  return contestant_of(
+      "kissfft", Role::peer,
+      [run, state](const std::byte* src, std::byte* dst) {
+        run(state, reinterpret_cast<const In*>(src), reinterpret_cast<Out*>(dst));
+      },
+      owner);
+}
+
+}  // namespace
+
+std::optional<Contestant> kissfft_contestant(const Problem& problem) {
+  if (!problem.is_float()) return std::nullopt;
+  const bool even = problem.length % 2 == 0;
+  switch (problem.transform) {
+    case Transform::dft:
+    case Transform::inverse_dft:
+      return contestant<kiss_fft_cpx, kiss_fft_cpx>(problem, kiss_fft_alloc, kiss_fft);
+    case Transform::real:
+      if (!even) return std::nullopt;
+      return contestant<float, kiss_fft_cpx>(problem, kiss_fftr_alloc, kiss_fftr);
+    case Transform::inverse_real:
+      if (!even) return std::nullopt;
+      return contestant<kiss_fft_cpx, float>(problem, kiss_fftr_alloc, kiss_fftri);
+    default:
+      return std::nullopt;
+  }
 }
 
 }  // namespace haldgen::bench

@@ -1,29 +1,53 @@
-// The other libraries, each at its best single-threaded settings for repeated calls out of place.
+// Whom kernels meet: other libraries, each at its best single-threaded settings for repeated calls
+// out of place, plain loops, and what the machine itself needs.
 #pragma once
 
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "bench/complex_problem.h"
 #include "bench/core/contestant.h"
+#include "bench/problem.h"
 
 namespace haldgen::bench {
 
-/// FFTW 3 planned with FFTW_PATIENT, free to use every vector width of the machine.
-std::optional<Contestant> fftw_contestant(const ComplexProblem& problem);
+/// Where `count` transforms lie: elements of one `step` apart, transforms at these distances; one
+/// after another if the distances are 0. Of rank 2, each is a square of rows.
+struct Places {
+  int count = 1;
+  int step = 1;
+  int src_dist = 0;
+  int dst_dist = 0;
+  int rank = 1;
+};
 
-/// The same, by a copy of the library that believes the machine has no vectors beyond 128 bits.
-/// Throws std::runtime_error should a plan name a wider codelet all the same.
-std::optional<Contestant> narrow_fftw_contestant(const ComplexProblem& problem);
+enum class FftwEffort { measure, patient };
+enum class FftwWidth {
+  full,    ///< free to use every vector width of the machine
+  narrow,  ///< a copy of the library that believes the machine has no vectors beyond 128 bits
+};
 
-/// kissfft. Debian ships it for float only, so there is none for `Cplx64`.
-std::optional<Contestant> kissfft_contestant(const ComplexProblem& problem);
+/// FFTW 3 planned for the arrays of the walk, which planning overwrites. It keeps its source.
+/// Throws std::runtime_error should a narrow plan name a wider codelet all the same.
+Contestant fftw_contestant(const Problem& problem, const Places& places, const Walk& walk,
+                           FftwWidth width, FftwEffort effort);
 
-/// FFmpeg's av_tx; none for lengths that it refuses.
-std::optional<Contestant> av_tx_contestant(const ComplexProblem& problem);
+/// The plan that FFTW chooses, as FFTW prints it.
+std::string describe_fftw_plan(const Problem& problem, const Walk& walk, FftwWidth width);
 
-/// The plans that FFTW chose for the problem at full width and at 128 bits, as FFTW prints them.
-std::string describe_fftw_plans(const ComplexProblem& problem);
+/// kissfft. Debian ships it for float only, and its real transform has even lengths.
+std::optional<Contestant> kissfft_contestant(const Problem& problem);
+
+/// FFmpeg's av_tx; none for what it refuses, for inverse real transforms, which overwrite their
+/// source, and forward ones of lengths that are no multiples of 4, where it computes no DFT.
+std::optional<Contestant> av_tx_contestant(const Problem& problem);
+
+/// The Walsh-Hadamard transform written down plainly: a function for all orders, and one compiled
+/// for this order, with constant bounds and arrays promised not to overlap.
+std::vector<Contestant> plain_wht_contestants(const Problem& problem);
+
+/// What needs no check: a call, an addition, a conversion, a copy, where they say something.
+std::vector<Contestant> yardsticks(const Problem& problem);
 
 /// Name and version of each library.
 std::string peer_versions();

@@ -1,12 +1,17 @@
+// The Walsh-Hadamard transform written down plainly, level by level: what a compiler makes of it.
 // Compiled with all the optimisation that a compiler offers, at the kernels' instruction set.
-#include "bench/peers/plain_wht.h"
-
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <utility>
 
+#include "bench/peers/peers.h"
+
 namespace haldgen::bench {
 namespace {
+
+template <class Float>
+using PlainWht = void (*)(const Float* src, Float* dst, int order, Float scale);
 
 template <class Float>
 void plain(const Float* src, Float* dst, int order, Float scale) {
@@ -54,20 +59,24 @@ PlainWht<Float> fixed_by_order(int order, std::integer_sequence<int, kOrder...> 
   return kByOrder.at(static_cast<std::size_t>(order));
 }
 
+template <class Float>
+std::vector<Contestant> contestants(const Problem& problem) {
+  const int order = std::countr_zero(static_cast<unsigned>(problem.length));
+  const auto one = [order](const char* name, PlainWht<Float> function) {
+    return contestant_of(name, Role::baseline,
+                         [function, order](const std::byte* src, std::byte* dst) {
+                           function(reinterpret_cast<const Float*>(src),
+                                    reinterpret_cast<Float*>(dst), order, Float{1});
+                         });
+  };
+  const auto orders = std::make_integer_sequence<int, 14>();
+  return {one("plain", plain<Float>), one("plain_fixed", fixed_by_order<Float>(order, orders))};
+}
+
 }  // namespace
 
-template <class Float>
-PlainWht<Float> plain_wht() {
-  return plain<Float>;
+std::vector<Contestant> plain_wht_contestants(const Problem& problem) {
+  return problem.is_float() ? contestants<float>(problem) : contestants<double>(problem);
 }
-template <class Float>
-PlainWht<Float> fixed_plain_wht(int order) {
-  return fixed_by_order<Float>(order, std::make_integer_sequence<int, 14>());
-}
-
-template PlainWht<float> plain_wht<float>();
-template PlainWht<double> plain_wht<double>();
-template PlainWht<float> fixed_plain_wht<float>(int order);
-template PlainWht<double> fixed_plain_wht<double>(int order);
 
 }  // namespace haldgen::bench

@@ -71,7 +71,7 @@ def main(build: Path, destination: Path) -> None:
     shutil.copytree(DOCS / "images", destination / "images")
     shutil.copytree(DOCS / "site/assets", destination / "assets")
     (destination / "results").mkdir()
-    for report in DOCS.glob("results/*.t*"):
+    for report in DOCS.glob("results/*.tsv"):
         shutil.copy(report, destination / "results")
     for length in (8, 7):
         charts.packed(length, destination / f"images/packed-{length}.svg")

@@ -8,6 +8,7 @@ import functools
 import json
 import re
 import subprocess
+import sys
 from dataclasses import dataclass, field
 from pathlib import Path
 from typing import Any
@@ -15,6 +16,8 @@ from typing import Any
 import numpy as np
 
 ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "bench"))
+from summary import Results, read as read_results  # noqa: E402
 
 
 @dataclass(frozen=True)
@@ -263,21 +266,20 @@ def _hadamard_errors(library: Path) -> dict[tuple[str, str, int], Error]:
 
 @dataclass(frozen=True)
 class Run:
-    """What a published report says of the machine."""
+    """What a published table says of the machine."""
 
-    processor: str
-    load: float
-    date: str
+    results: Results
     path: str
 
     @property
     def busy(self) -> bool:
-        return self.load > 1
+        return self.results.busy
 
     @property
     def caption(self) -> str:
-        state = f"BUSY machine, load {self.load:.2f}" if self.busy else f"idle machine, load {self.load:.2f}"
-        return f"{self.processor}, {state}, published {self.date}; baseline build, 128-bit vectors"
+        head = self.results.head
+        return (f"{head['processor']}, {head['cores']} cores, {self.results.state}, measured by {head['date']}; "
+                "baseline build, 128-bit vectors")
 
 
 @dataclass(frozen=True)
@@ -295,7 +297,7 @@ class Speed:
         return self.nanoseconds["haldgen"] / self.nanoseconds[peer]
 
 
-# Contestants of the reports, and what to call them.
+# Contestants of the tables, and what to call them.
 PEERS = {"fftw": "FFTW", "kissfft": "kissfft", "av_tx": "av_tx", "fftw128": "FFTW, 128 bits",
          "plain": "plain loop", "plain_fixed": "plain loop, fixed length"}
 
@@ -303,25 +305,13 @@ PEERS = {"fftw": "FFTW", "kissfft": "kissfft", "av_tx": "av_tx", "fftw128": "FFT
 def speeds(mode: str = "hot") -> dict[tuple[str, str, int], Speed]:
     """Medians by word, type and length."""
     result = {}
-    for path in sorted((ROOT / "docs/results").glob("*.txt")):
-        text = path.read_text()
-        machine = re.match(r"processor: (.*), load at the start ([\d.]+), at the end ([\d.]+)", text)
-        if machine is None:
-            continue
-        date = subprocess.run(["git", "log", "-1", "--format=%cs", "--", path], cwd=ROOT,
-                              capture_output=True, text=True, check=False).stdout.strip()
-        run = Run(machine[1], max(float(machine[2]), float(machine[3])), date or "without a date",
-                  str(path.relative_to(ROOT / "docs")))
-        table = re.search(rf"== {mode}, median of the rounds\n(.*?)\n\n", text, re.S)
-        if table is None:
-            continue
-        head, *lines = [line.split() for line in table[1].splitlines()]
-        for line in lines:
-            row = dict(zip(head, line))
-            length = 2 ** int(row["order"]) if "order" in row else int(row["length"])
-            times = {"haldgen": float(row["haldgen"])}
-            times |= {p: float(row[p]) for p in PEERS if row.get(p, "-") != "-"}
-            result[row["family"], row["type"], length] = Speed(run, times)
+    for path in sorted((ROOT / "docs/results").glob("*.tsv")):
+        results = read_results(path)
+        run = Run(results, str(path.relative_to(ROOT / "docs")))
+        for row in results.rows:
+            if (row.mode, row.statistic) == (mode, "median"):
+                times = {name: row.times[name] for name in ("haldgen", *PEERS) if name in row.times}
+                result[row.family, row.type, row.length] = Speed(run, times)
     return result
 
 

@@ -1,10 +1,8 @@
-// What the machine itself needs.
-#include "bench/calibration.h"
-
+// What the machine itself needs: the floor under every figure.
 #include <cstdint>
 #include <cstring>
 
-#include "bench/core/report.h"
+#include "bench/peers/peers.h"
 
 namespace haldgen::bench {
 namespace {
@@ -13,7 +11,7 @@ using Kernel = std::int32_t (*)(const void* src, void* dst, std::int32_t flag);
 
 std::int32_t null_kernel(const void* /*src*/, void* /*dst*/, std::int32_t /*flag*/) { return 0; }
 
-// Read anew for each slice: the compiler cannot know what it calls, as with a loaded kernel.
+// Volatile: the compiler cannot know what it calls, as with a loaded kernel.
 volatile Kernel null_kernel_address = null_kernel;
 
 // Assembly, because an optimiser would merge the additions. Fourteen chains are written side by
@@ -36,44 +34,42 @@ volatile Kernel null_kernel_address = null_kernel;
       : "cc", "xmm0", "xmm1", "xmm2", "xmm3", "xmm4", "xmm5", "xmm6", "xmm7", "xmm8", "xmm9", \
         "xmm10", "xmm11", "xmm12", "xmm13", "xmm15")
 
+constexpr double chain_instructions = 14 * 16;
+
 }  // namespace
 
-int lanes(names::Element element) {
-  return element == names::Element::c32 || element == names::Element::f32 ? 4 : 2;
-}
-
-Contestant copy_contestant(std::size_t bytes) {
-  return {copy_name, Role::calibration, [bytes](const Walk& walk, std::int64_t calls) {
-            walk_calls(walk, calls, [bytes](const std::byte* src, std::byte* dst) {
-              std::memcpy(dst, src, bytes);
-            });
-          }};
-}
-
-Contestant null_call_contestant() {
-  return {null_call_name, Role::calibration, [](const Walk& walk, std::int64_t calls) {
-            walk_calls(walk, calls,
-                       [kernel = null_kernel_address](const std::byte* src, std::byte* dst) {
-                         kernel(src, dst, 0);
-                       });
-          }};
-}
-
-Contestant vector_add_contestant(names::Element element) {
-  const bool is_float = lanes(element) == 4;
-  return {vector_add_name, Role::calibration, [is_float](const Walk&, std::int64_t calls) {
-            if (is_float) {
-              HALDGEN_CHAINS("addps", calls);
-            } else {
-              HALDGEN_CHAINS("addpd", calls);
-            }
-          }};
-}
-
-Contestant convert_contestant() {
-  return {convert_name, Role::calibration, [](const Walk&, std::int64_t calls) {
-            HALDGEN_CHAINS("cvtss2sd %%xmm15, %%xmm\\n\n\tcvtsd2ss", calls);
-          }};
+std::vector<Contestant> yardsticks(const Problem& problem) {
+  std::vector<Contestant> all;
+  const auto add = [&all](const char* name, double instructions, Slice slice) {
+    all.push_back({name, Role::calibration, std::move(slice), instructions});
+  };
+  const bool samples = problem.transform == Transform::real ||
+                       problem.transform == Transform::inverse_real ||
+                       problem.transform == Transform::hartley;
+  if (samples) {  // kernels of which convert between 32 and 64 bits
+    add("convert", 2 * chain_instructions, [](const Walk&, std::int64_t calls) {
+      HALDGEN_CHAINS("cvtss2sd %%xmm15, %%xmm\\n\n\tcvtsd2ss", calls);
+    });
+  }
+  if (problem.transform == Transform::wht) {
+    all.push_back(
+        contestant_of("memcpy", Role::calibration,
+                      [bytes = problem.source_bytes()](const std::byte* src, std::byte* dst) {
+                        std::memcpy(dst, src, bytes);
+                      }));
+  }
+  all.push_back(contestant_of("null_call", Role::calibration,
+                              [kernel = Kernel{null_kernel_address}](
+                                  const std::byte* src, std::byte* dst) { kernel(src, dst, 0); }));
+  add("vector_add", chain_instructions,
+      [is_float = problem.is_float()](const Walk&, std::int64_t calls) {
+        if (is_float) {
+          HALDGEN_CHAINS("addps", calls);
+        } else {
+          HALDGEN_CHAINS("addpd", calls);
+        }
+      });
+  return all;
 }
 
 }  // namespace haldgen::bench

@@ -1,0 +1,128 @@
+// The table that the benchmarks write.
+#include "bench/core/results.h"
+
+#include <stdlib.h>
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+#include <fstream>
+#include <iomanip>
+#include <sstream>
+#include <string_view>
+#include <thread>
+
+namespace haldgen::bench {
+namespace {
+
+constexpr std::array<std::string_view, 6> role_names = {"subject",  "variant",     "peer",
+                                                        "baseline", "narrow_peer", "calibration"};
+
+double minimum(std::span<const double> samples) {
+  return *std::min_element(samples.begin(), samples.end());
+}
+
+/// The contestants of all measurements by their roles, in the order in which they first occur.
+std::array<std::vector<std::string>, role_names.size()> names_by_role(
+    const std::vector<Measurement>& measurements) {
+  std::array<std::vector<std::string>, role_names.size()> names;
+  for (const Measurement& measurement : measurements) {
+    for (const Series& series : measurement.series) {
+      auto& of_role = names.at(static_cast<std::size_t>(series.role));
+      if (std::find(of_role.begin(), of_role.end(), series.name) == of_role.end()) {
+        of_role.push_back(series.name);
+      }
+    }
+  }
+  return names;
+}
+
+std::string processor() {
+  std::ifstream file("/proc/cpuinfo");
+  for (std::string line; std::getline(file, line);) {
+    const std::size_t colon = line.find(": ");
+    if (line.starts_with("model name") && colon != std::string::npos) {
+      return line.substr(colon + 2);
+    }
+  }
+  return "unknown";
+}
+
+std::string today() {
+  const std::time_t now = std::time(nullptr);
+  std::ostringstream text;
+  text << std::put_time(std::gmtime(&now), "%F");
+  return text.str();
+}
+
+}  // namespace
+
+Measurement measurement(const Duel& duel, std::string mode, std::string family, std::string type,
+                        int length) {
+  Measurement result{std::move(mode), std::move(family), std::move(type), length, {}};
+  for (std::size_t i = 0; i < duel.contestants().size(); ++i) {
+    const Contestant& contestant = duel.contestants()[i];
+    result.series.push_back({contestant.name, contestant.role, duel.samples()[i]});
+  }
+  return result;
+}
+
+double median(std::span<const double> samples) {
+  std::vector<double> sorted(samples.begin(), samples.end());
+  std::sort(sorted.begin(), sorted.end());
+  const std::size_t upper = sorted.size() / 2;
+  if (sorted.size() % 2 != 0) return sorted[upper];
+  return (sorted[upper - 1] + sorted[upper]) / 2;
+}
+
+std::string load_average() {
+  double load = 0;
+  if (getloadavg(&load, 1) != 1) return "unknown";
+  std::ostringstream text;
+  text << std::fixed << std::setprecision(2) << load;
+  return text.str();
+}
+
+Head describe_machine() {
+  return {{"processor", processor()},
+          {"cores", std::to_string(std::thread::hardware_concurrency())},
+          {"date", today()},
+          {"load at start", load_average()}};
+}
+
+void write_results(std::ostream& out, Head head, const std::vector<Measurement>& measurements) {
+  head.emplace_back("load at end", load_average());
+  const auto names = names_by_role(measurements);
+  std::vector<std::string> columns;
+  for (std::size_t role = 0; role < names.size(); ++role) {
+    std::string line;
+    for (const std::string& name : names.at(role)) {
+      line += (line.empty() ? "" : " ") + name;
+      columns.push_back(name);
+    }
+    if (!line.empty()) head.emplace_back(role_names.at(role), line);
+  }
+  for (const auto& [key, value] : head) out << "# " << key << ": " << value << '\n';
+  out << "mode\tstatistic\tfamily\ttype\tlength";
+  for (const std::string& column : columns) out << '\t' << column;
+  out << '\n' << std::fixed << std::setprecision(4);
+  for (const Measurement& row : measurements) {
+    for (const auto& [name, statistic] : {std::pair("median", &median), {"minimum", &minimum}}) {
+      out << row.mode << '\t' << name << '\t' << row.family << '\t' << row.type << '\t'
+          << row.length;
+      for (const std::string& column : columns) {
+        const auto of = std::find_if(row.series.begin(), row.series.end(),
+                                     [&](const Series& series) { return series.name == column; });
+        out << '\t';
+        if (of == row.series.end()) {
+          out << '-';
+        } else {
+          out << statistic(of->samples);
+        }
+      }
+      out << '\n';
+    }
+  }
+}
+
+}  // namespace haldgen::bench
