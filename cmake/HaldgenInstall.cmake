@@ -75,7 +75,7 @@ endforeach()
 
 # Manual pages are what the programs say of themselves, and a file of more beside it.
 find_program(HALDGEN_HELP2MAN help2man DOC "Program that writes manual pages")
-if(HALDGEN_HELP2MAN AND TARGET haldgen-generate)
+if(HALDGEN_HELP2MAN AND TARGET haldgen-generate AND NOT CMAKE_CROSSCOMPILING AND NOT HALDGEN_SANITIZE)
   set(pages)
   foreach(program IN ITEMS haldgen-bits haldgen-generate)
     set(page ${PROJECT_BINARY_DIR}/manual/${program}.1)
