@@ -117,8 +117,7 @@ std::string emit_entry_functions() {
   for (const Export& function : registry::exports()) {
     const Signature signature = function.word->signature;
     out << "HALDGEN_NOTHROW " << declaration(signature, function.element, function.name)
-        << " {\n  return "
-        << implementation_symbol(function.name) << "("
+        << " {\n  return " << implementation_symbol(function.name) << "("
         << joined_names(parameters(signature, function.element)) << ");\n}\n";
   }
   out << "\n}\n";
@@ -181,7 +180,8 @@ std::string emit_linked_functions(const std::vector<Export>& functions) {
       << "#include \"frame/linked_functions.h\"\n\n#include \"haldgen.h\"\n\n"
       << "extern \"C\" {\n";
   for (const Export& function : functions) {
-    out << declaration(function.word->signature, function.element, function.name) << ";\n";
+    out << "HALDGEN_NOTHROW "
+        << declaration(function.word->signature, function.element, function.name) << ";\n";
   }
   out << "}\n\n"
       << "namespace haldgen::frame {\n\n"
