@@ -77,7 +77,7 @@ async function shownByPage() {
     await ended;
     server.close();
     server.closeAllConnections();
-    rmSync(profile, {recursive: true, force: true, maxRetries: 5});
+    rmSync(profile, {recursive: true, force: true, maxRetries: 20});
   }
 }
 
