@@ -24,6 +24,15 @@ function(haldgen_compile_for flavour target)
   endif()
 endfunction()
 
+# The component that a library is installed with.
+function(haldgen_component_of variable library)
+  if(library STREQUAL "haldbatch")
+    set(${variable} batch PARENT_SCOPE)
+  else()
+    set(${variable} runtime PARENT_SCOPE)
+  endif()
+endfunction()
+
 # Places a library of a flavour in the build tree and in the installed one.
 function(haldgen_place_flavour flavour target library)
   if(flavour)
@@ -33,10 +42,7 @@ function(haldgen_place_flavour flavour target library)
       LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${folder}
       INSTALL_RPATH $ORIGIN/../..)
     if(HALDGEN_INSTALL)
-      set(component runtime)
-      if(library STREQUAL "haldbatch")
-        set(component batch)
-      endif()
+      haldgen_component_of(component ${library})
       install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder}
         COMPONENT ${component} NAMELINK_SKIP)
     endif()

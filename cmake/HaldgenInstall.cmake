@@ -20,10 +20,7 @@ if(TARGET haldgen-generate)
   list(APPEND targets haldgen-generate)
 endif()
 foreach(target IN LISTS targets)
-  set(component runtime)
-  if(target STREQUAL "haldbatch")
-    set(component batch)
-  endif()
+  haldgen_component_of(component ${target})
   install(TARGETS ${target} EXPORT haldgenTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${component} NAMELINK_COMPONENT dev
     ARCHIVE ${dev}

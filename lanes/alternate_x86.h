@@ -84,9 +84,7 @@ HALDGEN_INLINE WideVector<double, 32> add_product_x86(WideVector<double, 32> a,
                                                       WideVector<double, 32> c) {
   return __builtin_ia32_vfmaddpd256(b, c, a);
 }
-#endif
 
-#ifdef __FMA__
 // The other way round: sums in even lanes, differences in odd ones. There are only instructions
 // that multiply before: by one, which is exact.
 HALDGEN_INLINE WideVector<float, 32> sums_and_differences_x86(WideVector<float, 32> a,

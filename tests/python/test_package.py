@@ -57,8 +57,9 @@ def test_version():
     assert haldgen.__version__ == declared
 
 
-def test_document(name="docs/python.md"):
+def test_document():
     """Sessions of the interpreter say what they show; other Python runs."""
+    name = "docs/python.md"
     blocks = re.findall(r"^```python\n(.*?)^```", (ROOT / name).read_text(), re.DOTALL | re.MULTILINE)
     assert blocks
     names = {}

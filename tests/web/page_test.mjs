@@ -3,8 +3,7 @@
 import assert from 'node:assert/strict';
 import {spawn} from 'node:child_process';
 import {once} from 'node:events';
-import {mkdtempSync, rmSync} from 'node:fs';
-import {tmpdir} from 'node:os';
+import {rmSync} from 'node:fs';
 import {join} from 'node:path';
 import test from 'node:test';
 
@@ -62,22 +61,24 @@ async function shownByPage() {
     });
   });
   await once(server.listen(0, 'localhost'), 'listening');
-  const profile = mkdtempSync(join(tmpdir(), 'haldgen-page-'));
+  // It stays until the next run: what is left of a browser's processes may still write there.
+  const profile = join(build, 'page-profile');
+  rmSync(profile, {recursive: true, force: true});
   const browser = spawn(chromium, [
     '--headless', '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
     '--disable-background-networking', '--disable-component-update', '--disable-sync',
     `--user-data-dir=${profile}`, `http://localhost:${server.address().port}/driven.html`,
-  ], {stdio: 'ignore'});
+  ], {stdio: 'ignore', detached: true});
   const ended = once(browser, 'exit');
   try {
     return await Promise.race([
       shown, ended.then(() => { throw new Error('the browser ends before the page is done'); })]);
   } finally {
-    browser.kill();
+    // The group: the browser and the processes that it has started.
+    if (browser.exitCode === null) process.kill(-browser.pid, 'SIGKILL');
     await ended;
     server.close();
     server.closeAllConnections();
-    rmSync(profile, {recursive: true, force: true, maxRetries: 20});
   }
 }
 
