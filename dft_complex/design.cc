@@ -76,7 +76,7 @@ Graph graph_of(const Design& design) { return expand(design.recipe, false); }
 Programs programs_of(const Design& design, FloatType type, int seed, const PairsOf& pairs) {
   if (design.execution == Execution::packed) return packed_programs(design, type, seed, pairs);
   Programs programs = scalar_programs(design, type);
-  if (!pairs.forward && !pairs.inverse) return programs;
+  if (design.products == Products::wide || (!pairs.forward && !pairs.inverse)) return programs;
   const Programs wider = packed_programs(in_vectors(design), type, seed, pairs);
   if (pairs.forward) programs.forward = wider.forward;
   if (pairs.inverse) programs.inverse = wider.inverse;

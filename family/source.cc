@@ -47,13 +47,15 @@ std::string ordered_by(const Choice& choice, bool has_forms) {
     text += "; pairs at distances of " + std::to_string(choice.pairs->source) + " at the source, " +
             std::to_string(choice.pairs->destination) + " at the destination";
   }
+  if (choice.through_memory) text += "; what is widened goes through memory";
   if (has_forms) text += "; forms by seed " + std::to_string(choice.seed);
   return text + ".";
 }
 
 namespace {
 
-Kernel transform_kernel(const Transforms::Body& body) {
+Kernel transform_kernel(Transforms::Body body) {
+  body.program.widens_through_memory = body.choice.through_memory;
   const auto& [transform, program, choice] = body;
   const bool vectors = program.lanes > 1;
   Kernel kernel;

@@ -20,9 +20,11 @@ struct Choice {
   int seed = 0;
   /// How nodes are paired in vectors of twice the width; none: they are not.
   std::optional<kernelgen::Pairs> pairs = {};
+  /// Whether scalar kernels widen values through memory.
+  bool through_memory = false;
 };
 
-/// ORDER, ORDER:CAP, ORDER:CAP:SEED or ORDER:CAP:SEED:SOURCE:DESTINATION, the last two for pairs;
+/// ORDER, ORDER:CAP, ORDER:CAP:SEED, ORDER:CAP:memory, or for pairs ORDER:CAP:SOURCExDESTINATION;
 /// throws if it is none.
 Choice parse_choice(const std::string& text);
 
@@ -35,8 +37,10 @@ class Tuning {
   /// its bits are the same. Families with sources of their own there are told to the build by
   /// haldgen_flavoured in cmake/HaldgenFamily.cmake.
   explicit Tuning(const names::Flavour& flavour) : vector_bits_(flavour.vector_bits) {}
-  /// The same choice everywhere, to measure with.
-  explicit Tuning(const Choice& everywhere) : everywhere_(everywhere) {}
+
+  /// The same choice everywhere from now on, to measure with; with pairs, forms stay those of the
+  /// table, as the baseline has their signs.
+  void choose_everywhere(const Choice& choice) { everywhere_ = choice; }
 
   /// By the exported name of the kernel, or of the first of those that share it.
   Choice of(std::string_view exported_name) const;

@@ -51,9 +51,11 @@ constexpr std::string_view kUsage =
     "  TAG      v3 or v4, a flavour: its vectors and its column of the table\n"
     "  KERNEL   a length, or the name of a part of planned transforms\n"
     "  TYPE     32f or 64f; of complex elements 32fc or 64fc\n"
-    "  TUNING   ORDER:CAP:SEED[:SOURCE:DESTINATION] instead of the table's\n"
+    "  TUNING   ORDER:CAP:SEED, or ORDER:CAP:memory, or ORDER:CAP:SOURCExDESTINATION,\n"
+    "           instead of the table's\n"
     "  ORDER    program, bisection, pressure or critical; CAP a number of live values,\n"
     "           SEED a number that varies the choice of forms of vector kernels,\n"
+    "           memory for scalar kernels that widen values by way of it,\n"
     "           SOURCE and DESTINATION distances of elements that share a wider vector\n";
 
 struct UsageError : std::runtime_error {
@@ -156,7 +158,7 @@ void run_single(std::vector<std::string> args) {
   if (!header && args.size() == 5) {
     const haldgen::family::Choice choice = haldgen::family::parse_choice(args.back());
     if (choice.pairs) throw UsageError("kernels to go have vectors of one width");
-    tuning = Tuning(choice);
+    tuning.choose_everywhere(choice);
     args.pop_back();
   }
   if (args.size() % 3 != 1 || (!header && args.size() != 4)) throw UsageError("arguments");
@@ -216,7 +218,7 @@ void run(std::vector<std::string> args) {
   const bool batch = command == "batch";
   Tuning tuning = flavour == nullptr ? Tuning() : Tuning(*flavour);
   if ((command == "source" || batch) && (args.size() == 5 || args.size() == 6)) {
-    if (args.size() == 6) tuning = Tuning(haldgen::family::parse_choice(args[5]));
+    if (args.size() == 6) tuning.choose_everywhere(haldgen::family::parse_choice(args[5]));
     if (batch && family.generated->batch == nullptr) throw UsageError("a family without batches");
     const auto source = batch ? family.generated->batch : family.generated->source;
     return write_file(args[4], print(source(number, type, tuning)));

@@ -449,7 +449,11 @@ class Printer {
       case Op::negate:
         return define(index, std::string(f32() && !in.wide ? "0.0f - " : "0.0 - ") + a);
       case Op::widen:
-        return define(index, a);
+        // What is loaded lies in memory already.
+        return define(index, program_.widens_through_memory &&
+                                     !is_load(program_.code[static_cast<std::size_t>(in.a)].op)
+                                 ? scalar_word("widened_through_memory") + "(" + a + ")"
+                                 : a);
       case Op::narrow:
         return define(index,
                       (in_c() ? "(float)" : "static_cast<float>(") + a + (in_c() ? "" : ")"));

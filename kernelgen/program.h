@@ -83,6 +83,8 @@ struct Program {
   /// Of vector programs: in each block of 128 bits of wider vectors, whose type V the code is a
   /// template over, runs the program of others; programs in Memory::blocks are such by themselves.
   bool blockwise = false;
+  /// Of scalar programs: what is widened is stored, and converted as it is loaded.
+  bool widens_through_memory = false;
   /// The values of which the magnitudes of its constants are roundings.
   std::map<double, Wide> exact = {};
 };

@@ -31,6 +31,15 @@ inline Float opaque(Float value) {
   return value;
 }
 
+/// The value in 64 bits. On x86 by way of memory: there a conversion from a register is two
+/// operations, one of them a shuffle, and one from memory is a load and one.
+inline double widened_through_memory(float value) {
+#if defined(__x86_64__) || defined(__i386__)
+  __asm__("" : "+m"(value));
+#endif
+  return value;
+}
+
 #undef HALDGEN_FLOAT_REGISTER
 
 }  // namespace haldgen::scalar
