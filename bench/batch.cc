@@ -1,9 +1,9 @@
 // haldgen_batch_bench: batches of transforms against FFTW's planned batches and against a loop over
 // single calls, in one process. Writes the table of haldgen_bench, nanoseconds per transform; the
 // mode of a row is the layout of its arrays and the memory that they fill.
-#include <dlfcn.h>
 #include <haldbatch.h>
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstring>
 #include <iostream>
@@ -13,10 +13,8 @@
 #include "bench/core/arena.h"
 #include "bench/core/results.h"
 #include "bench/core/size_list.h"
-#include "bench/options.h"
+#include "bench/kernels.h"
 #include "bench/peers/peers.h"
-#include "lanes/processor.h"
-#include "names/flavour.h"
 
 namespace haldgen::bench {
 namespace {
@@ -64,19 +62,6 @@ using BatchFunction = std::int32_t (*)(const void*, std::ptrdiff_t, std::ptrdiff
                                        std::int32_t);
 using SingleFunction = std::int32_t (*)(const void*, void*, std::int32_t);
 
-void* opened(const std::string& path) {
-  void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) throw std::runtime_error(dlerror());
-  return library;
-}
-
-template <class Function>
-Function function(void* library, const std::string& name) {
-  void* const address = dlsym(library, name.c_str());
-  if (address == nullptr) throw std::runtime_error("no " + name);
-  return reinterpret_cast<Function>(address);
-}
-
 struct Build {
   std::string name;
   void* library;
@@ -84,21 +69,18 @@ struct Build {
 
 /// Those that the processor can run, the widest first.
 std::vector<Build> builds() {
-  std::vector<Build> found;
-  for (const names::Flavour& flavour : names::flavours) {
-    const bool baseline = flavour.vector_bits == 128;
-    const std::string path = HALDGEN_FOLDER +
-                             (baseline ? "" : std::string("/glibc-hwcaps/x86-64-") + flavour.tag) +
-                             "/libhaldbatch.so.8";
-    if (!std::filesystem::exists(path) || !lanes::processor_has(flavour.vector_bits)) continue;
-    found.insert(found.begin(), {std::to_string(flavour.vector_bits) + "_bits", opened(path)});
+  const std::string file = "libhaldbatch.so.8";
+  std::vector<Build> found = {{"128_bits", open_library(HALDGEN_FOLDER "/" + file)}};
+  for (const auto& [flavour, path] : flavours(HALDGEN_FOLDER, file)) {
+    found.insert(found.begin(),
+                 {std::to_string(flavour.vector_bits) + "_bits", open_library(path)});
   }
   return found;
 }
 
 Contestant batch_of(const Build& build, const Batch& b, Role role) {
-  const auto call =
-      function<BatchFunction>(build.library, "haldb" + b.problem.word() + "_" + b.problem.type());
+  const auto call = reinterpret_cast<BatchFunction>(
+      required(build.library, "haldb" + b.problem.word() + "_" + b.problem.type()));
   const Places at = b.places();
   const std::ptrdiff_t n = b.problem.length;
   if (b.layout != Layout::blocks) {
@@ -119,8 +101,8 @@ Contestant batch_of(const Build& build, const Batch& b, Role role) {
 /// A call for each transform, which columns are gathered for and scattered from.
 Contestant singles(void* library, const Batch& b) {
   const Problem& p = b.problem;
-  const auto call = function<SingleFunction>(
-      library, "haldg" + p.word() + "_" + std::to_string(p.length) + "_" + p.type());
+  const auto call = reinterpret_cast<SingleFunction>(
+      required(library, "haldg" + p.word() + "_" + std::to_string(p.length) + "_" + p.type()));
   const std::size_t src_bytes = p.source_bytes();
   const std::size_t dst_bytes = p.result_bytes();
   const auto count = static_cast<std::size_t>(b.count);
@@ -149,7 +131,7 @@ Contestant singles(void* library, const Batch& b) {
 }
 
 struct BatchOptions {
-  std::set<int> lengths = parse_size_list("2-8,12,13,15,16,20,24,30,32,36,48,53,60,64");
+  std::set<int> lengths;
   int rounds = 60;
   FftwEffort effort = FftwEffort::patient;
   std::size_t last_room = 1;
@@ -182,7 +164,7 @@ void run(const BatchOptions& options) {
   head.emplace_back("versions", peer_versions());
   head.emplace_back("rounds", std::to_string(options.rounds) + ", slices of 20 us");
   const std::vector<Build> libraries = builds();
-  void* const singles_library = opened(HALDGEN_FOLDER "/libhaldgenp8.so.8");
+  void* const singles_library = open_library(HALDGEN_FOLDER "/libhaldgenp8.so.8");
   std::vector<Measurement> measurements;
   using names::Element;
   const std::pair<Transform, std::vector<Element>> families[] = {
@@ -215,18 +197,22 @@ int main(int argc, char** argv) {
                "haldgen_batch_bench");
   try {
     bench::BatchOptions options;
-    bench::add_lengths(app, options.lengths, "such as 8,16,20-24");
+    std::string lengths = "2-8,12,13,15,16,20,24,30,32,36,48,53,60,64";
+    app.add_option("--lengths", lengths, "such as 8,16,20-24");
     bool quick = false;
     bool memory = false;
     auto* const is_quick = app.add_flag("--quick", quick, "less effort, first-level cache only");
     app.add_flag("--memory", memory, "also arrays that no cache holds")->excludes(is_quick);
-    app.parse(argc, argv);
-    if (quick) options = {options.lengths, 15, bench::FftwEffort::measure, 0};
+    try {
+      app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+      return app.exit(error) == 0 ? 0 : 2;
+    }
+    if (quick) options = {{}, 15, bench::FftwEffort::measure, 0};
+    options.lengths = bench::parse_size_list(lengths);
     if (memory) options.last_room = 2;
     bench::run(options);
     return 0;
-  } catch (const CLI::ParseError& error) {
-    return bench::exit_status(app, error);
   } catch (const std::exception& error) {
     std::cerr << "haldgen_batch_bench: " << error.what() << '\n';
     return 1;

@@ -22,21 +22,6 @@ double minimum(std::span<const double> samples) {
   return *std::min_element(samples.begin(), samples.end());
 }
 
-/// The contestants of all measurements by their roles, in the order in which they first occur.
-std::array<std::vector<std::string>, role_names.size()> names_by_role(
-    const std::vector<Measurement>& measurements) {
-  std::array<std::vector<std::string>, role_names.size()> names;
-  for (const Measurement& measurement : measurements) {
-    for (const Series& series : measurement.series) {
-      auto& of_role = names.at(static_cast<std::size_t>(series.role));
-      if (std::find(of_role.begin(), of_role.end(), series.name) == of_role.end()) {
-        of_role.push_back(series.name);
-      }
-    }
-  }
-  return names;
-}
-
 std::string processor() {
   std::ifstream file("/proc/cpuinfo");
   for (std::string line; std::getline(file, line);) {
@@ -92,13 +77,19 @@ Head describe_machine() {
 
 void write_results(std::ostream& out, Head head, const std::vector<Measurement>& measurements) {
   head.emplace_back("load at end", load_average());
-  const auto names = names_by_role(measurements);
+  // The contestants of all measurements by their roles, in the order in which they first occur.
   std::vector<std::string> columns;
-  for (std::size_t role = 0; role < names.size(); ++role) {
+  for (std::size_t role = 0; role < role_names.size(); ++role) {
     std::string line;
-    for (const std::string& name : names.at(role)) {
-      line += (line.empty() ? "" : " ") + name;
-      columns.push_back(name);
+    for (const Measurement& measurement : measurements) {
+      for (const auto& [name, its_role, samples] : measurement.series) {
+        if (static_cast<std::size_t>(its_role) != role ||
+            std::find(columns.begin(), columns.end(), name) != columns.end()) {
+          continue;
+        }
+        line += (line.empty() ? "" : " ") + name;
+        columns.push_back(name);
+      }
     }
     if (!line.empty()) head.emplace_back(role_names.at(role), line);
   }
