@@ -19,12 +19,14 @@ constexpr std::size_t kLongest = 1 << 20;
 /// Outputs that are compared; of longer transforms these are drawn at random.
 constexpr std::size_t kOutputs = 256;
 
-/// The sum of x[n] cos(pi (2n+1)(2k+1) / (4N)), of the cosines of a whole circle in 8N steps.
+/// The sum of x[n] cos(pi (2n+1)(2k+1) / (4N)), of the cosines of odd steps on half a circle of 8N.
 template <class Float>
 Wide output(const std::vector<Float>& x, std::size_t k, const std::vector<Wide>& cosines) {
+  const std::size_t circle = 8 * x.size();
   Wide sum;
   for (std::size_t n = 0; n < x.size(); ++n) {
-    sum += Wide(double{x[n]}) * cosines[(2 * n + 1) * (2 * k + 1) % cosines.size()];
+    const std::size_t angle = (2 * n + 1) * (2 * k + 1) % circle;
+    sum += Wide(double{x[n]}) * cosines[std::min(angle, circle - angle) / 2];
   }
   return sum;
 }
@@ -80,7 +82,7 @@ int main() {
   for (std::size_t length = 2; length <= kLongest; length *= 2) {
     std::vector<Wide> cosines;
     const auto circle = static_cast<std::int64_t>(8 * length);
-    for (std::int64_t i = 0; i < circle; ++i) {
+    for (std::int64_t i = 1; i < circle / 2; i += 2) {
       cosines.push_back(haldgen::kernelgen::cos_turn(i, circle));
     }
     std::printf("| %zu |", length);

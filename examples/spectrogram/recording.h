@@ -2,15 +2,14 @@
 #pragma once
 
 #include <samplerate.h>
-#include <sndfile.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <filesystem>
-#include <iterator>
 #include <memory>
 #include <numeric>
+#include <sndfile.hh>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -29,93 +28,81 @@ class Recording {
     if (std::filesystem::is_directory(path, error))
       throw std::runtime_error(path + ": is a directory");
     if (error) throw std::runtime_error(path + ": " + error.message());
-    file_.reset(sf_open(path.c_str(), SFM_READ, &info_), sf_close);
-    if (!file_) throw failure();
-    if (info_.frames < 1) throw std::runtime_error(path + ": holds no samples");
-    interleaved_.resize(kBlock * static_cast<std::size_t>(info_.channels));
-    mono_.resize(kBlock);
-    const double ratio = 2 * top_hz / info_.samplerate;
+    file = SndfileHandle(path);
+    refuse_bad_data();
+    if (file.frames() < 1) throw std::runtime_error(path + ": holds no samples");
+    interleaved_.resize(kBlock * static_cast<std::size_t>(file.channels()));
+    const double ratio = 2 * top_hz / file.samplerate();
     if (ratio >= 1) return;
-    if (!(ratio >= kLeastRatio)) {
-      throw std::runtime_error(
-          "--top must be at least " +
-          std::to_string(std::lround(std::ceil(info_.samplerate * kLeastRatio / 2))) +
-          " Hz for this recording");
+    if (!(ratio >= 1.0 / 256)) {  // what libsamplerate goes down to
+      throw std::runtime_error("--top must be at least a 512th of the recording's rate");
     }
     ratio_ = ratio;
-    output_.resize(kBlock);
+    const auto next = [](void* self, float** samples) {
+      const std::span<float> block = static_cast<Recording*>(self)->next_mono();
+      *samples = block.data();
+      return std::ssize(block);
+    };
     int reason = 0;
-    resampler_.reset(src_new(SRC_SINC_MEDIUM_QUALITY, 1, &reason), src_delete);
+    resampler_.reset(src_callback_new(next, SRC_SINC_MEDIUM_QUALITY, 1, &reason, this), src_delete);
     if (!resampler_) throw std::runtime_error(src_strerror(reason));
   }
 
   /// The next block of samples, full scale being 1; empty at the end. The view lasts until the
   /// next call. Throws when the data cannot be decoded.
   std::span<const float> next_block() {
-    if (!resampler_) return next_mono();
-    for (;;) {
-      if (waiting_.empty() && !ended_) {
-        waiting_ = next_mono();
-        ended_ = waiting_.empty();
-      }
-      SRC_DATA step{
-          waiting_.data(), output_.data(), std::ssize(waiting_), std::ssize(output_), 0, 0,
-          ended_ ? 1 : 0,  ratio_};
-      if (const int reason = src_process(resampler_.get(), &step))
+    std::span<const float> block;
+    if (resampler_) {
+      const long got = src_callback_read(resampler_.get(), ratio_, kBlock, output_.data());
+      if (const int reason = src_error(resampler_.get())) {
         throw std::runtime_error(src_strerror(reason));
-      waiting_ = waiting_.subspan(static_cast<std::size_t>(step.input_frames_used));
-      if (step.output_frames_gen > 0 || ended_) {
-        return std::span(output_).first(static_cast<std::size_t>(step.output_frames_gen));
       }
+      block = std::span(output_).first(static_cast<std::size_t>(got));
+    } else {
+      block = next_mono();
     }
+    refuse_bad_data();
+    return block;
   }
 
   /// Samples per second of next_block().
-  double rate() const { return info_.samplerate * ratio_; }
-  /// The file's own rate, channels and format.
-  const SF_INFO& info() const { return info_; }
-  /// Samples of the file, in each channel, read so far.
-  std::int64_t position() const { return position_; }
-  /// How many of them were no usable number and were taken as silence.
-  std::int64_t unusable() const { return unusable_; }
+  double rate() const { return file.samplerate() * ratio_; }
+
+  SndfileHandle file;
+  std::int64_t position = 0;  ///< samples of the file, in each channel, read so far
+  std::int64_t unusable = 0;  ///< of them were no usable number and were taken as silence
 
  private:
   static constexpr std::size_t kBlock = 8192;
   // Files of floats may hold anything. A larger value could overflow the sums of a transform.
   static constexpr float kLargestUsable = 1e30F;
-  static constexpr double kLeastRatio = 1.0 / 256;  // of libsamplerate
 
-  // libsndfile's reason, of some lines where it is long, as one.
-  std::runtime_error failure() const {
-    std::string text = path_ + ": " + sf_strerror(file_.get());
+  // With libsndfile's reason, of some lines where it is long, as one.
+  void refuse_bad_data() const {
+    if (file && file.error() == SF_ERR_NO_ERROR) return;
+    std::string text = path_ + ": " + file.strError();
     std::replace(text.begin(), text.end(), '\n', ' ');
-    return std::runtime_error(text.substr(0, text.find_last_not_of(" .") + 1));
+    throw std::runtime_error(text.substr(0, text.find_last_not_of(" .") + 1));
   }
 
-  std::span<const float> next_mono() {
-    const sf_count_t got = sf_readf_float(file_.get(), interleaved_.data(), kBlock);
-    if (sf_error(file_.get()) != SF_ERR_NO_ERROR) throw failure();
+  std::span<float> next_mono() {
+    const sf_count_t got = file.readf(interleaved_.data(), kBlock);
     for (sf_count_t i = 0; i < got; ++i) {
-      const auto first = interleaved_.begin() + i * info_.channels;
-      const float sum = std::accumulate(first, first + info_.channels, 0.0F);
-      const float mean = sum / static_cast<float>(info_.channels);
+      const auto first = interleaved_.begin() + i * file.channels();
+      const float mean = std::accumulate(first, first + file.channels(), 0.0F) /
+                         static_cast<float>(file.channels());
       const bool usable = std::abs(mean) <= kLargestUsable;
       mono_[static_cast<std::size_t>(i)] = usable ? mean : 0.0F;
-      unusable_ += usable ? 0 : 1;
+      unusable += usable ? 0 : 1;
     }
-    position_ += got;
+    position += got;
     return std::span(mono_).first(static_cast<std::size_t>(got));
   }
 
   std::string path_;
-  SF_INFO info_{};
-  std::shared_ptr<SNDFILE> file_;
   std::shared_ptr<SRC_STATE> resampler_;  // none if the rate stays
   double ratio_ = 1;
-  std::vector<float> interleaved_, mono_, output_;
-  std::span<const float> waiting_;
-  bool ended_ = false;
-  std::int64_t position_ = 0, unusable_ = 0;
+  std::vector<float> interleaved_, mono_ = std::vector<float>(kBlock), output_ = mono_;
 };
 
 }  // namespace haldgen::demo

@@ -30,9 +30,7 @@ class ShortTimeSpectrum {
         hop_(static_cast<std::size_t>(hop)),
         frames_in_column_(std::max(1.0, std::ceil(stated_samples / hop) / most_columns)),
         last_column_(static_cast<std::size_t>(most_columns) - 1),
-        pending_(window_.size() / 2),
-        cut_(kMostFrames * window_.size()),
-        spectra_(kMostFrames * bins()) {
+        pending_(window_.size() / 2) {
     if (hop < 1 || hop > length) {
       throw std::invalid_argument("--hop must lie between 1 and the length, " +
                                   std::to_string(length));
@@ -74,25 +72,21 @@ class ShortTimeSpectrum {
   }
 
  private:
-  // Reading the clock costs about as much as a short transform, so it is read once for many.
-  static constexpr std::size_t kMostFrames = 64;
-
   void take_frames(std::size_t count) {
-    std::size_t start = 0;
-    for (std::size_t now = 0; count > 0; count -= now) {
-      now = std::min(count, kMostFrames);
-      for (std::size_t frame = 0; frame < now; ++frame, start += hop_) {
-        std::transform(window_.begin(), window_.end(), &pending_[start],
-                       &cut_[frame * window_.size()], std::multiplies<>());
-      }
-      const auto before = std::chrono::steady_clock::now();
-      for (std::size_t frame = 0; frame < now; ++frame) {
-        transform_(&cut_[frame * window_.size()], &spectra_[frame * bins()], scale::forward_by_n);
-      }
-      transform_time_ += std::chrono::steady_clock::now() - before;
-      for (std::size_t frame = 0; frame < now; ++frame) add(&spectra_[frame * bins()]);
+    std::vector<float> cut(count * window_.size());
+    std::vector<std::complex<float>> spectra(count * bins());
+    for (std::size_t frame = 0; frame < count; ++frame) {
+      std::transform(window_.begin(), window_.end(), &pending_[frame * hop_],
+                     &cut[frame * window_.size()], std::multiplies<>());
     }
-    pending_.erase(pending_.begin(), pending_.begin() + static_cast<std::ptrdiff_t>(start));
+    // Reading the clock costs about as much as a short transform, so it is read once for many.
+    const auto before = std::chrono::steady_clock::now();
+    for (std::size_t frame = 0; frame < count; ++frame) {
+      transform_(&cut[frame * window_.size()], &spectra[frame * bins()], scale::forward_by_n);
+    }
+    transform_time_ += std::chrono::steady_clock::now() - before;
+    for (std::size_t frame = 0; frame < count; ++frame) add(&spectra[frame * bins()]);
+    pending_.erase(pending_.begin(), pending_.begin() + static_cast<std::ptrdiff_t>(count * hop_));
   }
 
   void add(const std::complex<float>* spectrum) {
@@ -111,8 +105,7 @@ class ShortTimeSpectrum {
   std::size_t hop_;
   double frames_in_column_;
   std::size_t last_column_;
-  std::vector<float> pending_, cut_;
-  std::vector<std::complex<float>> spectra_;
+  std::vector<float> pending_;
   std::vector<double> sums_;
   std::vector<std::size_t> frames_in_;
   std::size_t samples_ = 0, frames_ = 0;
