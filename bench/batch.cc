@@ -148,7 +148,8 @@ Measurement measured(const BatchOptions& options, const std::vector<Build>& buil
     contestants.push_back(batch_of(build, b, contestants.empty() ? Role::subject : Role::variant));
   }
   contestants.push_back(
-      fftw_contestant(b.problem, b.places(), arena.walk(), FftwWidth::full, options.effort));
+      planned_by_fftw(b.problem, b.places(), arena.walk(), FftwWidth::full, options.effort)
+          .contestant);
   if (b.layout != Layout::blocks) contestants.push_back(singles(single_library, b));
   for (Contestant& contestant : contestants) contestant.per_call = b.count;
   arena.fill_sources(random_source(b.problem, count * b.per_transform()));

@@ -59,7 +59,7 @@ void Bout::assemble(const std::vector<Build>& builds, std::vector<std::string>& 
     others = plain_wht_contestants(problem_);
   } else {
     for (const FftwWidth width : {FftwWidth::full, FftwWidth::narrow}) {
-      others.push_back(fftw_contestant(problem_, {}, walk, width, FftwEffort::patient));
+      others.push_back(planned_by_fftw(problem_, {}, walk, width, FftwEffort::patient).contestant);
     }
     for (auto& peer : {kissfft_contestant(problem_), av_tx_contestant(problem_)}) {
       if (peer) others.push_back(*peer);
@@ -112,8 +112,12 @@ std::optional<Measurement> Bout::result() const {
 std::string Bout::plans() const {
   if (problem_.transform == Transform::wht) return {};
   const Arena arena(mode_, problem_.source_bytes(), problem_.result_bytes());
-  return title() + "\nfftw:\n" + describe_fftw_plan(problem_, arena.walk(), FftwWidth::full) +
-         "\nfftw128:\n" + describe_fftw_plan(problem_, arena.walk(), FftwWidth::narrow) + "\n";
+  std::string text = title() + "\n";
+  for (const FftwWidth width : {FftwWidth::full, FftwWidth::narrow}) {
+    const auto plan = planned_by_fftw(problem_, {}, arena.walk(), width, FftwEffort::patient);
+    text += plan.contestant.name + ":\n" + plan.description + "\n";
+  }
+  return text;
 }
 
 std::vector<Bout> bouts(const Options& options) {

@@ -40,7 +40,7 @@ void print(std::size_t length, haldgen::names::Element element) {
   const double plan = least_microseconds(2, 1, [&] {
     fftw_forget_wisdom();
     fftwf_forget_wisdom();
-    fftw_contestant(problem, {}, arena.walk(), FftwWidth::full, FftwEffort::measure);
+    planned_by_fftw(problem, {}, arena.walk(), FftwWidth::full, FftwEffort::measure);
   });
   std::printf(" %.2f | %.0f | %.4f |", setup, setup / transform, setup / plan);
 }

@@ -36,11 +36,8 @@ std::vector<Build> builds_of(const std::filesystem::path& library,
                              const std::vector<std::string>& also, bool with_flavours) {
   std::vector<Build> builds = {build_of("haldgen", library)};
   for (const std::string& text : also) {
-    const std::size_t sign = text.find('=');
-    const std::string number = builds.size() == 1 ? "" : std::to_string(builds.size());
-    builds.push_back(sign == std::string::npos
-                         ? build_of("also" + number, text)
-                         : build_of(text.substr(0, sign), text.substr(sign + 1)));
+    const std::size_t sign = text.find('=');  // if none, both parts are all of it
+    builds.push_back(build_of(text.substr(0, sign), text.substr(sign + 1)));
   }
   if (with_flavours) {
     for (const auto& [flavour, path] : flavours(library.parent_path(), "libhaldgenp8.so.8")) {

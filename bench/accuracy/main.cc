@@ -8,7 +8,6 @@
 #include <cstdio>
 #include <exception>
 #include <iostream>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -20,19 +19,6 @@
 
 namespace haldgen::accuracy {
 namespace {
-
-/// Forward and inverse kernel of one length; empty if not built.
-template <class Float>
-struct Pair {
-  Kernel<Float> forward;
-  Kernel<Float> inverse;
-};
-
-void* library() {
-  static void* const handle = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-  if (handle == nullptr) throw std::runtime_error(dlerror());
-  return handle;
-}
 
 /// The families that are measured: the words of a transform and of its inverse, and how the
 /// tables of their element types are headed.
@@ -49,73 +35,65 @@ constexpr Family kFamilies[] = {
     {"real", "DFTFwd_RToCCS", "DFTInv_CCSToR", {names::Element::f32, names::Element::f64}},
 };
 
+/// None if there is no such function.
 template <class Float>
-Kernel<Float> kernel(const registry::Export& entry) {
+Kernel<Float> kernel(std::string_view word, int length, names::Element element) {
+  static void* const library = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+  if (library == nullptr) throw std::runtime_error(dlerror());
+  const std::string name = "haldg" + std::string(word) + "_" + std::to_string(length) + "_" +
+                           std::string(names::suffix(element));
   using Function = std::int32_t(const void*, void*, std::int32_t);
-  auto* const function = reinterpret_cast<Function*>(dlsym(library(), entry.name.c_str()));
-  if (function == nullptr) throw std::runtime_error("the library has no " + entry.name);
-  return [function, name = entry.name](const std::vector<Float>& src, std::vector<Float>& dst) {
+  auto* const function = reinterpret_cast<Function*>(dlsym(library, name.c_str()));
+  if (function == nullptr) return {};
+  return [function, name](const std::vector<Float>& src, std::vector<Float>& dst) {
     const auto status = function(src.data(), dst.data(), haldScaleNone);
     if (status != haldStatusOk) throw std::runtime_error(name + " refuses a valid call");
   };
 }
 
-template <class Float>
-std::map<int, Pair<Float>> kernels(const Family& family, names::Element element) {
-  std::map<int, Pair<Float>> pairs;
-  for (const registry::Export& entry : registry::exports()) {
-    if (entry.element != element || entry.size == 0) continue;
-    if (entry.word->word == family.forward_word) {
-      pairs[entry.size].forward = kernel<Float>(entry);
-    } else if (entry.word->word == family.inverse_word) {
-      pairs[entry.size].inverse = kernel<Float>(entry);
-    }
-  }
-  return pairs;
-}
-
-std::string cells(const Figures& f) {
-  char text[80];
-  std::snprintf(text, sizeof text, " %.2f | %.2f | %.2f | %.2f | %.2f |", f.mean, f.worst_call,
-                f.largest, f.mean_by_root_log, f.worst_by_root_log);
-  return text;
-}
-
-template <class Float>
-std::string cells(const Kernel<Float>& kernel, std::string_view family, int length, bool inverse,
-                  Figures& most) {
-  if (!kernel) return " | | | | |";
-  const Figures f = figures(kernel, definition(family, length, inverse), length);
-  most.raise_to(f);
-  return cells(f);
+void print(const Figures& f) {
+  std::printf(" %.2f | %.2f | %.2f | %.2f | %.2f |", f.mean, f.worst_call, f.largest,
+              f.mean_by_root_log, f.worst_by_root_log);
 }
 
 template <class Float>
 void print_table(const Family& family, names::Element element) {
-  constexpr std::string_view kColumns = "L2 | worst call | largest | L2/√ | worst/√ |";
-  constexpr std::string_view kRule = "--:|--:|--:|--:|--:|";
+  constexpr int longest = 64;
   const bool both = !family.inverse_word.empty();
-  std::cout << "### " << names::suffix(element) << "\n\n| N |" << (both ? " forward: " : " ")
-            << kColumns;
-  if (both) std::cout << " inverse: " << kColumns;
-  std::cout << "\n|--:|" << kRule << (both ? kRule : "") << '\n';
-  Figures most_forward, most_inverse;
-  for (const auto& [length, pair] : kernels<Float>(family, element)) {
-    const std::string forward = cells(pair.forward, family.name, length, false, most_forward);
-    std::cout << "| " << length << " |" << forward;
-    if (both) std::cout << cells(pair.inverse, family.name, length, true, most_inverse);
-    std::cout << '\n';
+  std::printf("### %s\n\n| N |", std::string(names::suffix(element)).c_str());
+  for (const char* direction : {"forward:", "inverse:"}) {
+    if (!both && direction[0] == 'i') continue;
+    std::printf(" %sL2 | worst call | largest | L2/√ | worst/√ |",
+                both ? (std::string(direction) + " ").c_str() : "");
   }
-  std::cout << "| most |" << cells(most_forward) << (both ? cells(most_inverse) : "") << '\n';
+  std::printf("\n|--:|--:|--:|--:|--:|--:|%s\n", both ? "--:|--:|--:|--:|--:|" : "");
+  Figures most[2];
+  for (int length = 2; length <= longest; ++length) {
+    if (!kernel<Float>(family.forward_word, length, element)) continue;
+    std::printf("| %d |", length);
+    for (const bool inverse : {false, true}) {
+      if (inverse && !both) continue;
+      const auto word = inverse ? family.inverse_word : family.forward_word;
+      const Figures f = figures(kernel<Float>(word, length, element),
+                                definition(family.name, length, inverse), length);
+      most[inverse].raise_to(f);
+      print(f);
+    }
+    std::puts("");
+  }
+  std::printf("| most |");
+  print(most[0]);
+  if (both) print(most[1]);
+  std::puts("");
 }
 
 void run(std::string_view name) {
   for (const Family& family : kFamilies) {
     if (family.name != name) continue;
     print_table<float>(family, family.elements[0]);
-    std::cout << '\n';
+    std::puts("");
     print_table<double>(family, family.elements[1]);
-    if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
+    if (std::fflush(stdout) != 0) throw std::runtime_error("standard output cannot be written");
     return;
   }
   throw std::runtime_error("no such family");
