@@ -43,31 +43,22 @@ void refuse_output(const std::string& picture, const std::string& recording) {
 
 void run(const Options& options) {
   const auto start = Clock::now();
-  Recording recording(options.recording, options.top_hz);
   refuse_output(options.output, options.recording);
-  const int hop = options.hop != 0 ? options.hop : std::max(1, options.length / 4);
-  const int file_rate = recording.file.samplerate();
-  const auto frames = static_cast<double>(recording.file.frames());
-  const double rate = recording.rate();
-  ShortTimeSpectrum spectrum(options.length, hop, frames * rate / file_rate,
-                             plot_area(options.width, options.height).width);
   const bool terminal = isatty(STDERR_FILENO) != 0;
-  for (auto block = recording.next_block(); !block.empty(); block = recording.next_block()) {
-    spectrum.feed(block);
-    const double percent = 100 * static_cast<double>(recording.position) / frames;
-    if (terminal) std::fprintf(stderr, "spectrogram: %.0f %%\033[K\r", percent);
-  }
+  const auto show_progress = [terminal](double part) {
+    if (terminal) std::fprintf(stderr, "spectrogram: %.0f %%\033[K\r", 100 * part);
+  };
+  const Recording recording = read_recording(options.recording, options.top_hz, show_progress);
   if (terminal) std::fputs("\033[K", stderr);
-  spectrum.finish();
-  if (spectrum.frames() == 0) {
-    throw std::runtime_error(options.recording + ": too short, " +
-                             std::to_string(recording.position) + " samples");
-  }
   if (recording.unusable > 0) {
-    std::fprintf(stderr, "spectrogram: %jd samples were no usable numbers and count as silence\n",
-                 static_cast<std::intmax_t>(recording.unusable));
+    std::fprintf(stderr, "spectrogram: %zu samples were no usable numbers and count as silence\n",
+                 recording.unusable);
   }
-  const double seconds = static_cast<double>(recording.position) / file_rate;
+  const int hop = options.hop != 0 ? options.hop : std::max(1, options.length / 4);
+  const ShortTimeSpectrum spectrum(recording.samples, options.length, hop,
+                                   plot_area(options.width, options.height).width);
+  const double rate = recording.rate;
+  const double seconds = recording.seconds;
   // A picture has its name once it is complete, and never else.
   const std::string unfinished = options.output + ".part";
   try {
@@ -79,10 +70,10 @@ void run(const Options& options) {
   }
   const double elapsed = std::chrono::duration<double>(Clock::now() - start).count();
   const double inside = spectrum.transform_time().count();
-  const int channels = recording.file.channels();
-  std::printf("%s: %.4g s at %d Hz, %d %s\n", options.recording.c_str(), seconds, file_rate,
-              channels, channels == 1 ? "channel" : "channels mixed");
-  if (rate < file_rate) std::printf("filtered, brought to %.0f Hz\n", rate);
+  std::printf("%s: %.4g s at %d Hz, %d %s\n", options.recording.c_str(), seconds,
+              recording.file_rate, recording.channels,
+              recording.channels == 1 ? "channel" : "channels mixed");
+  if (rate < recording.file_rate) std::printf("filtered, brought to %.0f Hz\n", rate);
   std::printf(
       "%zu frames of %d samples (%.4g ms), one every %d (%.4g ms); "
       "frequencies %.4g Hz apart\n",
