@@ -11,6 +11,7 @@
 #include <stdexcept>
 
 #include "bench/core/arena.h"
+#include "bench/core/duel.h"
 #include "bench/core/results.h"
 #include "bench/core/size_list.h"
 #include "bench/kernels.h"
@@ -153,11 +154,11 @@ Measurement measured(const BatchOptions& options, const std::vector<Build>& buil
   if (b.layout != Layout::blocks) contestants.push_back(singles(single_library, b));
   for (Contestant& contestant : contestants) contestant.per_call = b.count;
   arena.fill_sources(random_source(b.problem, count * b.per_transform()));
-  Duel duel(contestants, arena.walk(), 20000);
+  Duel duel(std::move(contestants), arena.walk(), 20000);
   for (int round = 0; round < options.rounds; ++round) duel.round();
   const std::string mode =
       std::string(layout_names[static_cast<std::size_t>(b.layout)]) + "/" + room.name;
-  return measurement(duel, mode, b.problem.word(), b.problem.type(), b.problem.length);
+  return {mode, b.problem.word(), b.problem.type(), b.problem.length, duel.contestants()};
 }
 
 void run(const BatchOptions& options) {

@@ -51,7 +51,8 @@ std::string Bout::title() const {
          (mode_ == Mode::hot ? "/hot" : "/ring");
 }
 
-void Bout::assemble(const std::vector<Build>& builds, std::vector<std::string>& faults) {
+void Bout::assemble(const std::vector<Build>& builds, const Options& options,
+                    std::vector<std::string>& faults) {
   arena_.emplace(mode_, problem_.source_bytes(), problem_.result_bytes());
   const Walk& walk = arena_->walk();
   std::vector<Contestant> others;
@@ -76,37 +77,33 @@ void Bout::assemble(const std::vector<Build>& builds, std::vector<std::string>& 
   arena_->fill_sources(source);
   // All are held to the first one that is not ours.
   const std::vector<double> expected = bench::result(problem_, others.front(), walk);
+  std::vector<Contestant> contestants;
   for (Contestant& candidate : candidates) {
     const std::string what = fault(problem_, candidate, walk, source, expected);
     if (what.empty()) {
-      contestants_.push_back(std::move(candidate));
+      contestants.push_back(std::move(candidate));
     } else {
       faults.push_back(title() + ": " + candidate.name + ": " + what);
     }
   }
-  if (contestants_.empty() || contestants_.front().name != builds.front().label) {
+  if (contestants.empty() || contestants.front().name != builds.front().label) {
     faults.push_back(title() + ": not measured");
-    contestants_.clear();
     return;
   }
-  for (Contestant& yardstick : yardsticks(problem_)) contestants_.push_back(std::move(yardstick));
+  for (Contestant& yardstick : yardsticks(problem_)) contestants.push_back(std::move(yardstick));
+  duel_.emplace(std::move(contestants), walk, options.slice_us * 1000);
 }
 
 void Bout::visit(const std::vector<Build>& builds, const Options& options,
                  std::vector<std::string>& faults) {
-  if (!arena_) {
-    assemble(builds, faults);
-    if (!contestants_.empty()) {
-      duel_.emplace(contestants_, arena_->walk(), options.slice_us * 1000);
-    }
-  }
+  if (!arena_) assemble(builds, options, faults);
   for (int round = 0; duel_ && round < options.rounds; ++round) duel_->round();
 }
 
 std::optional<Measurement> Bout::result() const {
   if (!duel_) return std::nullopt;
-  return measurement(*duel_, mode_ == Mode::hot ? "hot" : "ring", problem_.word(), problem_.type(),
-                     problem_.length);
+  return Measurement{mode_ == Mode::hot ? "hot" : "ring", problem_.word(), problem_.type(),
+                     problem_.length, duel_->contestants()};
 }
 
 std::string Bout::plans() const {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "bench/core/arena.h"
+#include "bench/core/duel.h"
 #include "bench/core/results.h"
 #include "bench/problem.h"
 
@@ -50,13 +51,13 @@ class Bout {
   std::string plans() const;
 
  private:
-  void assemble(const std::vector<Build>& builds, std::vector<std::string>& faults);
+  void assemble(const std::vector<Build>& builds, const Options& options,
+                std::vector<std::string>& faults);
 
   registry::Export function_;
   Problem problem_;
   Mode mode_;
   std::optional<Arena> arena_;
-  std::vector<Contestant> contestants_;
   std::optional<Duel> duel_;
 };
 

@@ -38,11 +38,14 @@ class Results:
         return self.head.get(role, "").split()
 
     @property
-    def state(self) -> str:
+    def busy(self) -> bool:
         """At the end the benchmark itself is a load of 1."""
+        return max(float(self.head["load at start"]), float(self.head["load at end"]) - 1) > BUSY
+
+    @property
+    def state(self) -> str:
         start, end = self.head["load at start"], self.head["load at end"]
-        busy = max(float(start), float(end) - 1) > BUSY
-        return f"{'BUSY' if busy else 'idle'} machine, load {start} to {end}{'; rough figures' if busy else ''}"
+        return f"{'BUSY' if self.busy else 'idle'} machine, load {start} to {end}"
 
     def best(self, row: Row) -> str | None:
         """The fastest library at its full width, or else the fastest plain loop."""
@@ -125,7 +128,8 @@ def screen(results: Results, counts: Counts, lengths: set[int], statistic: str, 
     widths = [max(map(len, column)) for column in zip(*lines)]
     head = results.head
     return [f"{ours} over the best other, geometric means of the {statistic} times: below 1 we are faster",
-            f"{head['processor']}, {head['cores']} cores, {head['date']}, {results.state}", "",
+            f"{head['processor']}, {head['cores']} cores, {head['date']}, {results.state}"
+            + ("; rough figures" if results.busy else ""), "",
             *("  ".join(cell.ljust(w) if i < 2 else cell.rjust(w) for i, (cell, w) in enumerate(zip(line, widths)))
               for line in lines)]
 

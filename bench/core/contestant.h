@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace haldgen::bench {
 
@@ -38,7 +39,8 @@ struct Contestant {
   std::string name;
   Role role;
   Slice slice;
-  double per_call = 1;  ///< things that a call does and that time is reported for
+  double per_call = 1;               ///< things that a call does and that time is reported for
+  std::vector<double> samples = {};  ///< nanoseconds for each of them, one a round
 };
 
 /// Body of a slice: `call(src, dst)` for each step of the walk. A template, so that all that

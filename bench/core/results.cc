@@ -42,16 +42,6 @@ std::string today() {
 
 }  // namespace
 
-Measurement measurement(const Duel& duel, std::string mode, std::string family, std::string type,
-                        int length) {
-  Measurement result{std::move(mode), std::move(family), std::move(type), length, {}};
-  for (std::size_t i = 0; i < duel.contestants().size(); ++i) {
-    const Contestant& contestant = duel.contestants()[i];
-    result.series.push_back({contestant.name, contestant.role, duel.samples()[i]});
-  }
-  return result;
-}
-
 double median(std::span<const double> samples) {
   std::vector<double> sorted(samples.begin(), samples.end());
   std::sort(sorted.begin(), sorted.end());
@@ -82,13 +72,13 @@ void write_results(std::ostream& out, Head head, const std::vector<Measurement>&
   for (std::size_t role = 0; role < role_names.size(); ++role) {
     std::string line;
     for (const Measurement& measurement : measurements) {
-      for (const auto& [name, its_role, samples] : measurement.series) {
-        if (static_cast<std::size_t>(its_role) != role ||
-            std::find(columns.begin(), columns.end(), name) != columns.end()) {
+      for (const Contestant& contestant : measurement.contestants) {
+        if (static_cast<std::size_t>(contestant.role) != role ||
+            std::find(columns.begin(), columns.end(), contestant.name) != columns.end()) {
           continue;
         }
-        line += (line.empty() ? "" : " ") + name;
-        columns.push_back(name);
+        line += (line.empty() ? "" : " ") + contestant.name;
+        columns.push_back(contestant.name);
       }
     }
     if (!line.empty()) head.emplace_back(role_names.at(role), line);
@@ -102,10 +92,10 @@ void write_results(std::ostream& out, Head head, const std::vector<Measurement>&
       out << row.mode << '\t' << name << '\t' << row.family << '\t' << row.type << '\t'
           << row.length;
       for (const std::string& column : columns) {
-        const auto of = std::find_if(row.series.begin(), row.series.end(),
-                                     [&](const Series& series) { return series.name == column; });
+        const auto of = std::find_if(row.contestants.begin(), row.contestants.end(),
+                                     [&](const Contestant& one) { return one.name == column; });
         out << '\t';
-        if (of == row.series.end()) {
+        if (of == row.contestants.end()) {
           out << '-';
         } else {
           out << statistic(of->samples);
