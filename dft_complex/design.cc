@@ -61,13 +61,26 @@ Programs packed_programs(const Design& design, FloatType type, int seed, const P
   return programs;
 }
 
+/// A scalar kernel in vectors, in the signs that it has.
+Design in_vectors(Design design) {
+  design.execution = Execution::packed;
+  design.access = kernelgen::Access::pairs;
+  design.signs = kernelgen::Signs::as_written;
+  return design;
+}
+
 }  // namespace
 
 Graph graph_of(const Design& design) { return expand(design.recipe, false); }
 
 Programs programs_of(const Design& design, FloatType type, int seed, const PairsOf& pairs) {
-  return design.execution == Execution::scalar ? scalar_programs(design, type)
-                                               : packed_programs(design, type, seed, pairs);
+  if (design.execution == Execution::packed) return packed_programs(design, type, seed, pairs);
+  Programs programs = scalar_programs(design, type);
+  if (!pairs.forward && !pairs.inverse) return programs;
+  const Programs wider = packed_programs(in_vectors(design), type, seed, pairs);
+  if (pairs.forward) programs.forward = wider.forward;
+  if (pairs.inverse) programs.inverse = wider.inverse;
+  return programs;
 }
 
 }  // namespace haldgen::dft_complex

@@ -52,7 +52,8 @@ struct Programs {
   kernelgen::Program forward;
   kernelgen::Program inverse;
 };
-/// Pairs that are given are made of packed programs.
+/// Pairs that are given are made of packed programs; scalar kernels with narrow products are packed
+/// for it, in the signs that they have.
 struct PairsOf {
   std::optional<kernelgen::Pairs> forward = {};
   std::optional<kernelgen::Pairs> inverse = {};
