@@ -17,16 +17,6 @@
 namespace haldgen::bench {
 namespace {
 
-/// A bar on terminals.
-void show_progress(double done, const std::string& title) {
-  constexpr int width = 40;
-  if (isatty(STDERR_FILENO) == 0) return;
-  const std::string bar(static_cast<std::size_t>(done * width), '#');
-  std::fprintf(stderr, "\r[%-*s] %3.0f %%  %.32s\x1b[K", width, bar.c_str(), done * 100,
-               title.c_str());
-  if (title.empty()) std::fputc('\n', stderr);
-}
-
 Build build_of(const std::string& label, const std::filesystem::path& path) {
   return {label, std::filesystem::weakly_canonical(path), open_library(path)};
 }
@@ -61,6 +51,7 @@ std::vector<Build> builds_of(const std::filesystem::path& library,
 /// spoils one visit and not a kernel. Returns what went wrong, a line each.
 std::vector<std::string> measure(std::vector<Bout>& bouts, const std::vector<Build>& builds,
                                  const Options& options) {
+  const bool terminal = isatty(STDERR_FILENO) != 0;
   std::vector<std::string> faults;
   std::vector<Bout*> visits;
   for (int i = 0; i < options.repetitions; ++i) {
@@ -68,10 +59,13 @@ std::vector<std::string> measure(std::vector<Bout>& bouts, const std::vector<Bui
   }
   std::shuffle(visits.begin(), visits.end(), std::mt19937_64(std::random_device()()));
   for (std::size_t i = 0; i < visits.size(); ++i) {
-    show_progress(static_cast<double>(i) / static_cast<double>(visits.size()), visits[i]->title());
+    if (terminal) {
+      std::fprintf(stderr, "%zu of %zu visits, %s\x1b[K\r", i, visits.size(),
+                   visits[i]->title().c_str());
+    }
     visits[i]->visit(builds, options, faults);
   }
-  show_progress(1, "");
+  if (terminal) std::fputs("\x1b[K", stderr);
   return faults;
 }
 
@@ -135,11 +129,7 @@ int main_of(int argc, char** argv) {
                "the same with the flavours below its folder that the processor can run");
   app.add_flag("--show-plans", plans, "prints the plans that FFTW chooses and stops");
   app.add_flag("--list", list, "prints the names of all measurements and stops");
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? 0 : 2;
-  }
+  CLI11_PARSE(app, argc, argv)
   if (!lengths.empty()) options.lengths = parse_size_list(lengths);
   if (plans) options.mode = "hot";  // those of rings are the same
   if (!plans && !list) return run(options, builds_of(library, also, with_flavours), out);

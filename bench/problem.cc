@@ -48,15 +48,21 @@ bool Problem::is_inverse() const {
   return transform == Transform::inverse_dft || transform == Transform::inverse_real;
 }
 
+int Problem::source_parts() const { return transform == Transform::dft || is_inverse() ? 2 : 1; }
+
+int Problem::result_parts() const {
+  const bool spectrum = transform == Transform::dft || transform == Transform::real;
+  return spectrum || transform == Transform::inverse_dft ? 2 : 1;
+}
+
 std::size_t Problem::source_floats() const {
-  if (transform == Transform::inverse_real) return spectrum_floats(length);
-  const bool is_complex = transform == Transform::dft || transform == Transform::inverse_dft;
-  return static_cast<std::size_t>(length) * (is_complex ? 2 : 1);
+  return transform == Transform::inverse_real ? spectrum_floats(length)
+                                              : static_cast<std::size_t>(length * source_parts());
 }
 
 std::size_t Problem::result_floats() const {
-  if (transform == Transform::real) return spectrum_floats(length);
-  return transform == Transform::inverse_real ? static_cast<std::size_t>(length) : source_floats();
+  return transform == Transform::real ? spectrum_floats(length)
+                                      : static_cast<std::size_t>(length * result_parts());
 }
 
 std::optional<Problem> problem_of(const registry::Export& function) {

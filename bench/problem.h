@@ -26,6 +26,8 @@ struct Problem {
   bool is_float() const;
   bool is_inverse() const;
   std::size_t float_bytes() const { return is_float() ? sizeof(float) : sizeof(double); }
+  int source_parts() const;  ///< floats of an element
+  int result_parts() const;
   std::size_t source_floats() const;
   std::size_t result_floats() const;
   std::size_t source_bytes() const { return source_floats() * float_bytes(); }

@@ -33,10 +33,11 @@ std::string processor() {
   return "unknown";
 }
 
-std::string today() {
-  const std::time_t now = std::time(nullptr);
+std::string load_average() {
+  double load = 0;
+  if (getloadavg(&load, 1) != 1) return "unknown";
   std::ostringstream text;
-  text << std::put_time(std::gmtime(&now), "%F");
+  text << std::fixed << std::setprecision(2) << load;
   return text.str();
 }
 
@@ -50,18 +51,13 @@ double median(std::span<const double> samples) {
   return (sorted[upper - 1] + sorted[upper]) / 2;
 }
 
-std::string load_average() {
-  double load = 0;
-  if (getloadavg(&load, 1) != 1) return "unknown";
-  std::ostringstream text;
-  text << std::fixed << std::setprecision(2) << load;
-  return text.str();
-}
-
 Head describe_machine() {
+  const std::time_t now = std::time(nullptr);
+  std::ostringstream today;
+  today << std::put_time(std::gmtime(&now), "%F");
   return {{"processor", processor()},
           {"cores", std::to_string(std::thread::hardware_concurrency())},
-          {"date", today()},
+          {"date", today.str()},
           {"load at start", load_average()}};
 }
 

@@ -28,7 +28,6 @@ using Head = std::vector<std::pair<std::string, std::string>>;
 
 /// The head lines of every table that say where it comes from, all but the load at the end.
 Head describe_machine();
-std::string load_average();
 
 /// The head with a line for each role, then the rows of medians and minima.
 void write_results(std::ostream& out, Head head, const std::vector<Measurement>& measurements);
