@@ -62,7 +62,7 @@ void Bout::assemble(const std::vector<Build>& builds, const Options& options,
     for (const FftwWidth width : {FftwWidth::full, FftwWidth::narrow}) {
       others.push_back(planned_by_fftw(problem_, {}, walk, width, FftwEffort::patient).contestant);
     }
-    for (auto& peer : {kissfft_contestant(problem_), av_tx_contestant(problem_)}) {
+    for (const auto& peer : {kissfft_contestant(problem_), av_tx_contestant(problem_)}) {
       if (peer) others.push_back(*peer);
     }
   }

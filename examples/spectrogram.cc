@@ -89,6 +89,7 @@ void run(const Options& options) {
 }  // namespace
 }  // namespace haldgen::demo
 
+// A failure of the parser itself ends the program. NOLINTNEXTLINE(bugprone-exception-escape)
 int main(int count, char** arguments) {
   using namespace haldgen::demo;
   Options options;

@@ -3,45 +3,31 @@
 // and reference give the same bits everywhere, so the tables are the same on every machine.
 #include <dlfcn.h>
 
-#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <iostream>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "accuracy/measure.h"
 #include "haldgen.h"
-#include "registry/registry.h"
 
 namespace haldgen::accuracy {
 namespace {
 
-/// The families that are measured: the words of a transform and of its inverse, and how the
-/// tables of their element types are headed.
 struct Family {
-  std::string_view name;
-  std::string_view forward_word;
-  std::string_view inverse_word;  ///< empty for none
-  std::array<names::Element, 2> elements;
+  std::string name;
+  std::vector<std::string> words;  ///< of the transform and of its inverse, if there is one
+  std::string suffix;              ///< of exported names behind 32f or 64f
 };
-
-constexpr Family kFamilies[] = {
-    {"complex", "DFTFwd_CToC", "DFTInv_CToC", {names::Element::c32, names::Element::c64}},
-    {"hartley", "Hartley", "", {names::Element::f32, names::Element::f64}},
-    {"real", "DFTFwd_RToCCS", "DFTInv_CCSToR", {names::Element::f32, names::Element::f64}},
-};
-
 /// None if there is no such function.
 template <class Float>
-Kernel<Float> kernel(std::string_view word, int length, names::Element element) {
+Kernel<Float> kernel(const std::string& word, int length, const std::string& type) {
   static void* const library = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) throw std::runtime_error(dlerror());
-  const std::string name = "haldg" + std::string(word) + "_" + std::to_string(length) + "_" +
-                           std::string(names::suffix(element));
+  const std::string name = "haldg" + word + "_" + std::to_string(length) + "_" + type;
   using Function = std::int32_t(const void*, void*, std::int32_t);
   auto* const function = reinterpret_cast<Function*>(dlsym(library, name.c_str()));
   if (function == nullptr) return {};
@@ -57,41 +43,39 @@ void print(const Figures& f) {
 }
 
 template <class Float>
-void print_table(const Family& family, names::Element element) {
-  constexpr int longest = 64;
-  const bool both = !family.inverse_word.empty();
-  std::printf("### %s\n\n", std::string(names::suffix(element)).c_str());
-  std::puts(both ? "| N | forward: L2 | worst call | largest | L2/√ | worst/√ |"
-                   " inverse: L2 | worst call | largest | L2/√ | worst/√ |\n"
-                   "|--:|--:|--:|--:|--:|--:|--:|--:|--:|--:|--:|"
-                 : "| N | L2 | worst call | largest | L2/√ | worst/√ |\n"
-                   "|--:|--:|--:|--:|--:|--:|");
-  Figures most[2];
-  for (int length = 2; length <= longest; ++length) {
-    if (!kernel<Float>(family.forward_word, length, element)) continue;
+void print_table(const Family& family, const std::string& type) {
+  std::printf("### %s\n\n", type.c_str());
+  std::puts(family.words.size() == 2 ? "| N | forward: L2 | worst call | largest | L2/√ | worst/√ |"
+                                       " inverse: L2 | worst call | largest | L2/√ | worst/√ |\n"
+                                       "|--:|--:|--:|--:|--:|--:|--:|--:|--:|--:|--:|"
+                                     : "| N | L2 | worst call | largest | L2/√ | worst/√ |\n"
+                                       "|--:|--:|--:|--:|--:|--:|");
+  std::vector<Figures> most(family.words.size());
+  for (int length = 2; length <= 64; ++length) {
+    if (!kernel<Float>(family.words[0], length, type)) continue;
     std::printf("| %d |", length);
-    for (const bool inverse : {false, true}) {
-      if (inverse && !both) continue;
-      const auto word = inverse ? family.inverse_word : family.forward_word;
-      const Figures f = figures(kernel<Float>(word, length, element),
-                                definition(family.name, length, inverse), length);
-      most[inverse].raise_to(f);
+    for (std::size_t i = 0; i < most.size(); ++i) {
+      const Figures f = figures(kernel<Float>(family.words[i], length, type),
+                                definition(family.name, length, i == 1), length);
+      most[i].raise_to(f);
       print(f);
     }
     std::puts("");
   }
   std::printf("| most |");
-  print(most[0]);
-  if (both) print(most[1]);
+  for (const Figures& f : most) print(f);
   std::puts("");
 }
 
-void run(std::string_view name) {
-  for (const Family& family : kFamilies) {
+void run(const std::string& name) {
+  const std::vector<Family> families = {{"complex", {"DFTFwd_CToC", "DFTInv_CToC"}, "c"},
+                                        {"hartley", {"Hartley"}, ""},
+                                        {"real", {"DFTFwd_RToCCS", "DFTInv_CCSToR"}, ""}};
+  for (const Family& family : families) {
     if (family.name != name) continue;
-    print_table<float>(family, family.elements[0]);
+    print_table<float>(family, "32f" + family.suffix);
     std::puts("");
-    print_table<double>(family, family.elements[1]);
+    print_table<double>(family, "64f" + family.suffix);
     if (std::fflush(stdout) != 0) throw std::runtime_error("standard output cannot be written");
     return;
   }

@@ -67,7 +67,8 @@ void walk_calls(const Walk& walk, std::int64_t calls, const Call& call) {
 template <class Call>
 Contestant contestant_of(std::string name, Role role, Call call,
                          std::shared_ptr<const void> owner = {}) {
-  return {std::move(name), role, [call, owner](const Walk& walk, std::int64_t calls) {
+  return {std::move(name), role,
+          [call, owner = std::move(owner)](const Walk& walk, std::int64_t calls) {
             // A copy, which functions out of sight cannot change.
             const Call local = call;
             walk_calls(walk, calls, local);
