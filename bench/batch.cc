@@ -1,9 +1,9 @@
 // haldgen_batch_bench: batches of transforms against FFTW's planned batches and against a loop over
 // single calls, in one process. Writes the table of haldgen_bench, nanoseconds per transform; the
 // mode of a row is the layout of its arrays and the memory that they fill.
-#include <dlfcn.h>
 #include <haldbatch.h>
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstring>
 #include <iostream>
@@ -11,12 +11,11 @@
 #include <stdexcept>
 
 #include "bench/core/arena.h"
+#include "bench/core/duel.h"
 #include "bench/core/results.h"
 #include "bench/core/size_list.h"
-#include "bench/options.h"
+#include "bench/kernels.h"
 #include "bench/peers/peers.h"
-#include "lanes/processor.h"
-#include "names/flavour.h"
 
 namespace haldgen::bench {
 namespace {
@@ -38,76 +37,46 @@ struct Batch {
   Layout layout;
   int count = 0;
 
-  std::size_t per_transform() const {  ///< rows of a block
+  std::size_t rows() const {  ///< of a transform
     return layout == Layout::blocks ? static_cast<std::size_t>(problem.length) : 1;
   }
-  std::size_t src_bytes() const { return per_transform() * problem.source_bytes(); }
-  std::size_t dst_bytes() const { return per_transform() * problem.result_bytes(); }
-  bool src_is_complex() const {
-    return problem.transform == Transform::dft || problem.is_inverse();
-  }
-  bool dst_is_complex() const {
-    return problem.transform == Transform::dft || problem.transform == Transform::real;
-  }
+  std::size_t src_bytes() const { return rows() * problem.source_bytes(); }
+  std::size_t dst_bytes() const { return rows() * problem.result_bytes(); }
   Places places() const {
     if (layout == Layout::columns) return {count, count, 1, 1, 1};
-    const auto elements = [this](std::size_t floats, bool is_complex) {
-      return static_cast<int>(per_transform() * floats / (is_complex ? 2 : 1));
-    };
-    return {count, 1, elements(problem.source_floats(), src_is_complex()),
-            elements(problem.result_floats(), dst_is_complex()), layout == Layout::blocks ? 2 : 1};
+    return {count, 1, static_cast<int>(rows() * problem.source_floats()) / problem.source_parts(),
+            static_cast<int>(rows() * problem.result_floats()) / problem.result_parts(),
+            layout == Layout::blocks ? 2 : 1};
   }
 };
 
 using BatchFunction = std::int32_t (*)(const void*, std::ptrdiff_t, std::ptrdiff_t, void*,
                                        std::ptrdiff_t, std::ptrdiff_t, std::int32_t, std::ptrdiff_t,
                                        std::int32_t);
-using SingleFunction = std::int32_t (*)(const void*, void*, std::int32_t);
+using Build = std::pair<std::string, void*>;
 
-void* opened(const std::string& path) {
-  void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) throw std::runtime_error(dlerror());
-  return library;
-}
-
-template <class Function>
-Function function(void* library, const std::string& name) {
-  void* const address = dlsym(library, name.c_str());
-  if (address == nullptr) throw std::runtime_error("no " + name);
-  return reinterpret_cast<Function>(address);
-}
-
-struct Build {
-  std::string name;
-  void* library;
-};
-
-/// Those that the processor can run, the widest first.
+/// Those that the processor can run, by their names, the widest first.
 std::vector<Build> builds() {
-  std::vector<Build> found;
-  for (const names::Flavour& flavour : names::flavours) {
-    const bool baseline = flavour.vector_bits == 128;
-    const std::string path = HALDGEN_FOLDER +
-                             (baseline ? "" : std::string("/glibc-hwcaps/x86-64-") + flavour.tag) +
-                             "/libhaldbatch.so.8";
-    if (!std::filesystem::exists(path) || !lanes::processor_has(flavour.vector_bits)) continue;
-    found.insert(found.begin(), {std::to_string(flavour.vector_bits) + "_bits", opened(path)});
+  const std::string file = "libhaldbatch.so.8";
+  std::vector<Build> found = {{"128_bits", open_library(HALDGEN_FOLDER "/" + file)}};
+  for (const auto& [flavour, path] : flavours(HALDGEN_FOLDER, file)) {
+    found.emplace(found.begin(), std::to_string(flavour.vector_bits) + "_bits", open_library(path));
   }
   return found;
 }
 
 Contestant batch_of(const Build& build, const Batch& b, Role role) {
-  const auto call =
-      function<BatchFunction>(build.library, "haldb" + b.problem.word() + "_" + b.problem.type());
+  const auto call = reinterpret_cast<BatchFunction>(
+      required(build.second, "haldb" + b.problem.word() + "_" + b.problem.type()));
   const Places at = b.places();
   const std::ptrdiff_t n = b.problem.length;
   if (b.layout != Layout::blocks) {
-    return contestant_of(build.name, role, [=](const std::byte* src, std::byte* dst) {
+    return contestant_of(build.first, role, [=](const std::byte* src, std::byte* dst) {
       call(src, at.step, at.src_dist, dst, at.step, at.dst_dist, static_cast<int>(n), at.count,
            haldScaleNone);
     });
   }
-  return contestant_of(build.name, role, [=](const std::byte* src, std::byte* dst) {
+  return contestant_of(build.first, role, [=](const std::byte* src, std::byte* dst) {
     // All rows at once, then the columns of each block where they are.
     call(src, 1, n, dst, 1, n, static_cast<int>(n), n * at.count, haldScaleNone);
     for (int i = 0; i < at.count; ++i, dst += b.dst_bytes()) {
@@ -119,8 +88,8 @@ Contestant batch_of(const Build& build, const Batch& b, Role role) {
 /// A call for each transform, which columns are gathered for and scattered from.
 Contestant singles(void* library, const Batch& b) {
   const Problem& p = b.problem;
-  const auto call = function<SingleFunction>(
-      library, "haldg" + p.word() + "_" + std::to_string(p.length) + "_" + p.type());
+  const auto call = reinterpret_cast<std::int32_t (*)(const void*, void*, std::int32_t)>(
+      required(library, "haldg" + p.word() + "_" + std::to_string(p.length) + "_" + p.type()));
   const std::size_t src_bytes = p.source_bytes();
   const std::size_t dst_bytes = p.result_bytes();
   const auto count = static_cast<std::size_t>(b.count);
@@ -131,8 +100,8 @@ Contestant singles(void* library, const Batch& b) {
       }
     });
   }
-  const std::size_t src_width = p.float_bytes() * (b.src_is_complex() ? 2 : 1);
-  const std::size_t dst_width = p.float_bytes() * (b.dst_is_complex() ? 2 : 1);
+  const std::size_t src_width = p.float_bytes() * static_cast<std::size_t>(p.source_parts());
+  const std::size_t dst_width = p.float_bytes() * static_cast<std::size_t>(p.result_parts());
   return contestant_of("singles", Role::baseline, [=](const std::byte* src, std::byte* dst) {
     alignas(16) std::byte in[130 * sizeof(double)];
     alignas(16) std::byte out[sizeof in];
@@ -149,7 +118,7 @@ Contestant singles(void* library, const Batch& b) {
 }
 
 struct BatchOptions {
-  std::set<int> lengths = parse_size_list("2-8,12,13,15,16,20,24,30,32,36,48,53,60,64");
+  std::set<int> lengths;
   int rounds = 60;
   FftwEffort effort = FftwEffort::patient;
   std::size_t last_room = 1;
@@ -166,15 +135,16 @@ Measurement measured(const BatchOptions& options, const std::vector<Build>& buil
     contestants.push_back(batch_of(build, b, contestants.empty() ? Role::subject : Role::variant));
   }
   contestants.push_back(
-      fftw_contestant(b.problem, b.places(), arena.walk(), FftwWidth::full, options.effort));
+      planned_by_fftw(b.problem, b.places(), arena.walk(), FftwWidth::full, options.effort)
+          .contestant);
   if (b.layout != Layout::blocks) contestants.push_back(singles(single_library, b));
   for (Contestant& contestant : contestants) contestant.per_call = b.count;
-  arena.fill_sources(random_source(b.problem, count * b.per_transform()));
-  Duel duel(contestants, arena.walk(), 20000);
+  arena.fill_sources(random_source(b.problem, count * b.rows()));
+  Duel duel(std::move(contestants), arena.walk(), 20000);
   for (int round = 0; round < options.rounds; ++round) duel.round();
   const std::string mode =
       std::string(layout_names[static_cast<std::size_t>(b.layout)]) + "/" + room.name;
-  return measurement(duel, mode, b.problem.word(), b.problem.type(), b.problem.length);
+  return {mode, b.problem.word(), b.problem.type(), b.problem.length, duel.contestants()};
 }
 
 void run(const BatchOptions& options) {
@@ -182,20 +152,16 @@ void run(const BatchOptions& options) {
   head.emplace_back("versions", peer_versions());
   head.emplace_back("rounds", std::to_string(options.rounds) + ", slices of 20 us");
   const std::vector<Build> libraries = builds();
-  void* const singles_library = opened(HALDGEN_FOLDER "/libhaldgenp8.so.8");
+  void* const singles_library = open_library(HALDGEN_FOLDER "/libhaldgenp8.so.8");
   std::vector<Measurement> measurements;
-  using names::Element;
-  const std::pair<Transform, std::vector<Element>> families[] = {
-      {Transform::dft, names::kComplex},
-      {Transform::real, names::kReal},
-      {Transform::inverse_real, names::kReal},
-      {Transform::hartley, names::kReal}};
   for (const Room& room : std::span(rooms).first(options.last_room + 1)) {
     for (const int length : options.lengths) {
-      for (const auto& [transform, elements] : families) {
+      for (const Transform transform :
+           {Transform::dft, Transform::real, Transform::inverse_real, Transform::hartley}) {
         for (const Layout layout : {Layout::rows, Layout::columns, Layout::blocks}) {
           if (layout == Layout::blocks && transform != Transform::dft) continue;
-          for (const Element element : elements) {
+          for (const names::Element element :
+               transform == Transform::dft ? names::kComplex : names::kReal) {
             measurements.push_back(measured(options, libraries, singles_library, room,
                                             {{transform, element, length}, layout}));
           }
@@ -213,20 +179,19 @@ int main(int argc, char** argv) {
   namespace bench = haldgen::bench;
   CLI::App app("Batches against FFTW's and against loops over single calls.",
                "haldgen_batch_bench");
+  std::string lengths = "2-8,12,13,15,16,20,24,30,32,36,48,53,60,64";
+  bool quick = false;
+  bool memory = false;
+  app.add_option("--lengths", lengths, "such as 8,16,20-24");
+  auto* const is_quick = app.add_flag("--quick", quick, "less effort, first-level cache only");
+  app.add_flag("--memory", memory, "also arrays that no cache holds")->excludes(is_quick);
+  CLI11_PARSE(app, argc, argv)
   try {
-    bench::BatchOptions options;
-    bench::add_lengths(app, options.lengths, "such as 8,16,20-24");
-    bool quick = false;
-    bool memory = false;
-    auto* const is_quick = app.add_flag("--quick", quick, "less effort, first-level cache only");
-    app.add_flag("--memory", memory, "also arrays that no cache holds")->excludes(is_quick);
-    app.parse(argc, argv);
+    bench::BatchOptions options{bench::parse_size_list(lengths)};
     if (quick) options = {options.lengths, 15, bench::FftwEffort::measure, 0};
     if (memory) options.last_room = 2;
     bench::run(options);
     return 0;
-  } catch (const CLI::ParseError& error) {
-    return bench::exit_status(app, error);
   } catch (const std::exception& error) {
     std::cerr << "haldgen_batch_bench: " << error.what() << '\n';
     return 1;

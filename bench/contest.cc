@@ -2,41 +2,29 @@
 #include "bench/contest.h"
 
 #include <algorithm>
-#include <random>
 #include <regex>
 #include <stdexcept>
 #include <tuple>
 #include <utility>
 
-#include "bench/core/arena.h"
-#include "bench/core/duel.h"
+#include "bench/kernels.h"
 #include "bench/peers/peers.h"
 
 namespace haldgen::bench {
 namespace {
 
-/// The function itself, or a planned transform at each of its lengths.
-std::vector<registry::Export> measured_sizes(const registry::Export& function) {
-  if (function.word->signature != names::Signature::planned_transform) return {function};
-  std::vector<registry::Export> sizes;
-  for (int length = 2; length <= 1 << 16; length *= 2) {
-    sizes.push_back(function);
-    sizes.back().size = length;
-  }
-  return sizes;
-}
-
-bool wanted(const Options& options, const registry::Export& function) {
-  const auto& types = options.types;
-  return (options.lengths.empty() || options.lengths.contains(function.size)) &&
-         (types.empty() ||
-          std::find(types.begin(), types.end(), names::suffix(function.element)) != types.end());
-}
-
-/// The functions of the library and, if they are asked for, of kernels that stand alone and have
-/// other lengths: a library of such kernels may be the one to measure.
+/// The functions of the library, planned ones at each of their lengths, and those of kernels that
+/// stand alone and have other lengths, if they are asked for: a library of such kernels may be the
+/// one to measure.
 std::vector<registry::Export> functions(const Options& options) {
-  std::vector<registry::Export> all = registry::exports();
+  std::vector<registry::Export> all;
+  for (registry::Export function : registry::exports()) {
+    if (function.word->signature != names::Signature::planned_transform) {
+      all.push_back(function);
+      continue;
+    }
+    for (function.size = 2; function.size <= 1 << 16; function.size *= 2) all.push_back(function);
+  }
   for (const names::Word& word : registry::words()) {
     if (word.signature != names::Signature::transform) continue;
     for (const int length : options.lengths) {
@@ -46,177 +34,107 @@ std::vector<registry::Export> functions(const Options& options) {
       }
     }
   }
+  std::sort(all.begin(), all.end(), [](const registry::Export& a, const registry::Export& b) {
+    return std::tuple(a.word->word, a.element, a.size) <
+           std::tuple(b.word->word, b.element, b.size);
+  });
   return all;
 }
 
 }  // namespace
 
-std::vector<Kernel> selected_kernels(const Options& options) {
-  std::vector<Kernel> kernels;
-  for (const registry::Export& function : functions(options)) {
-    for (const registry::Export& sized : measured_sizes(function)) {
-      const std::optional<Problem> problem = problem_of(sized);
-      if (problem && wanted(options, sized)) kernels.push_back({sized, *problem});
-    }
-  }
-  std::sort(kernels.begin(), kernels.end(), [](const Kernel& a, const Kernel& b) {
-    const auto key = [](const Kernel& kernel) {
-      return std::tuple(kernel.function.word->word, kernel.function.element, kernel.function.size);
-    };
-    return key(a) < key(b);
-  });
-  return kernels;
+Bout::Bout(registry::Export function, const Problem& problem, Mode mode)
+    : function_(std::move(function)), problem_(problem), mode_(mode) {}
+
+std::string Bout::title() const {
+  return problem_.word() + "/" + problem_.type() + "/" + std::to_string(function_.size) +
+         (mode_ == Mode::hot ? "/hot" : "/ring");
 }
 
-/// The contestants of one kernel, shared by its modes.
-class Contest::Lineup {
- public:
-  Lineup(Contest& contest, Kernel kernel)
-      : contest_(contest), kernel_(std::move(kernel)), source_(random_source(kernel_.problem)) {}
-
-  const Kernel& kernel() const { return kernel_; }
-
-  /// Fills the arena with the source. Empty if there is no kernel to compare with. The contestants
-  /// are made and checked at the first call, since planning takes time.
-  const std::vector<Contestant>& contestants(Arena& arena) {
-    if (!assembled_) assemble(arena);
-    assembled_ = true;
-    arena.fill_sources(source_);
-    return contestants_;
-  }
-
- private:
-  void assemble(Arena& arena) {
-    const auto& [function, problem] = kernel_;
-    std::vector<Contestant> candidates;
-    const auto add = [&candidates](std::optional<Contestant> candidate) {
-      if (candidate) candidates.push_back(std::move(*candidate));
-    };
-    add(contest_.library_.contestant(function, "haldgen", Role::subject));
-    for (std::size_t i = 0; i < contest_.variants_.size(); ++i) {
-      const std::string& label = contest_.options_.variants[i].label;
-      add(contest_.variants_[i]->contestant(function, label, Role::variant));
+void Bout::assemble(const std::vector<Build>& builds, const Options& options,
+                    std::vector<std::string>& faults) {
+  arena_.emplace(mode_, problem_.source_bytes(), problem_.result_bytes());
+  const Walk& walk = arena_->walk();
+  std::vector<Contestant> others;
+  if (problem_.transform == Transform::wht) {
+    others = plain_wht_contestants(problem_);
+  } else {
+    for (const FftwWidth width : {FftwWidth::full, FftwWidth::narrow}) {
+      others.push_back(planned_by_fftw(problem_, {}, walk, width, FftwEffort::patient).contestant);
     }
-    if (problem.transform == Transform::wht) {
-      for (Contestant& loop : plain_wht_contestants(problem)) add(std::move(loop));
+    for (const auto& peer : {kissfft_contestant(problem_), av_tx_contestant(problem_)}) {
+      if (peer) others.push_back(*peer);
+    }
+  }
+  std::vector<Contestant> candidates;
+  for (const Build& build : builds) {
+    const Role role = candidates.empty() ? Role::subject : Role::variant;
+    auto kernel = kernel_contestant(build.library, function_, build.label, role);
+    if (kernel) candidates.push_back(std::move(*kernel));
+  }
+  candidates.insert(candidates.end(), others.begin(), others.end());
+  const std::vector<std::byte> source = random_source(problem_);
+  arena_->fill_sources(source);
+  // All are held to the first one that is not ours.
+  const std::vector<double> expected = bench::result(problem_, others.front(), walk);
+  std::vector<Contestant> contestants;
+  for (Contestant& candidate : candidates) {
+    const std::string what = fault(problem_, candidate, walk, source, expected);
+    if (what.empty()) {
+      contestants.push_back(std::move(candidate));
     } else {
-      for (const FftwWidth width : {FftwWidth::full, FftwWidth::narrow}) {
-        add(fftw_contestant(problem, {}, arena.walk(), width, FftwEffort::patient));
-      }
-      add(kissfft_contestant(problem));
-      add(av_tx_contestant(problem));
+      faults.push_back(title() + ": " + candidate.name + ": " + what);
     }
-    arena.fill_sources(source_);
-    const Check check(problem, source_);
-    for (Contestant& candidate : candidates) {
-      const std::string fault = check.fault(candidate, arena.walk());
-      if (fault.empty()) {
-        contestants_.push_back(std::move(candidate));
-      } else {
-        contest_.faults_.push_back(function.name + ": " + candidate.name + ": " + fault);
-      }
-    }
-    if (contestants_.empty() || contestants_.front().role != Role::subject) {
-      contest_.faults_.push_back(function.name + ": not measured");
-      contestants_.clear();
-      return;
-    }
-    for (Contestant& yardstick : yardsticks(problem)) contestants_.push_back(std::move(yardstick));
   }
-
-  Contest& contest_;
-  Kernel kernel_;
-  std::vector<std::byte> source_;
-  std::vector<Contestant> contestants_;
-  bool assembled_ = false;
-};
-
-/// One kernel in one mode. Every visit adds rounds.
-class Contest::Bout {
- public:
-  Bout(std::shared_ptr<Lineup> lineup, Mode mode) : lineup_(std::move(lineup)), mode_(mode) {}
-
-  std::string title() const {
-    const auto& [function, problem] = lineup_->kernel();
-    return problem.word() + "/" + problem.type() + "/" + std::to_string(function.size) + "/" +
-           std::string(name(mode_));
+  if (contestants.empty() || contestants.front().name != builds.front().label) {
+    faults.push_back(title() + ": not measured");
+    return;
   }
+  for (Contestant& yardstick : yardsticks(problem_)) contestants.push_back(std::move(yardstick));
+  duel_.emplace(std::move(contestants), walk, options.slice_us * 1000);
+}
 
-  void visit(int rounds, double slice_ns) {
-    if (!arena_) {
-      const Problem& problem = lineup_->kernel().problem;
-      arena_.emplace(mode_, problem.source_bytes(), problem.result_bytes());
-      const std::vector<Contestant>& contestants = lineup_->contestants(*arena_);
-      if (!contestants.empty()) duel_.emplace(contestants, arena_->walk(), slice_ns);
-    }
-    for (int round = 0; duel_ && round < rounds; ++round) duel_->round();
+void Bout::visit(const std::vector<Build>& builds, const Options& options,
+                 std::vector<std::string>& faults) {
+  if (!arena_) assemble(builds, options, faults);
+  for (int round = 0; duel_ && round < options.rounds; ++round) duel_->round();
+}
+
+std::optional<Measurement> Bout::result() const {
+  if (!duel_) return std::nullopt;
+  return Measurement{mode_ == Mode::hot ? "hot" : "ring", problem_.word(), problem_.type(),
+                     problem_.length, duel_->contestants()};
+}
+
+std::string Bout::plans() const {
+  if (problem_.transform == Transform::wht) return {};
+  const Arena arena(mode_, problem_.source_bytes(), problem_.result_bytes());
+  std::string text = title() + "\n";
+  for (const FftwWidth width : {FftwWidth::full, FftwWidth::narrow}) {
+    const auto plan = planned_by_fftw(problem_, {}, arena.walk(), width, FftwEffort::patient);
+    text += plan.contestant.name + ":\n" + plan.description + "\n";
   }
+  return text;
+}
 
-  /// All rounds so far; none without a kernel.
-  std::optional<Measurement> result() {
-    if (!duel_) return std::nullopt;
-    const Problem& problem = lineup_->kernel().problem;
-    return measurement(*duel_, std::string(name(mode_)), problem.word(), problem.type(),
-                       problem.length);
-  }
-
- private:
-  std::shared_ptr<Lineup> lineup_;
-  Mode mode_;
-  std::optional<Arena> arena_;
-  std::optional<Duel> duel_;
-};
-
-Contest::Contest(const Options& options) : options_(options), library_(options.library) {
-  for (const Variant& variant : options.variants) {
-    variants_.push_back(std::make_unique<KernelLibrary>(variant.path));
-  }
+std::vector<Bout> bouts(const Options& options) {
+  std::vector<Bout> found;
   const std::regex filter(options.filter);
-  for (Kernel& kernel : selected_kernels(options)) {
-    const auto lineup = std::make_shared<Lineup>(*this, std::move(kernel));
-    for (const Mode mode : options_.modes) {
-      auto bout = std::make_unique<Bout>(lineup, mode);
-      if (std::regex_search(bout->title(), filter)) bouts_.push_back(std::move(bout));
+  for (const registry::Export& function : functions(options)) {
+    const std::optional<Problem> problem = problem_of(function);
+    const auto& types = options.types;
+    if (!problem || (!options.lengths.empty() && !options.lengths.contains(function.size)) ||
+        (!types.empty() && std::find(types.begin(), types.end(), problem->type()) == types.end())) {
+      continue;
+    }
+    for (const Mode mode : {Mode::hot, Mode::ring}) {
+      if (options.mode == (mode == Mode::hot ? "ring" : "hot")) continue;
+      Bout bout(function, *problem, mode);
+      if (std::regex_search(bout.title(), filter)) found.push_back(std::move(bout));
     }
   }
-  if (bouts_.empty()) throw std::runtime_error("there is no such kernel to measure");
-}
-
-Contest::~Contest() = default;
-
-std::vector<std::string> Contest::titles() const {
-  std::vector<std::string> titles;
-  for (const auto& bout : bouts_) titles.push_back(bout->title());
-  return titles;
-}
-
-void Contest::run(const std::function<void(double done, const std::string& title)>& progress) {
-  std::vector<Bout*> visits;
-  for (int i = 0; i < options_.repetitions; ++i) {
-    for (const auto& bout : bouts_) visits.push_back(bout.get());
-  }
-  std::shuffle(visits.begin(), visits.end(), std::mt19937_64(std::random_device()()));
-  for (std::size_t i = 0; i < visits.size(); ++i) {
-    progress(static_cast<double>(i) / static_cast<double>(visits.size()), visits[i]->title());
-    visits[i]->visit(options_.rounds, options_.slice_us * 1000);
-  }
-}
-
-std::vector<Measurement> Contest::measurements() const {
-  std::vector<Measurement> measurements;
-  for (const auto& bout : bouts_) {
-    std::optional<Measurement> result = bout->result();
-    if (result) measurements.push_back(std::move(*result));
-  }
-  return measurements;
-}
-
-Head Contest::describe() const {
-  Head head = {{"haldgen", library_.path()}};
-  for (std::size_t i = 0; i < variants_.size(); ++i) {
-    head.emplace_back(options_.variants[i].label, variants_[i]->path());
-  }
-  return head;
+  if (found.empty()) throw std::runtime_error("there is no such kernel to measure");
+  return found;
 }
 
 }  // namespace haldgen::bench

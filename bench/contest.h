@@ -1,63 +1,68 @@
-// What is measured: every built kernel in every mode.
+// What is measured: kernels in modes.
 #pragma once
 
-#include <functional>
-#include <memory>
+#include <filesystem>
+#include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
+#include "bench/core/arena.h"
+#include "bench/core/duel.h"
 #include "bench/core/results.h"
-#include "bench/haldgen_kernels.h"
-#include "bench/options.h"
 #include "bench/problem.h"
-#include "registry/registry.h"
 
 namespace haldgen::bench {
 
-/// A kernel of the table together with the transform that it computes.
-struct Kernel {
-  registry::Export function;
-  Problem problem;
+/// A build of the library to run, the one under test or beside it.
+struct Build {
+  std::string label;
+  std::filesystem::path path;
+  void* library;
 };
 
-/// The built fixed-length kernels that the options ask for, ordered by family, type and length.
-std::vector<Kernel> selected_kernels(const Options& options);
+struct Options {
+  std::set<int> lengths;           ///< empty for all
+  std::vector<std::string> types;  ///< element suffixes; empty for all
+  std::string mode = "both";
+  std::string filter;  ///< regular expression on titles; empty for all
+  int repetitions = 3;
+  int rounds = 100;
+  double slice_us = 30;
+};
 
-/// Holds the libraries that are open and collects the results.
-class Contest {
+/// One kernel in one mode.
+class Bout {
  public:
-  /// Opens the libraries. Throws std::runtime_error on failure, and when nothing is selected.
-  explicit Contest(const Options& options);
-  ~Contest();
-  Contest(const Contest&) = delete;
-  Contest& operator=(const Contest&) = delete;
+  Bout(registry::Export function, const Problem& problem, Mode mode);
 
-  /// "family/type/length/mode" of each kernel and mode.
-  std::vector<std::string> titles() const;
+  /// "family/type/length/mode", the length as in the function's name.
+  std::string title() const;
 
-  /// Visits all in random order, as often as the options say, so that a busy spell of the machine
-  /// spoils one visit and not a kernel. Calls `progress` with the part of the work that is done and
-  /// the title that comes next.
-  void run(const std::function<void(double done, const std::string& title)>& progress);
+  /// Measures some rounds more. The contestants are made and checked at the first visit, since
+  /// planning takes time; one that fails is not measured but added to `faults`.
+  void visit(const std::vector<Build>& builds, const Options& options,
+             std::vector<std::string>& faults);
 
-  /// What has been measured, ordered as the kernels are.
-  std::vector<Measurement> measurements() const;
+  /// All rounds so far; none without a kernel.
+  std::optional<Measurement> result() const;
 
-  /// What went wrong, one line each. A contestant that fails its check is not measured.
-  const std::vector<std::string>& faults() const { return faults_; }
-
-  /// The libraries that are open.
-  Head describe() const;
+  /// The plans of FFTW for it.
+  std::string plans() const;
 
  private:
-  class Lineup;
-  class Bout;
+  void assemble(const std::vector<Build>& builds, const Options& options,
+                std::vector<std::string>& faults);
 
-  const Options& options_;
-  KernelLibrary library_;
-  std::vector<std::unique_ptr<KernelLibrary>> variants_;
-  std::vector<std::unique_ptr<Bout>> bouts_;
-  std::vector<std::string> faults_;
+  registry::Export function_;
+  Problem problem_;
+  Mode mode_;
+  std::optional<Arena> arena_;
+  std::optional<Duel> duel_;
 };
+
+/// All that the options ask for, ordered by family, type and length. Throws std::runtime_error if
+/// there is none.
+std::vector<Bout> bouts(const Options& options);
 
 }  // namespace haldgen::bench

@@ -1,4 +1,4 @@
-// A transform to be measured: its data, and the check that a contestant computes it.
+// A transform to be measured: its data, and the check that contestants compute it.
 #pragma once
 
 #include <cstddef>
@@ -26,6 +26,8 @@ struct Problem {
   bool is_float() const;
   bool is_inverse() const;
   std::size_t float_bytes() const { return is_float() ? sizeof(float) : sizeof(double); }
+  int source_parts() const;  ///< floats of an element
+  int result_parts() const;
   std::size_t source_floats() const;
   std::size_t result_floats() const;
   std::size_t source_bytes() const { return source_floats() * float_bytes(); }
@@ -38,21 +40,12 @@ std::optional<Problem> problem_of(const registry::Export& function);
 /// Random samples from [-1, 1), the same for every program run, `count` transforms' sources.
 std::vector<std::byte> random_source(const Problem& problem, std::size_t count = 1);
 
-/// Holds contestants to the definition, evaluated in wide arithmetic.
-class Check {
- public:
-  Check(const Problem& problem, std::span<const std::byte> source);
+/// What one call on the first pair of the walk gives; NaN where it writes nothing.
+std::vector<double> result(const Problem& problem, const Contestant& contestant, const Walk& walk);
 
-  /// Runs one call on the first pair of the walk, whose source is that of the constructor. Returns
-  /// what is wrong: an error larger than rounding explains, or a changed source. Empty if all is
-  /// well.
-  std::string fault(const Contestant& contestant, const Walk& walk) const;
-
- private:
-  Problem problem_;
-  std::vector<std::byte> source_;
-  std::vector<long double> expected_;  ///< NaN where outputs are not compared
-  long double bound_;
-};
+/// What is wrong with the call whose result is `expected` in another library: a difference larger
+/// than rounding explains, or a changed source, which `source` was. Empty if all is well.
+std::string fault(const Problem& problem, const Contestant& contestant, const Walk& walk,
+                  std::span<const std::byte> source, const std::vector<double>& expected);
 
 }  // namespace haldgen::bench

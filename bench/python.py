@@ -10,7 +10,7 @@ quartiles. The machine is idle where these agree.
 import functools
 import platform
 import statistics
-import time
+import timeit
 
 import haldgen
 import numpy as np
@@ -21,18 +21,11 @@ TURNS = 101
 TURN = 2e-3  # seconds
 
 
-def seconds(call, repeats):
-    start = time.perf_counter()
-    for _ in range(repeats):
-        call()
-    return (time.perf_counter() - start) / repeats
-
-
 def compare(ours, theirs):
     """Least times of both, and the quartiles of their ratios."""
-    calls = (ours, theirs)
-    repeats = [max(1, round(TURN / min(seconds(call, 1) for _ in range(5)))) for call in calls]
-    turns = [[seconds(*each) for each in zip(calls, repeats)] for _ in range(TURNS)]
+    timers = (timeit.Timer(ours), timeit.Timer(theirs))
+    repeats = [max(1, round(TURN / min(timer.repeat(5, 1)))) for timer in timers]
+    turns = [[timer.timeit(n) / n for timer, n in zip(timers, repeats)] for _ in range(TURNS)]
     ratios = statistics.quantiles((our / their for our, their in turns), n=4)
     return [min(times) for times in zip(*turns)], ratios
 

@@ -7,6 +7,7 @@
 from __future__ import annotations
 
 import argparse
+import csv
 from dataclasses import dataclass
 from math import prod
 from pathlib import Path
@@ -37,10 +38,6 @@ class Results:
         return self.head.get(role, "").split()
 
     @property
-    def subject(self) -> str:
-        return self.head["subject"]
-
-    @property
     def busy(self) -> bool:
         """At the end the benchmark itself is a load of 1."""
         return max(float(self.head["load at start"]), float(self.head["load at end"]) - 1) > BUSY
@@ -55,25 +52,30 @@ class Results:
         for role in ("peer", "baseline"):
             there = [name for name in self.named(role) if name in row.times]
             if there:
-                return min(there, key=lambda name: row.times[name])
+                return min(there, key=row.times.__getitem__)
         return None
 
 
-def read(path: Path) -> Results:
+def table(path: Path) -> tuple[dict[str, str], list[dict[str, str]]]:
+    """The lines `# key: value` of a file, and its rows by the names of the columns."""
     lines = path.read_text().splitlines()
-    head = dict(line[2:].split(": ", 1) for line in lines if line.startswith("# "))
-    names, *cells = [line.split("\t") for line in lines if not line.startswith("#")]
-    if names[:5] != ["mode", "statistic", "family", "type", "length"] or any(len(c) != len(names) for c in cells):
-        raise ValueError(f"{path} is no table of results")
-    return Results(head, [Row(*c[:4], int(c[4]), {n: float(t) for n, t in zip(names[5:], c[5:]) if t != "-"})
-                          for c in cells])
+    head = dict(line[2:].split(": ", 1) for line in lines if line.startswith("# ") and ": " in line)
+    return head, list(csv.DictReader((line for line in lines if not line.startswith("#")), delimiter="\t"))
+
+
+def read(path: Path) -> Results:
+    head, rows = table(path)
+    try:
+        return Results(head, [Row(c.pop("mode"), c.pop("statistic"), c.pop("family"), c.pop("type"), int(c.pop("length")),
+                                  {name: float(time) for name, time in c.items() if time != "-"}) for c in rows])
+    except (KeyError, TypeError) as error:
+        raise ValueError(f"{path} is no table of results") from error
 
 
 def read_counts(path: Path) -> Counts:
     """Additions and conversions by family, type and length, as haldgen-generate counts prints them."""
-    head, *rows = [line.split("\t") for line in path.read_text().splitlines() if not line.startswith("#")]
-    tables = [dict(zip(head, row)) for row in rows]
-    return {(t["family"], t["type"], int(t["length"])): (float(t["add"]), float(t.get("convert", 0))) for t in tables}
+    return {(t["family"], t["type"], int(t["length"])): (float(t["add"]), float(t.get("convert", 0)))
+            for t in table(path)[1]}
 
 
 def bound(row: Row, counts: Counts) -> float | None:
@@ -100,7 +102,7 @@ def screen(results: Results, counts: Counts, lengths: set[int], statistic: str, 
     rows = [r for r in results.rows if r.statistic == statistic and (not lengths or r.length in lengths)]
     modes = list(dict.fromkeys(r.mode for r in rows))
     mode = mode or (modes[0] if modes else "")
-    ours, others = results.subject, [*results.named("narrow_peer"), *results.named("variant")]
+    ours, others = results.head["subject"], [*results.named("narrow_peer"), *results.named("variant")]
 
     def ratios(chosen: list[Row], other: str | None = None) -> list[float]:
         names = [(r, other or results.best(r)) for r in chosen]

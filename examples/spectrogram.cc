@@ -1,16 +1,11 @@
 // Draws the short-time spectrum of a recording: a whole program around one small transform.
-#include <spawn.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
-#include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -24,7 +19,6 @@ namespace haldgen::demo {
 namespace {
 
 namespace fs = std::filesystem;
-using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 struct Options {
@@ -37,118 +31,72 @@ struct Options {
   int height = 500;
 };
 
-// A file that has its name once it is complete, and never else.
-struct NewFile {
-  explicit NewFile(const std::string& name)
-      : path(name), unfinished(name + '.' + std::to_string(getpid()) + ".part") {
-    if (fs::exists(path) && !fs::is_regular_file(path)) {
-      throw std::runtime_error(path + ": is there and no file of the usual kind");
-    }
-    // A bad path is known before any work is done.
-    if (!std::ofstream(unfinished)) {
-      throw std::runtime_error(path + ": " + std::generic_category().message(errno));
-    }
+void refuse_output(const std::string& picture, const std::string& recording) {
+  std::error_code none;
+  if (fs::equivalent(recording, picture, none)) {
+    throw std::runtime_error(picture + ": the picture would overwrite the recording");
   }
-  ~NewFile() { std::remove(unfinished.c_str()); }
-  NewFile(const NewFile&) = delete;
-  NewFile& operator=(const NewFile&) = delete;
-
-  const std::string path, unfinished;
-};
-
-const char* clean_line() { return isatty(STDERR_FILENO) != 0 ? "\r\033[K" : ""; }
-
-// On a terminal one line tells how far it is, if it takes long.
-void analyse(Recording& recording, ShortTimeSpectrum& spectrum) {
-  const auto total = static_cast<double>(recording.info().frames);
-  auto next = Clock::now() + 500ms;
-  for (auto block = recording.next_block(); !block.empty(); block = recording.next_block()) {
-    spectrum.feed(block);
-    if (isatty(STDERR_FILENO) == 0 || Clock::now() < next) continue;
-    next = Clock::now() + 200ms;
-    const double share = static_cast<double>(recording.position()) / total;
-    std::cerr << "\rspectrogram: " << static_cast<int>(100 * share) << " %" << std::flush;
+  if (fs::exists(picture) && !fs::is_regular_file(picture)) {
+    throw std::runtime_error(picture + ": is there and no file of the usual kind");
   }
-  spectrum.finish();
-  std::cerr << clean_line();
-}
-
-// By chafa, where it is installed.
-void show_in_terminal(const std::string& picture) {
-  if (isatty(STDOUT_FILENO) == 0) return;
-  std::string words[] = {"chafa", "--", picture};
-  char* const arguments[] = {words[0].data(), words[1].data(), words[2].data(), nullptr};
-  pid_t process = 0;
-  if (posix_spawnp(&process, "chafa", nullptr, nullptr, arguments, environ) == 0) {
-    waitpid(process, nullptr, 0);
-  }
-}
-
-std::string shown(double value) {
-  char text[32];
-  std::snprintf(text, sizeof text, value < 1000 ? "%.4g" : "%.0f", value);
-  return text;
 }
 
 void run(const Options& options) {
   const auto start = Clock::now();
-  Recording recording(options.recording, options.top_hz);
-  std::error_code none;
-  if (fs::equivalent(options.recording, options.output, none)) {
-    throw std::runtime_error(options.output + ": the picture would overwrite the recording");
+  refuse_output(options.output, options.recording);
+  const bool terminal = isatty(STDERR_FILENO) != 0;
+  const auto show_progress = [terminal](double part) {
+    if (terminal) std::fprintf(stderr, "spectrogram: %.0f %%\033[K\r", 100 * part);
+  };
+  const Recording recording = read_recording(options.recording, options.top_hz, show_progress);
+  if (terminal) std::fputs("\033[K", stderr);
+  if (recording.unusable > 0) {
+    std::fprintf(stderr, "spectrogram: %zu samples were no usable numbers and count as silence\n",
+                 recording.unusable);
   }
   const int hop = options.hop != 0 ? options.hop : std::max(1, options.length / 4);
-  const SF_INFO& file = recording.info();
-  const double rate = recording.rate();
-  const double stated_samples = static_cast<double>(file.frames) * rate / file.samplerate;
-  ShortTimeSpectrum spectrum(options.length, hop, stated_samples,
-                             plot_area(options.width, options.height).width);
-  const NewFile picture(options.output);
-  analyse(recording, spectrum);
-  if (spectrum.frames() == 0) {
-    throw std::runtime_error(options.recording + ": too short, " +
-                             std::to_string(recording.position()) + " samples");
-  }
-  if (recording.unusable() > 0) {
-    std::cerr << "spectrogram: " << recording.unusable()
-              << " samples were no usable numbers and count as silence\n";
-  }
-  const double seconds = static_cast<double>(recording.position()) / file.samplerate;
+  const ShortTimeSpectrum spectrum(recording.samples, options.length, hop,
+                                   plot_area(options.width, options.height).width);
+  const double rate = recording.rate;
+  const double seconds = recording.seconds;
+  // A picture has its name once it is complete, and never else.
+  const std::string unfinished = options.output + ".part";
   try {
-    draw_png(spectrum, seconds, rate / options.length, options.width, options.height,
-             picture.unfinished);
-    fs::rename(picture.unfinished, picture.path);
+    draw_png(spectrum, seconds, rate / options.length, options.width, options.height, unfinished);
+    fs::rename(unfinished, options.output);
   } catch (const std::exception& failure) {
+    std::remove(unfinished.c_str());
     throw std::runtime_error(options.output + ": " + failure.what());
   }
   const double elapsed = std::chrono::duration<double>(Clock::now() - start).count();
   const double inside = spectrum.transform_time().count();
-  show_in_terminal(options.output);
-  std::cout << options.recording << ": " << shown(seconds) << " s at " << file.samplerate << " Hz, "
-            << file.channels << (file.channels == 1 ? " channel\n" : " channels mixed\n");
-  if (rate < file.samplerate) std::cout << "filtered, brought to " << shown(rate) << " Hz\n";
-  std::cout << spectrum.frames() << " frames of " << options.length << " samples ("
-            << shown(1000 * options.length / rate) << " ms), one every " << hop << " ("
-            << shown(1000 * hop / rate) << " ms); frequencies " << shown(rate / options.length)
-            << " Hz apart\nthe transforms: " << shown(1e3 * inside) << " ms, "
-            << shown(1e9 * inside / static_cast<double>(spectrum.frames())) << " ns each, "
-            << shown(seconds / inside) << " times real time\n"
-            << "with reading, filtering and drawing: " << shown(1e3 * elapsed) << " ms, "
-            << shown(seconds / elapsed) << " times real time\n"
-            << "picture: " << options.output << std::endl;
-  if (!std::cout) throw std::runtime_error("standard output cannot be written");
+  std::printf("%s: %.4g s at %d Hz, %d %s\n", options.recording.c_str(), seconds,
+              recording.file_rate, recording.channels,
+              recording.channels == 1 ? "channel" : "channels mixed");
+  if (rate < recording.file_rate) std::printf("filtered, brought to %.0f Hz\n", rate);
+  std::printf(
+      "%zu frames of %d samples (%.4g ms), one every %d (%.4g ms); "
+      "frequencies %.4g Hz apart\n",
+      spectrum.frames(), options.length, 1000 * options.length / rate, hop, 1000 * hop / rate,
+      rate / options.length);
+  std::printf("the transforms: %.4g ms, %.4g ns each, %.0f times real time\n", 1e3 * inside,
+              1e9 * inside / static_cast<double>(spectrum.frames()), seconds / inside);
+  std::printf("with reading, filtering and drawing: %.4g ms, %.0f times real time\npicture: %s\n",
+              1e3 * elapsed, seconds / elapsed, options.output.c_str());
+  if (std::fflush(stdout) != 0) throw std::runtime_error("standard output cannot be written");
 }
 
 }  // namespace
 }  // namespace haldgen::demo
 
+// A failure of the parser itself ends the program. NOLINTNEXTLINE(bugprone-exception-escape)
 int main(int count, char** arguments) {
   using namespace haldgen::demo;
   Options options;
   CLI::App app(
       "Draws the short-time spectrum of a recording (WAV or any other format that libsndfile reads;"
-      "\nall channels are mixed to one) as a PNG picture, and shows it in the terminal by chafa.\n"
-      "0 dB is a sine of full scale. The exit status is 0, or 1 after any error.",
+      "\nall channels are mixed to one) as a PNG picture. 0 dB is a sine of full scale.\n"
+      "The exit status is 0, or 1 after any error.",
       "spectrogram");
   app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
   app.add_option("-o,--output", options.output, "the picture to write")->capture_default_str();
@@ -175,9 +123,9 @@ int main(int count, char** arguments) {
   } catch (const CLI::Success& answer) {
     return app.exit(answer);
   } catch (const CLI::ParseError& error) {
-    std::cerr << "spectrogram: " << error.what() << "; see --help\n";
+    std::fprintf(stderr, "spectrogram: %s; see --help\n", error.what());
   } catch (const std::exception& failure) {
-    std::cerr << clean_line() << "spectrogram: " << failure.what() << '\n';
+    std::fprintf(stderr, "spectrogram: %s\n", failure.what());
   }
   return 1;
 }

@@ -3,119 +3,80 @@
 // and reference give the same bits everywhere, so the tables are the same on every machine.
 #include <dlfcn.h>
 
-#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <iostream>
-#include <map>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "accuracy/measure.h"
 #include "haldgen.h"
-#include "registry/registry.h"
 
 namespace haldgen::accuracy {
 namespace {
 
-/// Forward and inverse kernel of one length; empty if not built.
-template <class Float>
-struct Pair {
-  Kernel<Float> forward;
-  Kernel<Float> inverse;
-};
-
-void* library() {
-  static void* const handle = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-  if (handle == nullptr) throw std::runtime_error(dlerror());
-  return handle;
-}
-
-/// The families that are measured: the words of a transform and of its inverse, and how the
-/// tables of their element types are headed.
 struct Family {
-  std::string_view name;
-  std::string_view forward_word;
-  std::string_view inverse_word;  ///< empty for none
-  std::array<names::Element, 2> elements;
+  std::string name;
+  std::vector<std::string> words;  ///< of the transform and of its inverse, if there is one
+  std::string suffix;              ///< of exported names behind 32f or 64f
 };
-
-constexpr Family kFamilies[] = {
-    {"complex", "DFTFwd_CToC", "DFTInv_CToC", {names::Element::c32, names::Element::c64}},
-    {"hartley", "Hartley", "", {names::Element::f32, names::Element::f64}},
-    {"real", "DFTFwd_RToCCS", "DFTInv_CCSToR", {names::Element::f32, names::Element::f64}},
-};
-
+/// None if there is no such function.
 template <class Float>
-Kernel<Float> kernel(const registry::Export& entry) {
+Kernel<Float> kernel(const std::string& word, int length, const std::string& type) {
+  static void* const library = dlopen(HALDGEN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+  if (library == nullptr) throw std::runtime_error(dlerror());
+  const std::string name = "haldg" + word + "_" + std::to_string(length) + "_" + type;
   using Function = std::int32_t(const void*, void*, std::int32_t);
-  auto* const function = reinterpret_cast<Function*>(dlsym(library(), entry.name.c_str()));
-  if (function == nullptr) throw std::runtime_error("the library has no " + entry.name);
-  return [function, name = entry.name](const std::vector<Float>& src, std::vector<Float>& dst) {
+  auto* const function = reinterpret_cast<Function*>(dlsym(library, name.c_str()));
+  if (function == nullptr) return {};
+  return [function, name](const std::vector<Float>& src, std::vector<Float>& dst) {
     const auto status = function(src.data(), dst.data(), haldScaleNone);
     if (status != haldStatusOk) throw std::runtime_error(name + " refuses a valid call");
   };
 }
 
+void print(const Figures& f) {
+  std::printf(" %.2f | %.2f | %.2f | %.2f | %.2f |", f.mean, f.worst_call, f.largest,
+              f.mean_by_root_log, f.worst_by_root_log);
+}
+
 template <class Float>
-std::map<int, Pair<Float>> kernels(const Family& family, names::Element element) {
-  std::map<int, Pair<Float>> pairs;
-  for (const registry::Export& entry : registry::exports()) {
-    if (entry.element != element || entry.size == 0) continue;
-    if (entry.word->word == family.forward_word) {
-      pairs[entry.size].forward = kernel<Float>(entry);
-    } else if (entry.word->word == family.inverse_word) {
-      pairs[entry.size].inverse = kernel<Float>(entry);
+void print_table(const Family& family, const std::string& type) {
+  std::printf("### %s\n\n", type.c_str());
+  std::puts(family.words.size() == 2 ? "| N | forward: L2 | worst call | largest | L2/√ | worst/√ |"
+                                       " inverse: L2 | worst call | largest | L2/√ | worst/√ |\n"
+                                       "|--:|--:|--:|--:|--:|--:|--:|--:|--:|--:|--:|"
+                                     : "| N | L2 | worst call | largest | L2/√ | worst/√ |\n"
+                                       "|--:|--:|--:|--:|--:|--:|");
+  std::vector<Figures> most(family.words.size());
+  for (int length = 2; length <= 64; ++length) {
+    if (!kernel<Float>(family.words[0], length, type)) continue;
+    std::printf("| %d |", length);
+    for (std::size_t i = 0; i < most.size(); ++i) {
+      const Figures f = figures(kernel<Float>(family.words[i], length, type),
+                                definition(family.name, length, i == 1), length);
+      most[i].raise_to(f);
+      print(f);
     }
+    std::puts("");
   }
-  return pairs;
+  std::printf("| most |");
+  for (const Figures& f : most) print(f);
+  std::puts("");
 }
 
-std::string cells(const Figures& f) {
-  char text[80];
-  std::snprintf(text, sizeof text, " %.2f | %.2f | %.2f | %.2f | %.2f |", f.mean, f.worst_call,
-                f.largest, f.mean_by_root_log, f.worst_by_root_log);
-  return text;
-}
-
-template <class Float>
-std::string cells(const Kernel<Float>& kernel, std::string_view family, int length, bool inverse,
-                  Figures& most) {
-  if (!kernel) return " | | | | |";
-  const Figures f = figures(kernel, definition(family, length, inverse), length);
-  most.raise_to(f);
-  return cells(f);
-}
-
-template <class Float>
-void print_table(const Family& family, names::Element element) {
-  constexpr std::string_view kColumns = "L2 | worst call | largest | L2/√ | worst/√ |";
-  constexpr std::string_view kRule = "--:|--:|--:|--:|--:|";
-  const bool both = !family.inverse_word.empty();
-  std::cout << "### " << names::suffix(element) << "\n\n| N |" << (both ? " forward: " : " ")
-            << kColumns;
-  if (both) std::cout << " inverse: " << kColumns;
-  std::cout << "\n|--:|" << kRule << (both ? kRule : "") << '\n';
-  Figures most_forward, most_inverse;
-  for (const auto& [length, pair] : kernels<Float>(family, element)) {
-    const std::string forward = cells(pair.forward, family.name, length, false, most_forward);
-    std::cout << "| " << length << " |" << forward;
-    if (both) std::cout << cells(pair.inverse, family.name, length, true, most_inverse);
-    std::cout << '\n';
-  }
-  std::cout << "| most |" << cells(most_forward) << (both ? cells(most_inverse) : "") << '\n';
-}
-
-void run(std::string_view name) {
-  for (const Family& family : kFamilies) {
+void run(const std::string& name) {
+  const std::vector<Family> families = {{"complex", {"DFTFwd_CToC", "DFTInv_CToC"}, "c"},
+                                        {"hartley", {"Hartley"}, ""},
+                                        {"real", {"DFTFwd_RToCCS", "DFTInv_CCSToR"}, ""}};
+  for (const Family& family : families) {
     if (family.name != name) continue;
-    print_table<float>(family, family.elements[0]);
-    std::cout << '\n';
-    print_table<double>(family, family.elements[1]);
-    if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
+    print_table<float>(family, "32f" + family.suffix);
+    std::puts("");
+    print_table<double>(family, "64f" + family.suffix);
+    if (std::fflush(stdout) != 0) throw std::runtime_error("standard output cannot be written");
     return;
   }
   throw std::runtime_error("no such family");

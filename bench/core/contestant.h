@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace haldgen::bench {
 
@@ -38,7 +39,8 @@ struct Contestant {
   std::string name;
   Role role;
   Slice slice;
-  double per_call = 1;  ///< things that a call does and that time is reported for
+  double per_call = 1;               ///< things that a call does and that time is reported for
+  std::vector<double> samples = {};  ///< nanoseconds for each of them, one a round
 };
 
 /// Body of a slice: `call(src, dst)` for each step of the walk. A template, so that all that
@@ -65,7 +67,8 @@ void walk_calls(const Walk& walk, std::int64_t calls, const Call& call) {
 template <class Call>
 Contestant contestant_of(std::string name, Role role, Call call,
                          std::shared_ptr<const void> owner = {}) {
-  return {std::move(name), role, [call, owner](const Walk& walk, std::int64_t calls) {
+  return {std::move(name), role,
+          [call, owner = std::move(owner)](const Walk& walk, std::int64_t calls) {
             // A copy, which functions out of sight cannot change.
             const Call local = call;
             walk_calls(walk, calls, local);

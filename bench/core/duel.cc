@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace haldgen::bench {
 namespace {
@@ -18,8 +19,8 @@ double nanoseconds(const Slice& slice, const Walk& walk, std::int64_t calls) {
 
 }  // namespace
 
-Duel::Duel(const std::vector<Contestant>& contestants, const Walk& walk, double slice_ns)
-    : contestants_(contestants), walk_(walk), samples_(contestants.size()) {
+Duel::Duel(std::vector<Contestant> contestants, const Walk& walk, double slice_ns)
+    : contestants_(std::move(contestants)), walk_(walk) {
   for (const Contestant& contestant : contestants_) {
     calls_.push_back(calibrate(contestant.slice, slice_ns));
   }
@@ -35,22 +36,17 @@ std::int64_t Duel::calibrate(const Slice& slice, double slice_ns) const {
   return std::max(std::int64_t{1}, static_cast<std::int64_t>(scaled));
 }
 
-double Duel::timed_slice(std::size_t index) const {
-  const auto& [name, role, slice, per_call] = contestants_[index];
-  const std::int64_t calls = calls_[index];
-  // The neighbour has just used the instruction cache and the branch predictor.
-  slice(walk_, std::max(std::int64_t{2}, calls / 8));
-  return nanoseconds(slice, walk_, calls) / (static_cast<double>(calls) * per_call);
-}
-
 void Duel::round() {
   const std::size_t count = contestants_.size();
   const std::size_t first = rounds_ % count;
   const bool backwards = (rounds_ / count) % 2 != 0;
   for (std::size_t i = 0; i < count; ++i) {
-    const std::size_t step = backwards ? count - i : i;
-    const std::size_t index = (first + step) % count;
-    samples_[index].push_back(timed_slice(index));
+    const std::size_t index = (first + (backwards ? count - i : i)) % count;
+    auto& [name, role, slice, per_call, samples] = contestants_[index];
+    const std::int64_t calls = calls_[index];
+    // The neighbour has just used the instruction cache and the branch predictor.
+    slice(walk_, std::max(std::int64_t{2}, calls / 8));
+    samples.push_back(nanoseconds(slice, walk_, calls) / (static_cast<double>(calls) * per_call));
   }
   ++rounds_;
 }

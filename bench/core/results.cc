@@ -22,21 +22,6 @@ double minimum(std::span<const double> samples) {
   return *std::min_element(samples.begin(), samples.end());
 }
 
-/// The contestants of all measurements by their roles, in the order in which they first occur.
-std::array<std::vector<std::string>, role_names.size()> names_by_role(
-    const std::vector<Measurement>& measurements) {
-  std::array<std::vector<std::string>, role_names.size()> names;
-  for (const Measurement& measurement : measurements) {
-    for (const Series& series : measurement.series) {
-      auto& of_role = names.at(static_cast<std::size_t>(series.role));
-      if (std::find(of_role.begin(), of_role.end(), series.name) == of_role.end()) {
-        of_role.push_back(series.name);
-      }
-    }
-  }
-  return names;
-}
-
 std::string processor() {
   std::ifstream file("/proc/cpuinfo");
   for (std::string line; std::getline(file, line);) {
@@ -48,24 +33,15 @@ std::string processor() {
   return "unknown";
 }
 
-std::string today() {
-  const std::time_t now = std::time(nullptr);
+std::string load_average() {
+  double load = 0;
+  if (getloadavg(&load, 1) != 1) return "unknown";
   std::ostringstream text;
-  text << std::put_time(std::gmtime(&now), "%F");
+  text << std::fixed << std::setprecision(2) << load;
   return text.str();
 }
 
 }  // namespace
-
-Measurement measurement(const Duel& duel, std::string mode, std::string family, std::string type,
-                        int length) {
-  Measurement result{std::move(mode), std::move(family), std::move(type), length, {}};
-  for (std::size_t i = 0; i < duel.contestants().size(); ++i) {
-    const Contestant& contestant = duel.contestants()[i];
-    result.series.push_back({contestant.name, contestant.role, duel.samples()[i]});
-  }
-  return result;
-}
 
 double median(std::span<const double> samples) {
   std::vector<double> sorted(samples.begin(), samples.end());
@@ -75,30 +51,31 @@ double median(std::span<const double> samples) {
   return (sorted[upper - 1] + sorted[upper]) / 2;
 }
 
-std::string load_average() {
-  double load = 0;
-  if (getloadavg(&load, 1) != 1) return "unknown";
-  std::ostringstream text;
-  text << std::fixed << std::setprecision(2) << load;
-  return text.str();
-}
-
 Head describe_machine() {
+  const std::time_t now = std::time(nullptr);
+  std::ostringstream today;
+  today << std::put_time(std::gmtime(&now), "%F");
   return {{"processor", processor()},
           {"cores", std::to_string(std::thread::hardware_concurrency())},
-          {"date", today()},
+          {"date", today.str()},
           {"load at start", load_average()}};
 }
 
 void write_results(std::ostream& out, Head head, const std::vector<Measurement>& measurements) {
   head.emplace_back("load at end", load_average());
-  const auto names = names_by_role(measurements);
+  // The contestants of all measurements by their roles, in the order in which they first occur.
   std::vector<std::string> columns;
-  for (std::size_t role = 0; role < names.size(); ++role) {
+  for (std::size_t role = 0; role < role_names.size(); ++role) {
     std::string line;
-    for (const std::string& name : names.at(role)) {
-      line += (line.empty() ? "" : " ") + name;
-      columns.push_back(name);
+    for (const Measurement& measurement : measurements) {
+      for (const Contestant& contestant : measurement.contestants) {
+        if (static_cast<std::size_t>(contestant.role) != role ||
+            std::find(columns.begin(), columns.end(), contestant.name) != columns.end()) {
+          continue;
+        }
+        line += (line.empty() ? "" : " ") + contestant.name;
+        columns.push_back(contestant.name);
+      }
     }
     if (!line.empty()) head.emplace_back(role_names.at(role), line);
   }
@@ -111,10 +88,10 @@ void write_results(std::ostream& out, Head head, const std::vector<Measurement>&
       out << row.mode << '\t' << name << '\t' << row.family << '\t' << row.type << '\t'
           << row.length;
       for (const std::string& column : columns) {
-        const auto of = std::find_if(row.series.begin(), row.series.end(),
-                                     [&](const Series& series) { return series.name == column; });
+        const auto of = std::find_if(row.contestants.begin(), row.contestants.end(),
+                                     [&](const Contestant& one) { return one.name == column; });
         out << '\t';
-        if (of == row.series.end()) {
+        if (of == row.contestants.end()) {
           out << '-';
         } else {
           out << statistic(of->samples);

@@ -9,16 +9,8 @@
 #include <vector>
 
 #include "bench/core/contestant.h"
-#include "bench/core/duel.h"
 
 namespace haldgen::bench {
-
-/// One contestant of a finished measurement.
-struct Series {
-  std::string name;
-  Role role;
-  std::vector<double> samples;  ///< nanoseconds, one a round
-};
 
 /// One transform measured in one mode.
 struct Measurement {
@@ -26,12 +18,8 @@ struct Measurement {
   std::string family;  ///< transform word, such as DFTFwd_CToC
   std::string type;    ///< element suffix, such as 64fc
   int length;
-  std::vector<Series> series;
+  std::vector<Contestant> contestants;
 };
-
-/// The rounds of a duel so far.
-Measurement measurement(const Duel& duel, std::string mode, std::string family, std::string type,
-                        int length);
 
 /// The mean of the two in the middle, if samples are even in number. There is one at least.
 double median(std::span<const double> samples);
@@ -40,7 +28,6 @@ using Head = std::vector<std::pair<std::string, std::string>>;
 
 /// The head lines of every table that say where it comes from, all but the load at the end.
 Head describe_machine();
-std::string load_average();
 
 /// The head with a line for each role, then the rows of medians and minima.
 void write_results(std::ostream& out, Head head, const std::vector<Measurement>& measurements);

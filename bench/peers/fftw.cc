@@ -4,26 +4,17 @@
 #include <cstdlib>
 #include <memory>
 #include <stdexcept>
-#include <type_traits>
+#include <string>
 
 #include "bench/peers/peers.h"
 
 // The copy has the same functions under other names.
-#define HALDGEN_DECLARE_COPY(prefix)                                        \
-  extern "C" {                                                              \
-  decltype(prefix##_plan_many_dft) narrow_##prefix##_plan_many_dft;         \
-  decltype(prefix##_plan_many_dft_r2c) narrow_##prefix##_plan_many_dft_r2c; \
-  decltype(prefix##_plan_many_dft_c2r) narrow_##prefix##_plan_many_dft_c2r; \
-  decltype(prefix##_plan_many_r2r) narrow_##prefix##_plan_many_r2r;         \
-  decltype(prefix##_execute_dft) narrow_##prefix##_execute_dft;             \
-  decltype(prefix##_execute_dft_r2c) narrow_##prefix##_execute_dft_r2c;     \
-  decltype(prefix##_execute_dft_c2r) narrow_##prefix##_execute_dft_c2r;     \
-  decltype(prefix##_execute_r2r) narrow_##prefix##_execute_r2r;             \
-  decltype(prefix##_destroy_plan) narrow_##prefix##_destroy_plan;           \
-  decltype(prefix##_sprint_plan) narrow_##prefix##_sprint_plan;             \
-  }
-HALDGEN_DECLARE_COPY(fftw)
-HALDGEN_DECLARE_COPY(fftwf)
+#define HALDGEN_NARROW(name) FFTW_CONCAT(narrow_fftw_, name)
+#define HALDGEN_NARROW_FLOAT(name) FFTW_CONCAT(narrow_fftwf_, name)
+extern "C" {
+FFTW_DEFINE_API(HALDGEN_NARROW, double, fftw_complex)
+FFTW_DEFINE_API(HALDGEN_NARROW_FLOAT, float, fftwf_complex)
+}
 
 namespace haldgen::bench {
 namespace {
@@ -48,22 +39,9 @@ HALDGEN_LIBRARY(WideFloat, fftwf, float);
 HALDGEN_LIBRARY(NarrowDouble, narrow_fftw, double);
 HALDGEN_LIBRARY(NarrowFloat, narrow_fftwf, float);
 
-struct Free {
-  void operator()(char* text) const { std::free(text); }
-};
-
-/// Calls `body` with the build of FFTW that is meant.
-template <class Body>
-auto with_library(const Problem& problem, FftwWidth width, const Body& body) {
-  if (width == FftwWidth::narrow) {
-    return problem.is_float() ? body(NarrowFloat()) : body(NarrowDouble());
-  }
-  return problem.is_float() ? body(WideFloat()) : body(WideDouble());
-}
-
 template <class F>
-auto plan_of(F /*library*/, const Problem& problem, const Places& places, const Walk& walk,
-             FftwEffort effort) {
+FftwPlan planned(F /*library*/, const Problem& problem, const Places& places, const Walk& walk,
+                 FftwWidth width, unsigned flags) {
   using Real = typename F::Real;
   using Complex = Real[2];
   auto* const in = const_cast<std::byte*>(walk.src);
@@ -73,84 +51,61 @@ auto plan_of(F /*library*/, const Problem& problem, const Places& places, const 
   auto* const complex_out = reinterpret_cast<Complex*>(walk.dst);
   const int sizes[] = {problem.length, problem.length};
   const auto& [count, step, src, dst, rank] = places;
-  const unsigned flags =
-      FFTW_PRESERVE_INPUT | (effort == FftwEffort::patient ? FFTW_PATIENT : FFTW_MEASURE);
   const fftw_r2r_kind kind = problem.transform == Transform::hartley ? FFTW_DHT : FFTW_REDFT11;
-  decltype(F::r2r(0, nullptr, 0, nullptr, nullptr, 0, 0, nullptr, nullptr, 0, 0, nullptr, 0)) plan;
+
+  /// `run` executes the plan on arrays of these elements.
+  const auto kept = [width]<class Plan, class In, class Out>(Plan* plan,
+                                                             void (*run)(Plan*, In*, Out*)) {
+    if (plan == nullptr) throw std::runtime_error("FFTW found no plan");
+    const std::unique_ptr<char, decltype(&std::free)> text(F::describe(plan), std::free);
+    const bool narrow = width == FftwWidth::narrow;
+    return FftwPlan{text.get(),
+                    contestant_of(
+                        narrow ? "fftw128" : "fftw", narrow ? Role::narrow_peer : Role::peer,
+                        [run, plan](const std::byte* from, std::byte* to) {
+                          // The interface has no const, but these plans keep their input.
+                          run(plan, reinterpret_cast<In*>(const_cast<std::byte*>(from)),
+                              reinterpret_cast<Out*>(to));
+                        },
+                        std::shared_ptr<Plan>(plan, F::destroy))};
+  };
   switch (problem.transform) {
     case Transform::dft:
     case Transform::inverse_dft:
-      plan = F::c2c(rank, sizes, count, complex_in, nullptr, step, src, complex_out, nullptr, step,
-                    dst, problem.is_inverse() ? FFTW_BACKWARD : FFTW_FORWARD, flags);
-      break;
+      return kept(F::c2c(rank, sizes, count, complex_in, nullptr, step, src, complex_out, nullptr,
+                         step, dst, problem.is_inverse() ? FFTW_BACKWARD : FFTW_FORWARD, flags),
+                  F::run_c2c);
     case Transform::real:
-      plan = F::r2c(rank, sizes, count, real_in, nullptr, step, src, complex_out, nullptr, step,
-                    dst, flags);
-      break;
+      return kept(F::r2c(rank, sizes, count, real_in, nullptr, step, src, complex_out, nullptr,
+                         step, dst, flags),
+                  F::run_r2c);
     case Transform::inverse_real:
-      plan = F::c2r(rank, sizes, count, complex_in, nullptr, step, src, real_out, nullptr, step,
-                    dst, flags);
-      break;
+      return kept(F::c2r(rank, sizes, count, complex_in, nullptr, step, src, real_out, nullptr,
+                         step, dst, flags),
+                  F::run_c2r);
     default:
-      plan = F::r2r(rank, sizes, count, real_in, nullptr, step, src, real_out, nullptr, step, dst,
-                    &kind, flags);
+      return kept(F::r2r(rank, sizes, count, real_in, nullptr, step, src, real_out, nullptr, step,
+                         dst, &kind, flags),
+                  F::run_r2r);
   }
-  if (plan == nullptr) throw std::runtime_error("FFTW found no plan");
-  return std::shared_ptr<std::remove_pointer_t<decltype(plan)>>(plan, F::destroy);
-}
-
-template <class F, class Plan>
-std::string description(F /*library*/, const Plan& plan) {
-  const std::unique_ptr<char, Free> text(F::describe(plan.get()));
-  return text.get();
-}
-
-/// `run` executes a plan on arrays of these elements.
-template <class In, class Out, class Plan, class Run>
-Contestant running(const char* name, Role role, const Plan& plan, Run run) {
-  return contestant_of(
-      name, role,
-      [run, plan = plan.get()](const std::byte* src, std::byte* dst) {
-        // The interface has no const, but these plans keep their input.
-        run(plan, reinterpret_cast<In*>(const_cast<std::byte*>(src)), reinterpret_cast<Out*>(dst));
-      },
-      plan);
 }
 
 }  // namespace
 
-Contestant fftw_contestant(const Problem& problem, const Places& places, const Walk& walk,
-                           FftwWidth width, FftwEffort effort) {
-  return with_library(problem, width, [&](auto library) {
-    using F = decltype(library);
-    using Real = typename F::Real;
-    using Complex = Real[2];
-    const auto plan = plan_of(library, problem, places, walk, effort);
-    const bool narrow = width == FftwWidth::narrow;
-    if (narrow && description(library, plan).find("avx") != std::string::npos) {
-      throw std::runtime_error("the plan of FFTW at 128 bits uses wider vectors: " +
-                               description(library, plan));
-    }
-    const char* const name = narrow ? "fftw128" : "fftw";
-    const Role role = narrow ? Role::narrow_peer : Role::peer;
-    switch (problem.transform) {
-      case Transform::dft:
-      case Transform::inverse_dft:
-        return running<Complex, Complex>(name, role, plan, F::run_c2c);
-      case Transform::real:
-        return running<Real, Complex>(name, role, plan, F::run_r2c);
-      case Transform::inverse_real:
-        return running<Complex, Real>(name, role, plan, F::run_c2r);
-      default:
-        return running<Real, Real>(name, role, plan, F::run_r2r);
-    }
-  });
-}
-
-std::string describe_fftw_plan(const Problem& problem, const Walk& walk, FftwWidth width) {
-  return with_library(problem, width, [&](auto library) {
-    return description(library, plan_of(library, problem, {}, walk, FftwEffort::patient));
-  });
+FftwPlan planned_by_fftw(const Problem& problem, const Places& places, const Walk& walk,
+                         FftwWidth width, FftwEffort effort) {
+  const unsigned flags =
+      FFTW_PRESERVE_INPUT | (effort == FftwEffort::patient ? FFTW_PATIENT : FFTW_MEASURE);
+  const auto by = [&](auto library) {
+    return planned(library, problem, places, walk, width, flags);
+  };
+  if (width == FftwWidth::full) return problem.is_float() ? by(WideFloat()) : by(WideDouble());
+  FftwPlan plan = problem.is_float() ? by(NarrowFloat()) : by(NarrowDouble());
+  if (plan.description.find("avx") != std::string::npos) {
+    throw std::runtime_error("the plan of FFTW at 128 bits uses wider vectors: " +
+                             plan.description);
+  }
+  return plan;
 }
 
 }  // namespace haldgen::bench

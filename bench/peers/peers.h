@@ -27,13 +27,15 @@ enum class FftwWidth {
   narrow,  ///< a copy of the library that believes the machine has no vectors beyond 128 bits
 };
 
+struct FftwPlan {
+  std::string description;  ///< as FFTW prints it
+  Contestant contestant;
+};
+
 /// FFTW 3 planned for the arrays of the walk, which planning overwrites. It keeps its source.
 /// Throws std::runtime_error should a narrow plan name a wider codelet all the same.
-Contestant fftw_contestant(const Problem& problem, const Places& places, const Walk& walk,
-                           FftwWidth width, FftwEffort effort);
-
-/// The plan that FFTW chooses, as FFTW prints it.
-std::string describe_fftw_plan(const Problem& problem, const Walk& walk, FftwWidth width);
+FftwPlan planned_by_fftw(const Problem& problem, const Places& places, const Walk& walk,
+                         FftwWidth width, FftwEffort effort);
 
 /// kissfft. Debian ships it for float only, and its real transform has even lengths.
 std::optional<Contestant> kissfft_contestant(const Problem& problem);

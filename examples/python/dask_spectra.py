@@ -37,17 +37,6 @@ class FileArray:
         np.load(self.path, mmap_mode="r+")[where] = values
 
 
-def record(path, blocks, at_once):
-    """A sine in noise, written piece by piece."""
-    recording = FileArray(path, (blocks, BLOCK), np.float32)
-    random = np.random.default_rng(1)
-    sine = np.sin(2 * np.pi * TONE * np.arange(BLOCK) / BLOCK, dtype=np.float32)
-    for start in range(0, blocks, at_once):
-        piece = random.standard_normal((min(at_once, blocks - start), BLOCK), np.float32)
-        recording[start : start + at_once] = piece + sine
-    return recording
-
-
 def check(recording, spectra):
     """Compares some spectra with those of numpy.fft."""
     some = np.random.default_rng(2).integers(recording.shape[0], size=1000)
@@ -67,7 +56,7 @@ def main():
         folder = pathlib.Path(options.folder or scratch)
         blocks = (options.megabytes << 20) // (4 * BLOCK)
         at_once = min(blocks // 4, 1 << 15)  # 8 megabytes
-        recording = record(folder / "recording.npy", blocks, at_once)
+        recording = FileArray(folder / "recording.npy", (blocks, BLOCK), np.float32)
         target = FileArray(folder / "spectra.npy", (blocks, BLOCK // 2 + 1), np.complex64)
 
         with distributed.LocalCluster(
@@ -77,6 +66,10 @@ def main():
             dashboard_address=None,
             local_directory=scratch,
         ) as cluster, distributed.Client(cluster) as client:
+            noise = dask.array.random.RandomState(1).normal(size=recording.shape, chunks=(at_once, BLOCK))
+            sine = np.sin(2 * np.pi * TONE * np.arange(BLOCK) / BLOCK)
+            (noise + sine).astype(np.float32).store(recording, lock=False)
+
             x = dask.array.from_array(recording, chunks=(at_once, BLOCK))
             spectra = haldgen.rfft(x)  # nothing is computed yet
             power = (abs(spectra) ** 2).mean(axis=0)

@@ -15,7 +15,6 @@
 #include <stdexcept>
 #include <string>
 #include <system_error>
-#include <vector>
 
 #include "spectrogram/short_time.h"
 
@@ -79,22 +78,6 @@ void draw_levels(cairo_t* cairo, const Rectangle& area, std::size_t columns, std
   cairo_restore(cairo);
 }
 
-// The round numbers from `first` to `last`, at most `most` steps of 1, 2 or 5 times a power of ten.
-inline std::vector<double> marks(double first, double last, int most) {
-  const double least = (last - first) / most;
-  double step = std::pow(10.0, std::floor(std::log10(least)));
-  for (const double factor : {2.0, 2.5, 2.0}) {
-    if (step < 0.9999 * least) step *= factor;
-  }
-  std::vector<double> found;
-  // Half a thousandth forgives the rounding of an end that is itself a multiple of the step.
-  const auto past = std::lround(std::floor(last / step + 0.0005));
-  for (auto i = std::lround(std::ceil(first / step - 0.0005)); i <= past; ++i) {
-    found.push_back(static_cast<double>(i) * step);
-  }
-  return found;
-}
-
 // `x` is the left end of the text, its middle or its right end for `align` 0, 0.5 or 1.
 inline void text(cairo_t* cairo, double x, double y, double align, const std::string& label) {
   cairo_text_extents_t size;
@@ -103,31 +86,33 @@ inline void text(cairo_t* cairo, double x, double y, double align, const std::st
   cairo_show_text(cairo, label.c_str());
 }
 
-inline void mark(cairo_t* cairo, double x, double y, double dx, double dy, double align,
-                 double value) {
-  cairo_move_to(cairo, x, y);
-  cairo_rel_line_to(cairo, kMark * dx, kMark * dy);
-  cairo_stroke(cairo);
-  std::ostringstream label;
-  label << value;
-  text(cairo, x + 2 * kMark * dx, y + 3 * kMark * dy, align, label.str());
-}
+// The side of a picture's part that a scale is at, and where its text is aligned.
+struct Side {
+  int dx, dy;
+  double align;
+};
 
-inline void draw_axes(cairo_t* cairo, const Rectangle& area, double seconds, double bin_hz,
-                      std::size_t bins) {
-  const int bottom = area.top + area.height;
-  const int right = area.left + area.width;
-  for (const double t : marks(0, seconds, area.width / 90)) {
-    mark(cairo, area.left + t / seconds * area.width, bottom, 0, 1, 0.5, t);
+// Marks at the round numbers from `first` to `last`, at most `most` steps of 1, 2 or 5 times a
+// power of ten. The scale begins at (x, y) and goes `across` to the right and `up`.
+inline void draw_scale(cairo_t* cairo, double x, double y, double across, double up, Side side,
+                       double first, double last, int most) {
+  const double least = (last - first) / most;
+  double step = std::pow(10.0, std::floor(std::log10(least)));
+  for (const double factor : {2.0, 2.5, 2.0}) {
+    if (step < 0.9999 * least) step *= factor;
   }
-  text(cairo, right, bottom + 7 * kMark, 1, "s");
-  const double top_khz = static_cast<double>(bins - 1) * bin_hz / 1000;
-  for (const double f : marks(0, top_khz, std::max(1, area.height / 40))) {
-    // A bin is centred on its frequency.
-    const double rows = (f * 1000 / bin_hz + 0.5) / static_cast<double>(bins);
-    mark(cairo, area.left, bottom - rows * area.height, -1, 0, 1, f);
+  // A thousandth forgives the rounding of an end that is itself a multiple of the step.
+  for (double i = std::ceil(first / step - 0.001); i <= last / step + 0.001; ++i) {
+    const double share = (i * step - first) / (last - first);
+    const double at_x = x + share * across;
+    const double at_y = y - share * up;
+    cairo_move_to(cairo, at_x, at_y);
+    cairo_rel_line_to(cairo, kMark * side.dx, kMark * side.dy);
+    cairo_stroke(cairo);
+    std::ostringstream label;
+    label << i * step + 0.0;  // no negative zero
+    text(cairo, at_x + 2 * kMark * side.dx, at_y + 3 * kMark * side.dy, side.align, label.str());
   }
-  text(cairo, area.left - kMark, area.top - 3 * kMark, 1, "kHz");
 }
 
 /// Draws frames that span `seconds`, of bins `bin_hz` apart, into a PNG file. Throws.
@@ -157,10 +142,16 @@ inline void draw_png(const ShortTimeSpectrum& spectrum, double seconds, double b
   cairo_set_source_rgb(cairo, 0.1, 0.1, 0.15);
   cairo_select_font_face(cairo, "sans-serif", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
   cairo_set_font_size(cairo, kFontSize);
-  draw_axes(cairo, area, seconds, bin_hz, spectrum.bins());
-  for (const double db : marks(bottom_db, top_db, 7)) {
-    mark(cairo, bar.left + bar.width, bar.top + (top_db - db) / kShownDb * bar.height, 1, 0, 0, db);
-  }
+  const int bottom = area.top + area.height;
+  draw_scale(cairo, area.left, bottom, area.width, 0, {0, 1, 0.5}, 0, seconds, area.width / 90);
+  text(cairo, area.left + area.width, bottom + 7 * kMark, 1, "s");
+  // A bin is centred on its frequency.
+  const double row = area.height / static_cast<double>(spectrum.bins());
+  const double top_khz = static_cast<double>(spectrum.bins() - 1) * bin_hz / 1000;
+  draw_scale(cairo, area.left, bottom - row / 2, 0, area.height - row, {-1, 0, 1}, 0, top_khz,
+             std::max(1, area.height / 40));
+  text(cairo, area.left - kMark, area.top - 3 * kMark, 1, "kHz");
+  draw_scale(cairo, bar.left + bar.width, bottom, 0, bar.height, {1, 0, 0}, bottom_db, top_db, 7);
   text(cairo, bar.left, bar.top - 3 * kMark, 0, "dB");
 
   errno = 0;

@@ -3,35 +3,20 @@
 const ok = 0, badFile = 8, notFound = 44, notSupported = 58;
 const preopened = 3;
 
-class Exit {
-  constructor(status) { this.status = status; }
-}
-
-/// Runs a program with its arguments, the first of which is its name, and files by name.
+/// Runs a program with its arguments, the first of which is its name, and files by name. What it
+/// returns has its exit status and what it printed.
 export async function run(program, args, files) {
-  const {instance, printed} = await started(program, args, files);
-  try {
-    instance.exports._start();
-  } catch (exit) {
-    if (!(exit instanceof Exit)) throw exit;
-    return {status: exit.status, text: printed.join('')};
-  }
-  return {status: 0, text: printed.join('')};
-}
-
-async function started(program, args, files) {
   let memory;
   const data = () => new DataView(memory.buffer);
   const bytes = (address, length) => new Uint8Array(memory.buffer, address, length);
-  const encoded = args.map((text) => new TextEncoder().encode(`${text}\0`));
-  const decoder = new TextDecoder();
-  const printed = [];
-  const open = new Map();  // from number of a file to what is read and how far
-
+  const put = (address, ...values) =>
+      values.forEach((value, k) => data().setUint32(address + 4 * k, value, true));
   const pieces = (list, count) => Array.from({length: count}, (_, k) => bytes(
       data().getUint32(list + 8 * k, true), data().getUint32(list + 8 * k + 4, true)));
-  const text = (address, length) => decoder.decode(bytes(address, length));
-  const put = (address, value) => data().setUint32(address, value, true);
+  const encoded = args.map((text) => new TextEncoder().encode(`${text}\0`));
+  const decoder = new TextDecoder();
+  const open = [];  // what is left to read of files
+  const result = {status: 0, text: ''};
 
   const system = {
     args_sizes_get(count, size) {
@@ -55,8 +40,7 @@ async function started(program, args, files) {
     environ_get: () => ok,
     fd_prestat_get(file, place) {
       if (file !== preopened) return badFile;
-      put(place, 0);      // a folder
-      put(place + 4, 1);  // with a name of one letter
+      put(place, 0, 1);  // a folder with a name of one letter
       return ok;
     },
     fd_prestat_dir_name(file, place) {
@@ -64,55 +48,47 @@ async function started(program, args, files) {
       return ok;
     },
     fd_fdstat_get(file, place) {
-      if (file > preopened && !open.has(file)) return badFile;
-      bytes(place, 24).fill(0);
-      bytes(place, 1)[0] = file < preopened ? 2 : file === preopened ? 3 : 4;  // terminal, folder, file
-      bytes(place + 8, 16).fill(0xff);                                        // all rights
+      put(place, file === preopened ? 3 : 4, 0, ~0, ~0, ~0, ~0);  // a folder or a file, all rights
       return ok;
     },
     fd_fdstat_set_flags: () => ok,
     path_open(folder, lookup, path, length, flags, rights, inherited, fdflags, place) {
-      const name = text(path, length);
+      const name = decoder.decode(bytes(path, length));
       if (!Object.hasOwn(files, name)) return notFound;
-      const file = preopened + 1 + open.size;
-      open.set(file, {content: files[name], at: 0});
-      put(place, file);
+      put(place, preopened + open.push(files[name]));
       return ok;
     },
     path_readlink: () => notFound,
     fd_read(file, list, count, place) {
-      const source = open.get(file);
-      if (source === undefined) return badFile;
-      const before = source.at;
+      const k = file - preopened - 1;
+      if (!(k in open)) return badFile;
+      const before = open[k].length;
       for (const piece of pieces(list, count)) {
-        const part = source.content.subarray(source.at, source.at + piece.length);
-        piece.set(part);
-        source.at += part.length;
+        piece.set(open[k].subarray(0, piece.length));
+        open[k] = open[k].subarray(piece.length);
       }
-      put(place, source.at - before);
+      put(place, before - open[k].length);
       return ok;
     },
-    fd_seek(file, offset, whence, place) {
-      const source = open.get(file);
-      if (source === undefined) return notSupported;
-      source.at = [0, source.at, source.content.length][whence] + Number(offset);
-      data().setBigUint64(place, BigInt(source.at), true);
-      return ok;
-    },
+    fd_seek: () => notSupported,
     fd_write(file, list, count, place) {
-      if (file !== 1 && file !== 2) return badFile;
-      let written = 0;
-      for (const piece of pieces(list, count)) {
-        printed.push(decoder.decode(piece, {stream: true}));
-        written += piece.length;
-      }
-      put(place, written);
+      const parts = pieces(list, count);
+      result.text += parts.map((piece) => decoder.decode(piece, {stream: true})).join('');
+      put(place, parts.reduce((sum, piece) => sum + piece.length, 0));
       return ok;
     },
     fd_close: () => ok,
-    proc_exit(status) { throw new Exit(status); },
+    proc_exit(status) {
+      result.status = status;
+      throw result;  // the only way out of the program
+    },
   };
   const {instance} = await WebAssembly.instantiate(program, {wasi_snapshot_preview1: system});
   memory = instance.exports.memory;
-  return {instance, printed};
+  try {
+    instance.exports._start();
+  } catch (reason) {
+    if (reason !== result) throw reason;
+  }
+  return result;
 }

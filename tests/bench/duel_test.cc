@@ -40,9 +40,9 @@ TEST(Duel, GivesEveryContestantOneSlicePerRound) {
   const std::vector<Contestant> contestants = {busy("a", 100, diary), busy("b", 200, diary)};
   Duel duel(contestants, Walk{}, slice_ns);
   for (int i = 0; i < 5; ++i) duel.round();
-  ASSERT_EQ(duel.samples().size(), 2U);
-  EXPECT_EQ(duel.samples()[0].size(), 5U);
-  EXPECT_EQ(duel.samples()[1].size(), 5U);
+  ASSERT_EQ(duel.contestants().size(), 2U);
+  EXPECT_EQ(duel.contestants()[0].samples.size(), 5U);
+  EXPECT_EQ(duel.contestants()[1].samples.size(), 5U);
 }
 
 TEST(Duel, ReportsTimePerCall) {
@@ -51,8 +51,8 @@ TEST(Duel, ReportsTimePerCall) {
   Duel duel(contestants, Walk{}, slice_ns);
   duel.round();
   // A call cannot take less than the contestant stays busy.
-  EXPECT_GE(duel.samples()[0][0], 50);
-  EXPECT_GE(duel.samples()[1][0], 5000);
+  EXPECT_GE(duel.contestants()[0].samples[0], 50);
+  EXPECT_GE(duel.contestants()[1].samples[0], 5000);
 }
 
 TEST(Duel, RotatesAndReversesTheOrder) {

@@ -29,13 +29,12 @@ TEST(Results, MedianOfOddAndEvenCounts) {
 }
 
 TEST(Results, TableNamesRolesAndMarksAbsentContestants) {
+  const auto own = [](std::vector<double> samples) {
+    return Contestant{"own", Role::subject, {}, 1, std::move(samples)};
+  };
   const std::vector<Measurement> measurements = {
-      {"hot", "Word", "32f", 8, {{"fast", Role::peer, {5, 1, 3, 4}}, {"own", Role::subject, {7}}}},
-      {"ring",
-       "Word",
-       "64f",
-       16,
-       {{"own", Role::subject, {1.25}}, {"add", Role::calibration, {2}}}},
+      {"hot", "Word", "32f", 8, {{"fast", Role::peer, {}, 1, {5, 1, 3, 4}}, own({7})}},
+      {"ring", "Word", "64f", 16, {own({1.25}), {"add", Role::calibration, {}, 1, {2}}}},
   };
   std::ostringstream out;
   write_results(out, {{"processor", "of a test"}}, measurements);
