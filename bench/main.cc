@@ -60,12 +60,13 @@ std::vector<std::string> measure(std::vector<Bout>& bouts, const std::vector<Bui
   std::shuffle(visits.begin(), visits.end(), std::mt19937_64(std::random_device()()));
   for (std::size_t i = 0; i < visits.size(); ++i) {
     if (terminal) {
-      std::fprintf(stderr, "%zu of %zu visits, %s\x1b[K\r", i, visits.size(),
+      const std::string bar(40 * i / visits.size(), '#');
+      std::fprintf(stderr, "\r[%-40s] %zu of %zu visits, %s\x1b[K", bar.c_str(), i, visits.size(),
                    visits[i]->title().c_str());
     }
     visits[i]->visit(builds, options, faults);
   }
-  if (terminal) std::fputs("\x1b[K", stderr);
+  if (terminal) std::fputs("\r\x1b[K", stderr);
   return faults;
 }
 
