@@ -302,10 +302,14 @@ PEERS = {"fftw": "FFTW", "kissfft": "kissfft", "av_tx": "av_tx", "fftw128": "FFT
          "plain": "plain loop", "plain_fixed": "plain loop, fixed length"}
 
 
+# One run of the baseline and its flavours.
+FLAVOURS = ROOT / "docs/results/flavours.tsv"
+
+
 def speeds(mode: str = "hot") -> dict[tuple[str, str, int], Speed]:
     """Medians by word, type and length."""
     result = {}
-    for path in sorted((ROOT / "docs/results").glob("*.tsv")):
+    for path in sorted(set((ROOT / "docs/results").glob("*.tsv")) - {FLAVOURS}):
         results = read_results(path)
         run = Run(results, str(path.relative_to(ROOT / "docs")))
         for row in results.rows:
@@ -315,22 +319,12 @@ def speeds(mode: str = "hot") -> dict[tuple[str, str, int], Speed]:
     return result
 
 
-def flavour_ratios() -> dict[tuple[str, str, int], dict[str, float]]:
-    """Time over the baseline's, of forward kernels; by family, type and length, then flavour."""
-    result: dict[tuple[str, str, int], dict[str, float]] = {}
-    head: list[str] = []
-    for line in (ROOT / "docs/flavours.md").read_text().splitlines():
-        row = [c.strip() for c in line.strip("|").split("|")]
-        if line.startswith("|") and row[0] in ("points", "order"):
-            head = row
-        match = re.fullmatch(r"(\d+fc?), (v\d)", row[0])
-        if match is None:
-            continue
-        family = "complex" if match[1].endswith("c") else "wht" if head[0] == "order" else "dct4"
-        for size, ratio in zip(head[1:], row[1:]):
-            length = 2 ** int(size) if family == "wht" else int(size)
-            result.setdefault((family, match[1], length), {})[match[2]] = float(ratio)
-    return result
+def flavour_times() -> dict[tuple[str, str, int], dict[str, tuple[float, float]]]:
+    """Nanoseconds in each flavour, and over the baseline's in the same run; by word, type and length."""
+    results = read_results(FLAVOURS)
+    return {(row.family, row.type, row.length):
+            {name: (row.times[name], row.times[name] / row.times["haldgen"]) for name in results.named("variant")}
+            for row in results.rows if (row.mode, row.statistic) == ("hot", "median")}
 
 
 # Promises and words.

@@ -65,7 +65,7 @@ class Facts:
         self._designs = facts.designs(build / "generate/haldgen-generate")
         self.errors = facts.errors(self.library)
         self.speeds = facts.speeds()
-        self.flavours = facts.flavour_ratios()
+        self.flavours = facts.flavour_times()
         self.sums = facts.sums()
 
     def designs(self, kernel: Kernel) -> list[tuple[str, Design]]:
@@ -291,7 +291,8 @@ def kernel_page(kernel: Kernel, known: Facts) -> str:
         notation=_glossary("real.md" if family.slug == "hartley" else family.page, [d.algorithm for _, d in designs]),
         pictures=[name for name, _ in pictures(kernel, known)], any_whole=any(whole), any_folded=not all(whole),
         speeds=[(function, speed, _bars(speed)) for function, speed in measured if speed],
-        flavours=known.flavours.get((family.slug, kernel.type, kernel.length), {}),
+        flavours=[(kernel.function(word), known.flavours.get((word, kernel.type, kernel.length), {}))
+                  for word in family.measured],
         errors=[(kernel.function(word), known.errors[word, kernel.type, kernel.length]) for word in family.measured],
         functions=[(kernel.function(word), known.code(kernel, word), known.sums[kernel.published(word)])
                    for word in family.words])
