@@ -55,7 +55,7 @@ void print(std::size_t length, const std::vector<Wide>& cosines) {
     double one_difference = 0;
     double one_exact = 0;
     for (std::size_t i = 0; i < std::min(length, kOutputs); ++i) {
-      const std::size_t k = length <= kOutputs ? i : random() % length;
+      const std::size_t k = length <= kOutputs ? i : static_cast<std::size_t>(random() % length);
       const Wide wanted = output(x, k, cosines);
       const double error = to_double(Wide(double{y[k]}) - wanted);
       one_difference += error * error;
