@@ -50,8 +50,9 @@ class Arena {
 
   /// Copies `data` (`src_bytes` long) into every source.
   void fill_sources(std::span<const std::byte> data) {
+    auto* const first = reinterpret_cast<std::byte*>(sources_.data());
     for (std::ptrdiff_t pair = 0; pair < walk_.pairs; ++pair) {
-      std::memcpy(sources_.data()->bytes + pair * walk_.src_stride, data.data(), data.size());
+      std::memcpy(first + pair * walk_.src_stride, data.data(), data.size());
     }
   }
 
