@@ -12,7 +12,7 @@ from pathlib import Path
 
 import charts
 import pages
-from facts import ROOT
+from facts import BATCHES, ROOT, read_results
 
 DOCS = ROOT / "docs"
 
@@ -49,6 +49,9 @@ def write_charts(known: pages.Facts, results: Path) -> None:
         for theme in charts.THEMES:
             for kind, draw in charts.KINDS.items():
                 draw(known.speeds, word, theme, results / f"{word}-{kind}-{theme}.svg")
+    measured = read_results(BATCHES)
+    for theme in charts.THEMES:
+        charts.batches(measured, theme, results / f"batches-ratio-{theme}.svg")
 
 
 def speed_page() -> str:
@@ -59,7 +62,9 @@ def speed_page() -> str:
         lines += [f"![{title}, {kind}](../results/{word}-{kind}-{theme}.svg#only-{theme})"
                   for kind in charts.KINDS for theme in charts.THEMES]
         lines.append("")
-    return "\n".join(lines)
+    lines += ["## Batches", "", "By width of vectors; [how they are measured](../batch.md#measuring).", ""]
+    lines += [f"![batches](../results/batches-ratio-{theme}.svg#only-{theme})" for theme in charts.THEMES]
+    return "\n".join([*lines, ""])
 
 
 def main(build: Path, destination: Path) -> None:
@@ -86,7 +91,7 @@ def main(build: Path, destination: Path) -> None:
             (catalogue / name).write_text(text)
     (catalogue / "index.md").write_text(pages.overview(known))
     (catalogue / "speed.md").write_text(speed_page())
-    for language in ("c", "cpp", "py"):
+    for language in ("c", "cpp", "py", "mjs"):
         (destination.parent / f"catalogue_calls.{language}").write_text(pages.calls(language))
     (destination.parent / "catalogue.json").write_text(pages.manifest(known))
 

@@ -13,7 +13,7 @@ import matplotlib
 matplotlib.use("svg")
 import matplotlib.pyplot as plt  # noqa: E402
 
-from facts import PEERS, ROOT, Speed, speeds as published_speeds  # noqa: E402
+from facts import BATCHES, PEERS, ROOT, Results, Run, Speed, read_results, speeds as published_speeds  # noqa: E402
 
 # Ink, lines, small print.
 THEMES = {"light": ("#1f2937", "#d7dbe0", "#6b7280"), "dark": ("#e2e8f0", "#3b4252", "#9aa4b2")}
@@ -68,6 +68,11 @@ def _positions(lengths: list[int]) -> tuple[list[float], list[float], list[str]]
     return [float(n) for n in lengths], [float(n) for n in ticks], [str(n) for n in ticks]
 
 
+def _factors(low: int, high: int) -> list[str]:
+    """What powers of two from `low` to `high` mean."""
+    return ["equal" if e == 0 else f"{2**abs(e)}x {'slower' if e > 0 else 'faster'}" for e in range(low, high + 1)]
+
+
 def ratio(speeds: Speeds, word: str, theme: str, path: Path, transparent: bool = True) -> None:
     """Bars below the line are faster than the best peer, those above slower."""
     types = _types(speeds, word)
@@ -86,8 +91,7 @@ def ratio(speeds: Speeds, word: str, theme: str, path: Path, transparent: bool =
                 ax.annotate(PEERS[row.best_peer or ""].split(",")[0], (place, height), ha="center", va="bottom",
                             fontsize=7, color=_SLOWER, xytext=(0, 1), textcoords="offset points")
         low, high = math.floor(min(heights)), max(1, math.ceil(max(heights) + 0.2))
-        ax.set_yticks(range(low, high + 1),
-                      ["equal" if e == 0 else f"{2**abs(e)}x {'slower' if e > 0 else 'faster'}" for e in range(low, high + 1)])
+        ax.set_yticks(range(low, high + 1), _factors(low, high))
         ax.set_ylim(low, high)
         ax.set_xlim(places[0] - 0.8, places[-1] + 0.8)
         ax.axhline(0, color=_OURS, linewidth=1)
@@ -132,6 +136,39 @@ def nanoseconds(speeds: Speeds, word: str, theme: str, path: Path, transparent: 
 KINDS = {"ratio": ratio, "ns": nanoseconds}
 
 
+def batches(results: Results, theme: str, path: Path, transparent: bool = True) -> None:
+    """Time over that of FFTW's planned batches, by width of vectors; bars below the line are faster."""
+    kinds = [("DFTFwd_CToC", "32fc"), ("DFTFwd_CToC", "64fc"), ("DFTFwd_RToCCS", "32f"), ("DFTFwd_RToCCS", "64f"),
+             ("Hartley", "32f"), ("Hartley", "64f")]
+    captions = ["bars: a transform in a batch of arrays of 24 kilobytes together, against FFTW's planned batch of the same "
+                "layout", Run(results, "").where]
+    panels = [(word, type_, layout) for word, type_ in kinds for layout in ("rows", "columns")]
+    figure, axes, line, _ = _figure(theme, len(panels), "Batches: time beside FFTW's planned ones", captions)
+    widths = sorted(results.named("subject") + results.named("variant"), key=lambda name: int(name.split("_")[0]))
+    for ax, (word, type_, layout) in zip(axes, panels):
+        rows = {row.length: row.times for row in results.rows
+                if (row.mode, row.statistic, row.family, row.type) == (f"{layout}/L1", "median", word, type_)}
+        depths = []
+        for i, (width, colour) in enumerate(zip(widths, ("#94a3b8", "#2f9e77", _OURS))):
+            heights = [math.log2(times[width] / times["fftw"]) for times in rows.values()]
+            depths += heights
+            ax.bar([n + 0.27 * (i - 1) for n in rows], heights, width=0.27, color=colour, label=width.replace("_", " "))
+        low, high = math.floor(min(depths)), max(1, math.ceil(max(depths)))
+        ax.set_yticks(range(low, high + 1), _factors(low, high))
+        ax.axhline(0, color=_OURS, linewidth=1)
+        ax.grid(axis="y", color=line, linewidth=0.7)
+        ax.set_axisbelow(True)
+        ax.set_xticks([n for n in rows if n % 4 == 0])
+        ax.set_xlim(min(rows) - 0.8, max(rows) + 0.8)
+        ax.tick_params(length=0, labelbottom=True)
+        best = geometric_mean([times[widths[-1]] / times["fftw"] for n, times in rows.items() if n >= 8])
+        ax.set_title(f"{TITLES[word]}, {type_}, {layout}: {1 / best:.1f} times as fast from 8 points up at "
+                     f"{widths[-1].replace('_', ' ')}", loc="left", fontsize=10, fontweight="bold")
+    axes[0].legend(ncols=3, fontsize=8, loc="upper right")
+    axes[-1].set_xlabel("length")
+    _save(figure, path, captions, transparent)
+
+
 def packed(length: int, path: Path) -> None:
     """The three formats of a half spectrum, position by position; on a card that suits both themes."""
     last = (length - 1) // 2
@@ -164,3 +201,4 @@ def packed(length: int, path: Path) -> None:
 if __name__ == "__main__":
     for measured in TITLES:
         ratio(published_speeds(), measured, "light", ROOT / f"docs/results/{measured}.svg", transparent=False)
+    batches(read_results(BATCHES), "light", ROOT / "docs/results/batches.svg", transparent=False)

@@ -276,10 +276,13 @@ class Run:
         return self.results.busy
 
     @property
-    def caption(self) -> str:
+    def where(self) -> str:
         head = self.results.head
-        return (f"{head['processor']}, {head['cores']} cores, {self.results.state}, measured by {head['date']}; "
-                "baseline build, 128-bit vectors")
+        return f"{head['processor']}, {head['cores']} cores, {self.results.state}, measured by {head['date']}"
+
+    @property
+    def caption(self) -> str:
+        return self.where + "; baseline build, 128-bit vectors"
 
 
 @dataclass(frozen=True)
@@ -304,6 +307,7 @@ PEERS = {"fftw": "FFTW", "kissfft": "kissfft", "av_tx": "av_tx", "fftw128": "FFT
 
 # One run of the baseline and its flavours.
 FLAVOURS = ROOT / "docs/results/flavours.tsv"
+BATCHES = ROOT / "docs/results/batches.tsv"
 
 
 def speeds(mode: str = "hot") -> dict[tuple[str, str, int], Speed]:

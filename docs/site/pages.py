@@ -142,7 +142,7 @@ def _opening(algorithm: str, length: int) -> str:
     elif bare.startswith("CT(") or _top(bare) == "x":
         text = f"Cooley and Tukey: {length} in columns and rows, with twiddle factors between them."
     elif bare.startswith("halves("):
-        text = f"Sums and differences of samples half a length apart; the sums give the even bins, the differences the odd ones."
+        text = "Sums and differences of samples half a length apart; the sums give the even bins, the differences the odd ones."
     elif bare.startswith("Q4("):
         text = "Even bins by a transform of half the length, the odd ones by two of a quarter."
     elif bare.startswith("classes(") or bare.startswith("coprime"):
@@ -320,8 +320,10 @@ def overview(known: Facts) -> str:
 
 
 def calls(language: str) -> str:
-    """A source file of all calls in a language, each a function of its own; the one in Python calls them."""
-    label, arguments = {"c": ("C", "(void)"), "cpp": ("C++", "()"), "py": ("Python", "()")}[language]
+    """A source file of all calls in a language, each a function of its own; Python and JavaScript call them, too.
+    The first value of all transforms is the sum of what they are given, that of a DCT-IV a weighted one."""
+    label, arguments = {"c": ("C", "(void)"), "cpp": ("C++", "()"), "py": ("Python", "()"),
+                        "mjs": ("JavaScript", "(x)")}[language]
     headers, functions = set(), []
     for number, kernel in enumerate(kernels()):
         text = next(code for name, _, code in _calls(kernel) if name == label)
@@ -330,6 +332,14 @@ def calls(language: str) -> str:
         head = f"call_{number}{arguments}"
         if language == "py":
             functions.append(f"def {head}:\n    " + body.replace("\n", "\n    ") + f"\n\ncall_{number}()\n")
+        elif language == "mjs":
+            n, parts = kernel.length, 2 if kernel.family.slug == "complex" else 1
+            weight = f"Math.cos(Math.PI / {n} * (i + 0.5) / 2)" if kernel.family.slug == "dct4" else "1"
+            functions.append(f"async function {head} {{\n{body}\nreturn transform.output[0];\n}}\n{{\n"
+                             f"const x = Array.from({{length: {parts * n}}}, (_, i) => 1 + i % 7);\n"
+                             f"const first = x.reduce((sum, value, i) => sum + (i % {parts} ? 0 : value * {weight}), 0);\n"
+                             f"const got = await call_{number}(x);\n"
+                             f"if (!(Math.abs(got - first) <= 1e-5 * 4 * {n})) throw new Error(`{kernel.page}: ${{got}}`);\n}}\n")
         else:
             functions.append(f"void {head};\nvoid {head} {{\n{body}\n}}\n")
     return "\n".join([*sorted(headers), *functions])
