@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <limits>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -26,7 +25,6 @@ struct Options {
   std::string output = "spectrogram.png";
   int length = 64;
   int hop = 0;  // 0: a quarter of the length
-  double top_hz = std::numeric_limits<double>::infinity();
   int width = 1160;
   int height = 500;
 };
@@ -48,7 +46,7 @@ void run(const Options& options) {
   const auto show_progress = [terminal](double part) {
     if (terminal) std::fprintf(stderr, "spectrogram: %.0f %%\033[K\r", 100 * part);
   };
-  const Recording recording = read_recording(options.recording, options.top_hz, show_progress);
+  const Recording recording = read_recording(options.recording, show_progress);
   if (terminal) std::fputs("\033[K", stderr);
   if (recording.unusable > 0) {
     std::fprintf(stderr, "spectrogram: %zu samples were no usable numbers and count as silence\n",
@@ -58,7 +56,7 @@ void run(const Options& options) {
   const ShortTimeSpectrum spectrum(recording.samples, options.length, hop,
                                    plot_area(options.width, options.height).width);
   const double rate = recording.rate;
-  const double seconds = recording.seconds;
+  const double seconds = static_cast<double>(recording.samples.size()) / rate;
   // A picture has its name once it is complete, and never else.
   const std::string unfinished = options.output + ".part";
   try {
@@ -71,9 +69,8 @@ void run(const Options& options) {
   const double elapsed = std::chrono::duration<double>(Clock::now() - start).count();
   const double inside = spectrum.transform_time().count();
   std::printf("%s: %.4g s at %d Hz, %d %s\n", options.recording.c_str(), seconds,
-              recording.file_rate, recording.channels,
+              recording.rate, recording.channels,
               recording.channels == 1 ? "channel" : "channels mixed");
-  if (rate < recording.file_rate) std::printf("filtered, brought to %.0f Hz\n", rate);
   std::printf(
       "%zu frames of %d samples (%.4g ms), one every %d (%.4g ms); "
       "frequencies %.4g Hz apart\n",
@@ -81,7 +78,7 @@ void run(const Options& options) {
       rate / options.length);
   std::printf("the transforms: %.4g ms, %.4g ns each, %.0f times real time\n", 1e3 * inside,
               1e9 * inside / static_cast<double>(spectrum.frames()), seconds / inside);
-  std::printf("with reading, filtering and drawing: %.4g ms, %.0f times real time\npicture: %s\n",
+  std::printf("with reading and drawing: %.4g ms, %.0f times real time\npicture: %s\n",
               1e3 * elapsed, seconds / elapsed, options.output.c_str());
   if (std::fflush(stdout) != 0) throw std::runtime_error("standard output cannot be written");
 }
@@ -107,8 +104,6 @@ int main(int count, char** arguments) {
   add_number("-l,--length", options.length, 1, 4096, "of the transform")->capture_default_str();
   add_number("--hop", options.hop, 1, 4096,
              "samples from frame to frame (a quarter of the length)");
-  add_number("--top", options.top_hz, 1.0, 1e6,
-             "show the band up to this many Hz: the sample rate is lowered to twice as many");
   add_number("--width", options.width, 300, 30000, "of the picture, in pixels")
       ->capture_default_str();
   add_number("--height", options.height, 200, 30000, "of the picture, in pixels")

@@ -37,8 +37,7 @@ class FileArray:
         np.load(self.path, mmap_mode="r+")[where] = values
 
 
-def check(recording, spectra):
-    """Compares some spectra with those of numpy.fft."""
+def equal_to_numpy(recording, spectra):
     some = np.random.default_rng(2).integers(recording.shape[0], size=1000)
     expected = np.fft.rfft(recording[some].astype(np.float64))
     error = np.linalg.norm(spectra[some] - expected) / np.linalg.norm(expected)
@@ -59,13 +58,8 @@ def main():
         recording = FileArray(folder / "recording.npy", (blocks, BLOCK), np.float32)
         target = FileArray(folder / "spectra.npy", (blocks, BLOCK // 2 + 1), np.complex64)
 
-        with distributed.LocalCluster(
-            n_workers=2,
-            threads_per_worker=1,
-            memory_limit=options.memory,
-            dashboard_address=None,
-            local_directory=scratch,
-        ) as cluster, distributed.Client(cluster) as client:
+        workers = {"n_workers": 2, "threads_per_worker": 1, "memory_limit": options.memory}
+        with distributed.Client(**workers, dashboard_address=None, local_directory=scratch) as client:
             noise = dask.array.random.RandomState(1).normal(size=recording.shape, chunks=(at_once, BLOCK))
             sine = np.sin(2 * np.pi * TONE * np.arange(BLOCK) / BLOCK)
             (noise + sine).astype(np.float32).store(recording, lock=False)
@@ -82,7 +76,7 @@ def main():
         size = dask.utils.format_bytes(x.nbytes), dask.utils.format_bytes(spectra.nbytes)
         print(f"\n{blocks:,} spectra: {size[0]} became {size[1]} in two workers of {options.memory}")
         print(f"strongest bin: {power.argmax()}")
-        if not check(recording, target):
+        if not equal_to_numpy(recording, target):
             sys.exit("the spectra are not those of numpy.fft")
 
 

@@ -1,7 +1,5 @@
-// A recording on disk, mixed to one channel and brought to a lower sample rate.
+// A recording on disk, mixed to one channel.
 #pragma once
-
-#include <samplerate.h>
 
 #include <algorithm>
 #include <cmath>
@@ -18,17 +16,14 @@
 namespace haldgen::demo {
 
 struct Recording {
-  int file_rate, channels;  ///< of the file
-  double seconds;
-  double rate;                 ///< of the samples here
+  int rate, channels;          ///< of the file
   std::vector<float> samples;  ///< full scale being 1
   std::size_t unusable = 0;    ///< how many were no usable number and were taken as silence
 };
 
-/// Any format that libsndfile reads. The band up to `top_hz` is kept: where the recording has a
-/// wider one, its rate is lowered to twice that. Calls `progress` with the part that is read.
-/// Throws, also when the data cannot be decoded.
-inline Recording read_recording(const std::string& path, double top_hz,
+/// Any format that libsndfile reads. Calls `progress` with the part that is read. Throws, also when
+/// the data cannot be decoded.
+inline Recording read_recording(const std::string& path,
                                 const std::function<void(double)>& progress) {
   constexpr std::size_t kBlock = 8192;
   // Files of floats may hold anything. A larger value could overflow the sums of a transform.
@@ -40,7 +35,7 @@ inline Recording read_recording(const std::string& path, double top_hz,
   if (error) throw std::runtime_error(path + ": " + error.message());
 
   SndfileHandle file(path);
-  Recording result{file.samplerate(), file.channels(), 0, 1.0 * file.samplerate(), {}};
+  Recording result{file.samplerate(), file.channels(), {}};
   std::vector<float> block(kBlock * static_cast<std::size_t>(file.channels()));
   while (const sf_count_t got = file.readf(block.data(), kBlock)) {
     for (auto first = block.begin(); first != block.begin() + got * file.channels();
@@ -59,30 +54,6 @@ inline Recording read_recording(const std::string& path, double top_hz,
     throw std::runtime_error(text.substr(0, text.find_last_not_of(" .") + 1));
   }
   if (result.samples.empty()) throw std::runtime_error(path + ": holds no samples");
-  result.seconds = static_cast<double>(result.samples.size()) / result.file_rate;
-
-  const double ratio = 2 * top_hz / result.file_rate;
-  if (ratio >= 1) return result;
-  if (!(ratio >= 1.0 / 256)) {  // what libsamplerate goes down to
-    throw std::runtime_error("--top must be at least a 512th of the recording's rate");
-  }
-  result.rate *= ratio;
-  const auto frames = static_cast<double>(result.samples.size());
-  std::vector<float> lowered(static_cast<std::size_t>(frames * ratio) + 1);
-  SRC_DATA step{result.samples.data(),
-                lowered.data(),
-                std::ssize(result.samples),
-                std::ssize(lowered),
-                0,
-                0,
-                0,
-                ratio};
-  if (const int reason = src_simple(&step, SRC_SINC_MEDIUM_QUALITY, 1)) {
-    throw std::runtime_error(src_strerror(reason));
-  }
-  lowered.resize(static_cast<std::size_t>(step.output_frames_gen));
-  if (lowered.empty()) throw std::runtime_error(path + ": is too short");
-  result.samples = std::move(lowered);
   return result;
 }
 

@@ -187,18 +187,6 @@ TEST_F(Program, DrawsATonesRowBrightestInAPictureOfTheAskedSize) {
   EXPECT_EQ(brightest(0.5, 9), 2);
 }
 
-TEST_F(Program, LowersTheRateWithoutFoldingOrShifting) {
-  // Without a filter, 14.5 kHz would come down to 1.5 kHz; 4 kHz begins in the middle.
-  const Signal high = sine(14500);
-  const Signal low = sine(4000);
-  write_recording("wide.wav", 48000, 48000, {[=](double t) { return t < 0.5 ? high(t) : low(t); }});
-  ASSERT_EQ(run("--top 8000 wide.wav").status, 0);
-  EXPECT_EQ(brightest(0.25), -1);
-  EXPECT_EQ(brightest(0.49), -1);
-  EXPECT_EQ(brightest(0.51), 16);
-  EXPECT_EQ(brightest(0.99), 16);
-}
-
 TEST_F(Program, TakesShortRecordingsAndWhatIsNoNumber) {
   write_recording("short.wav", 8000, 1, {[](double) { return 0.5; }});
   ASSERT_EQ(run("short.wav").status, 0);
@@ -248,15 +236,13 @@ TEST_F(Program, RefusesBadArgumentsAndHelps) {
   expect_refusal("--length -1 good.wav", "-1");
   expect_refusal("--length 64x good.wav", "64x");
   expect_refusal("--hop 65 good.wav", "--hop");
-  expect_refusal("--top 0 good.wav", "--top");
-  expect_refusal("--top nan good.wav", "--top");
   expect_refusal("good.wav --output", "--output");
   expect_refusal("--loud good.wav", "--loud");
   expect_refusal("", "RECORDING");
   expect_refusal("good.wav good.wav", "not expected");
   const Outcome outcome = run("--help");
   EXPECT_EQ(outcome.status, 0);
-  for (const char* option : {"--output", "--length", "--hop", "--top", "--width", "--height"}) {
+  for (const char* option : {"--output", "--length", "--hop", "--width", "--height"}) {
     EXPECT_NE(outcome.out.find(option), std::string::npos) << option;
   }
 }
