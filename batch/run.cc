@@ -43,6 +43,18 @@ void in_groups(const Transform<Float, Kernel>& transform, const Call<Float>& cal
   }
 }
 
+/// Columns of at least one group: groups(first, count) for `count` groups from transform `first`
+/// on. An incomplete one is made up of transforms that are done already, if their sources are left.
+/// Returns how many transforms are done.
+template <class Float, class Groups>
+std::ptrdiff_t in_columns(const Call<Float>& call, int lanes, const Groups& groups) {
+  groups(0, call.count / lanes);
+  const std::ptrdiff_t rest = call.count % lanes;
+  if (rest == 0 || call.in_place()) return call.count - rest;
+  groups(call.count - lanes, 1);
+  return call.count;
+}
+
 /// The values of an array of N real numbers, or of their half spectrum, `step` floats from one
 /// position to the next.
 template <class Float>
@@ -100,12 +112,12 @@ void run_real_in(const RealTransform<Float>& transform, const Call<Float>& call,
   auto* const columns = bins ? transform.kernel->bins : transform.kernel->run;
   if (in_memory && columns != nullptr && call.src.is_column() && call.dst.is_column() &&
       call.count >= kCountOfLanes) {
-    const std::ptrdiff_t groups = call.count / kCountOfLanes;
-    const auto values = [&](auto& array, Format format) {
-      return values_of(array.first, array.step, bins ? Format::real : format, points);
-    };
-    columns({values(call.src, src), values(call.dst, dst), groups, call.scale});
-    done = groups * kCountOfLanes;
+    done = in_columns(call, kCountOfLanes, [&](std::ptrdiff_t first, std::ptrdiff_t groups) {
+      const auto values = [&](const auto& array, Format format) {
+        return values_of(array.from(first).first, array.step, bins ? Format::real : format, points);
+      };
+      columns({values(call.src, src), values(call.dst, dst), groups, call.scale});
+    });
   }
   if (done == call.count) return;
   alignas(64) Float from[kTileFloats * kCountOfLanes];
@@ -143,10 +155,11 @@ void run_complex(const ComplexTransform<Float>& transform, const Call<Float>& ca
   std::ptrdiff_t done = 0;
   if (kernels.columns != nullptr && call.src.is_column() && call.dst.is_column() &&
       call.count >= kLanes<Float>) {
-    const std::ptrdiff_t groups = call.count / kLanes<Float>;
-    kernels.columns(
-        {call.src.first, call.src.step, call.dst.first, call.dst.step, groups, call.scale});
-    done = groups * kLanes<Float>;
+    done = in_columns(call, kLanes<Float>, [&](std::ptrdiff_t first, std::ptrdiff_t groups) {
+      const Array<const Float> src = call.src.from(first);
+      const Array<Float> dst = call.dst.from(first);
+      kernels.columns({src.first, src.step, dst.first, dst.step, groups, call.scale});
+    });
   }
   if (done == call.count) return;
   if (kernels.rows != nullptr) return run_as_rows(kernels, floats, call, done);

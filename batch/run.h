@@ -34,6 +34,8 @@ struct Call {
   std::ptrdiff_t count;
   std::int32_t flag;
   Float scale;
+
+  bool in_place() const { return src.first == dst.first; }
 };
 
 enum class Direction { forward, inverse };

@@ -95,9 +95,8 @@ Contestant singles(void* library, const Batch& b) {
   const auto count = static_cast<std::size_t>(b.count);
   if (b.layout == Layout::rows) {
     return contestant_of("singles", Role::baseline, [=](const std::byte* src, std::byte* dst) {
-      for (std::size_t t = 0; t < count; ++t) {
-        call(src + t * src_bytes, dst + t * dst_bytes, haldScaleNone);
-      }
+      for (std::size_t t = 0; t < count; ++t, src += src_bytes, dst += dst_bytes)
+        call(src, dst, haldScaleNone);
     });
   }
   const std::size_t src_width = p.float_bytes() * static_cast<std::size_t>(p.source_parts());
@@ -126,8 +125,8 @@ struct BatchOptions {
 
 Measurement measured(const BatchOptions& options, const std::vector<Build>& builds,
                      void* single_library, const Room& room, Batch b) {
-  const std::size_t least = b.layout == Layout::blocks ? 1 : 8;
-  const auto count = std::max(room.bytes / (b.src_bytes() + b.dst_bytes()) / 4 * 4, least);
+  const auto count = std::max<std::size_t>(room.bytes / (b.src_bytes() + b.dst_bytes()) / 4 * 4,
+                                           b.layout == Layout::blocks ? 1 : 8);
   b.count = static_cast<int>(count);
   Arena arena(Mode::hot, count * b.src_bytes(), count * b.dst_bytes());
   std::vector<Contestant> contestants;

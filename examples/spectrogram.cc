@@ -68,18 +68,18 @@ void run(const Options& options) {
   }
   const double elapsed = std::chrono::duration<double>(Clock::now() - start).count();
   const double inside = spectrum.transform_time().count();
-  std::printf("%s: %.4g s at %d Hz, %d %s\n", options.recording.c_str(), seconds,
-              recording.rate, recording.channels,
-              recording.channels == 1 ? "channel" : "channels mixed");
+  std::printf("%s: %.4g s at %d Hz, %d %s\n", options.recording.c_str(), seconds, recording.rate,
+              recording.channels, recording.channels == 1 ? "channel" : "channels mixed");
   std::printf(
       "%zu frames of %d samples (%.4g ms), one every %d (%.4g ms); "
       "frequencies %.4g Hz apart\n",
       spectrum.frames(), options.length, 1000 * options.length / rate, hop, 1000 * hop / rate,
       rate / options.length);
-  std::printf("the transforms: %.4g ms, %.4g ns each, %.0f times real time\n", 1e3 * inside,
-              1e9 * inside / static_cast<double>(spectrum.frames()), seconds / inside);
-  std::printf("with reading and drawing: %.4g ms, %.0f times real time\npicture: %s\n",
-              1e3 * elapsed, seconds / elapsed, options.output.c_str());
+  std::printf(
+      "the transforms: %.4g ms, %.4g ns each, %.0f times real time\n"
+      "with reading and drawing: %.4g ms, %.0f times real time\npicture: %s\n",
+      1e3 * inside, 1e9 * inside / static_cast<double>(spectrum.frames()), seconds / inside,
+      1e3 * elapsed, seconds / elapsed, options.output.c_str());
   if (std::fflush(stdout) != 0) throw std::runtime_error("standard output cannot be written");
 }
 

@@ -25,10 +25,7 @@ double minimum(std::span<const double> samples) {
 std::string processor() {
   std::ifstream file("/proc/cpuinfo");
   for (std::string line; std::getline(file, line);) {
-    const std::size_t colon = line.find(": ");
-    if (line.starts_with("model name") && colon != std::string::npos) {
-      return line.substr(colon + 2);
-    }
+    if (line.starts_with("model name")) return line.substr(line.find(": ") + 2);
   }
   return "unknown";
 }
@@ -46,9 +43,7 @@ std::string load_average() {
 double median(std::span<const double> samples) {
   std::vector<double> sorted(samples.begin(), samples.end());
   std::sort(sorted.begin(), sorted.end());
-  const std::size_t upper = sorted.size() / 2;
-  if (sorted.size() % 2 != 0) return sorted[upper];
-  return (sorted[upper - 1] + sorted[upper]) / 2;
+  return (sorted[(sorted.size() - 1) / 2] + sorted[sorted.size() / 2]) / 2;
 }
 
 Head describe_machine() {

@@ -29,8 +29,6 @@ struct Rectangle {
 inline Rectangle plot_area(int width, int height) { return {84, 36, width - 200, height - 104}; }
 
 inline constexpr double kShownDb = 70;
-inline constexpr double kSilentPower = 1e-12;  // a silent recording still needs a scale
-inline constexpr int kBarWidth = 20;
 inline constexpr int kMark = 6;
 inline constexpr double kFontSize = 15;
 
@@ -38,7 +36,8 @@ inline std::shared_ptr<cairo_surface_t> new_surface(int width, int height) {
   return {cairo_image_surface_create(CAIRO_FORMAT_RGB24, width, height), cairo_surface_destroy};
 }
 
-inline double decibels(double power) { return 10 * std::log10(std::max(power, kSilentPower)); }
+// A silent recording still needs a scale.
+inline double decibels(double power) { return 10 * std::log10(std::max(power, 1e-12)); }
 
 // From near black over violet and orange to pale yellow; brightness rises throughout, so the order
 // of levels survives printing in grey. As a pixel of CAIRO_FORMAT_RGB24.
@@ -134,7 +133,7 @@ inline void draw_png(const ShortTimeSpectrum& spectrum, double seconds, double b
   draw_levels(cairo, area, spectrum.columns(), spectrum.bins(), [&](std::size_t x, std::size_t k) {
     return (decibels(spectrum.power(x, k)) - bottom_db) / kShownDb;
   });
-  const Rectangle bar{area.left + area.width + 24, area.top, kBarWidth, area.height};
+  const Rectangle bar{area.left + area.width + 24, area.top, 20, area.height};
   draw_levels(cairo, bar, 1, static_cast<std::size_t>(bar.height), [&](std::size_t, std::size_t y) {
     return (static_cast<double>(y) + 0.5) / bar.height;
   });

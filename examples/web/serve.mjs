@@ -6,11 +6,8 @@ import {extname, join, normalize} from 'node:path';
 import {fileURLToPath, pathToFileURL} from 'node:url';
 
 const here = fileURLToPath(new URL('.', import.meta.url));
-const types = {
-  '.html': 'text/html; charset=utf-8',
-  '.mjs': 'text/javascript',
-  '.wasm': 'application/wasm',
-};
+const types = {'.html': 'text/html; charset=utf-8', '.mjs': 'text/javascript',
+  '.wasm': 'application/wasm'};
 
 /// A server of the page with a build's package, not yet listening.
 export function pageServer(build) {
