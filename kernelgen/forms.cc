@@ -178,6 +178,7 @@ class Annealer {
       (power < ratio ? low : high) = step;
     }
     for (int sweep = 0; sweep < sweeps; ++sweep) {
+      weight_of_excess_.fill(-1);
       for (int i = 0; i < count; ++i) move(movable_[at(random_.below(count))], temperature);
       temperature *= step;
     }
@@ -208,42 +209,52 @@ class Annealer {
     o = static_cast<std::uint16_t>(o + change);
   }
 
-  void demand(int node, int change) {
-    const PackedNode& n = nodes_[at(node)];
-    const Choice& c = choices_[at(node)];
+  /// What a choice wants of the operands: sets of forms, and of orders of the first.
+  struct Wanted {
+    int forms_a = 0;
+    int forms_b = 0;
+    int orders_a = 0;
+  };
+  Wanted wanted(const PackedNode& n, int form, int lowering) const {
     switch (n.kind) {
       case PackedKind::load:
       case PackedKind::zero:
-        break;
-      case PackedKind::sum: {
-        const std::size_t form = at(index_of(c.form));
-        const auto lowering = static_cast<std::size_t>(c.lowering);
-        want_form(n.a, tables().sum_a[at(n.turn)][form][lowering], change);
-        want_form(n.b, tables().sum_b[at(n.turn)][form][lowering], change);
-        break;
-      }
+        return {};
+      case PackedKind::sum:
+        return {1 << tables_.sum_a[at(n.turn)][at(form)][at(lowering)],
+                1 << tables_.sum_b[at(n.turn)][at(form)][at(lowering)], 0};
       case PackedKind::scale:
-        want_order(n.a, c.form.exchanged, change);
-        break;
+        return {0, 0, 1 << form_of(form).exchanged};
       case PackedKind::rotate:
-        want_order(n.a, 0, change);
-        want_order(n.a, 1, change);
-        break;
+        return {0, 0, 3};
       case PackedKind::gather:
-      case PackedKind::store: {
-        const Demand d = demand_of(n, c);
-        want_form(n.a, index_of(d.a), change);
-        if (n.kind == PackedKind::gather) want_form(n.b, index_of(d.b), change);
+      case PackedKind::store:
         break;
-      }
+    }
+    const Demand d = demand_of(n, {form_of(form), static_cast<Lowering>(lowering)});
+    return {1 << index_of(d.a), n.kind == PackedKind::gather ? 1 << index_of(d.b) : 0, 0};
+  }
+
+  void demand(int node, int change) {
+    const PackedNode& n = nodes_[at(node)];
+    const Choice& c = choices_[at(node)];
+    const Wanted w = wanted(n, index_of(c.form), static_cast<int>(c.lowering));
+    if (w.forms_a != 0) want_form(n.a, std::countr_zero(static_cast<unsigned>(w.forms_a)), change);
+    if (w.forms_b != 0) want_form(n.b, std::countr_zero(static_cast<unsigned>(w.forms_b)), change);
+    for (const int order : {0, 1}) {
+      if (((w.orders_a >> order) & 1) != 0) want_order(n.a, order, change);
     }
   }
 
-  int cost(int node) const {
+  /// Of a node that is held in one form and wanted in these as well.
+  int cost(int node, int form, int more_forms, int more_orders) const {
     const Wants& w = wants_[at(node)];
-    const int forms = w.form_mask | (1 << index_of(choices_[at(node)].form));
-    const int orders = (w.orders[0] != 0 ? 1 : 0) | (w.orders[1] != 0 ? 2 : 0);
-    return tables().cost[at(forms)][at(orders)];
+    const int forms = w.form_mask | (1 << form) | more_forms;
+    const int orders = (w.orders[0] != 0 ? 1 : 0) | (w.orders[1] != 0 ? 2 : 0) | more_orders;
+    return tables_.cost[at(forms)][at(orders)];
+  }
+  int cost_of_operand(int node, int more_forms, int more_orders) const {
+    return cost(node, index_of(choices_[at(node)].form), more_forms, more_orders);
   }
 
   std::span<const int> lowerings(const PackedNode& n) const {
@@ -261,13 +272,18 @@ class Annealer {
     }
   }
 
-  /// Cost of what the choices of a node bear on; a store itself costs nothing.
-  int cost_around(int node) const {
+  /// Cost of what a choice bears on, of a node that demands nothing so far; a store itself costs
+  /// nothing.
+  int cost_around(int node, int form, int lowering) const {
     const PackedNode& n = nodes_[at(node)];
-    int total = n.kind == PackedKind::store ? 0 : cost(node);
-    total += cost(n.a);
-    if (n.b >= 0 && n.b != n.a) total += cost(n.b);
-    return total;
+    Wanted w = wanted(n, form, lowering);
+    int total = n.kind == PackedKind::store ? 0 : cost(node, form, 0, 0);
+    if (n.b == n.a) {
+      w.forms_a |= w.forms_b;
+    } else if (n.b >= 0) {
+      total += cost_of_operand(n.b, w.forms_b, 0);
+    }
+    return total + cost_of_operand(n.a, w.forms_a, w.orders_a);
   }
 
   /// Draws a new choice for a node with the probabilities of thermal equilibrium.
@@ -282,23 +298,18 @@ class Annealer {
     int least = 1 << 20;
     for (const int f : forms) {
       for (const int l : ways) {
-        choices_[at(node)] = {form_of(f), static_cast<Lowering>(l)};
-        demand(node, +1);
-        const int total = cost_around(node);
-        demand(node, -1);
+        const int total = cost_around(node, f, l);
         costs[at(candidates++)] = total;
         least = std::min(least, total);
       }
     }
     int pick = 0;
     if (temperature > 0) {
-      std::array<double, 64> weight_of_excess;
-      for (int e = 0; e < 64; ++e) weight_of_excess[at(e)] = -1;
       std::array<double, kChoices> weights;
       double sum = 0;
       for (int c = 0; c < candidates; ++c) {
-        const int excess = std::min(63, costs[at(c)] - least);
-        double& weight = weight_of_excess[at(excess)];
+        const int excess = std::min(kExcesses - 1, costs[at(c)] - least);
+        double& weight = weight_of_excess_[at(excess)];
         if (weight < 0) weight = decay(excess / temperature);
         weights[at(c)] = weight;
         sum += weight;
@@ -316,12 +327,15 @@ class Annealer {
     demand(node, +1);
   }
 
+  const Tables& tables_ = tables();
   const std::vector<PackedNode>& nodes_;
   std::vector<Choice> choices_;
   std::vector<Wants> wants_;
   std::vector<std::vector<int>> allowed_;  ///< forms that a node may take
   std::vector<int> movable_;
   std::vector<int> scale_masks_;
+  static constexpr int kExcesses = 64;
+  std::array<double, kExcesses> weight_of_excess_{};  ///< at this temperature; negative: not known
   Random random_;
 };
 
