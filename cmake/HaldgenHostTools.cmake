@@ -33,7 +33,7 @@ include(ExternalProject)
 ExternalProject_Add(haldgen_host_tools
   SOURCE_DIR ${PROJECT_SOURCE_DIR}
   BINARY_DIR ${tools}
-  CMAKE_ARGS -DCMAKE_BUILD_TYPE=Release -DHALDGEN_BUILD_TESTS=OFF -DHALDGEN_BUILD_EXAMPLES=OFF
+  CMAKE_ARGS -DCMAKE_BUILD_TYPE=Release
   BUILD_COMMAND ${CMAKE_COMMAND} --build . --target haldgen-generate haldgen-framegen
   BUILD_ALWAYS ON
   BUILD_BYPRODUCTS ${haldgen_generate} ${haldgen_framegen}

@@ -23,8 +23,6 @@ def build_wheel(wheel_directory, config_settings=None, metadata_directory=None):
     # pip hides the interpreter's packages from what it runs, NumPy's headers among them.
     environment = {name: value for name, value in os.environ.items() if name != "PYTHONPATH"}
     options = ["-DHALDGEN_BUILD_PYTHON=ON", "-DHALDGEN_FLAVOURS=ON", f"-DPython_EXECUTABLE={sys.executable}"]
-    if not (ROOT / "build/release/CMakeCache.txt").exists():
-        options += ["-DHALDGEN_BUILD_TESTS=OFF", "-DHALDGEN_BUILD_EXAMPLES=OFF"]
     build = ["cmake", "--build", "--preset", "release", "--target", "haldgen_python", "--parallel", jobs]
     for command in ([ROOT / "script/configure", "release", *options], build):
         subprocess.run(command, cwd=ROOT, env=environment, stdout=sys.stderr, check=True)

@@ -78,8 +78,8 @@ for built in "$build"/glibc-hwcaps/*/libhaldgenp8.so.8; do
 done
 
 echo "Absolute library folder:"
-"$cmake" -S "$source" -B "$scratch/absolute" -G "$generator" -DHALDGEN_BUILD_TESTS=OFF \
-  -DHALDGEN_BUILD_EXAMPLES=OFF -DCMAKE_INSTALL_PREFIX=/prefix -DCMAKE_INSTALL_LIBDIR=/libraries \
+"$cmake" -S "$source" -B "$scratch/absolute" -G "$generator" \
+  -DCMAKE_INSTALL_PREFIX=/prefix -DCMAKE_INSTALL_LIBDIR=/libraries \
   >/dev/null
 for package in haldgenp8 haldcore; do
   PKG_CONFIG_PATH=$scratch/absolute
