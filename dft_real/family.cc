@@ -79,8 +79,7 @@ struct Family {
     const Element element = family::real_element(type);
     const family::Choice choice =
         tuning.of(names::export_name(transform_word(kDirection, kPackings[0]), element, length));
-    const kernelgen::Program program = scheduled(program_of(design_of(length, kDirection), type),
-                                                 choice.ordering, overlap_of(length, kDirection));
+    const kernelgen::Program scalar = program_of(design_of(length, kDirection), type);
 
     family::Transforms result;
     result.length = length;
@@ -89,10 +88,11 @@ struct Family {
     result.title = std::string(kForward ? "Forward" : "Inverse") + " real DFT of length " +
                    std::to_string(length);
     result.algorithm = algorithm(length, type) + (kForward ? "" : ", transposed");
-    result.operations = kernelgen::describe(kernelgen::tally(program), type);
+    result.operations = kernelgen::describe(kernelgen::tally(scalar), type);
     result.command = std::string(kName) + " " + std::to_string(length) + " " +
                      std::string(names::suffix(element));
     result.includes = {"dft_real/packing.h", "family/contract.h"};
+    if (choice.pairs) result.includes.push_back("lanes/beside.h");
     result.scope = "dft_real";
     family::Transform transform{
         "Kernel", length, kForward ? kernelgen::Divides::forward : kernelgen::Divides::inverse,
@@ -104,7 +104,7 @@ struct Family {
     } else {
       transform.subscripts = {"Format::at", ""};
     }
-    result.bodies = {{transform, program, choice}};
+    result.bodies = {{transform, tuned(scalar, choice, overlap_of(length, kDirection)), choice}};
     for (const Packing packing : kPackings) {
       family::Transforms::Function function{
           transform_word(kDirection, packing),

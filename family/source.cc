@@ -1,5 +1,7 @@
 #include "family/source.h"
 
+#include "kernelgen/beside.h"
+
 namespace haldgen::family {
 namespace {
 
@@ -50,6 +52,11 @@ std::string ordered_by(const Choice& choice, bool has_forms) {
   if (choice.through_memory) text += "; what is widened goes through memory";
   if (has_forms) text += "; forms by seed " + std::to_string(choice.seed);
   return text + ".";
+}
+
+kernelgen::Program tuned(const kernelgen::Program& scalar, const Choice& choice,
+                         const kernelgen::Overlap& overlap) {
+  return scheduled(choice.pairs ? beside(scalar, *choice.pairs) : scalar, choice.ordering, overlap);
 }
 
 namespace {

@@ -87,6 +87,10 @@ Source source_of(const Transforms& transforms);
 /// The constants of a body that have names.
 std::vector<kernelgen::NamedConstant> constants_of(const Transforms::Body& body);
 
+/// A scalar program as it is tuned: in pairs of lanes or not, in an order.
+kernelgen::Program tuned(const kernelgen::Program& scalar, const Choice& choice,
+                         const kernelgen::Overlap& overlap = std::equal_to<>());
+
 /// The remark on a kernel's tuning.
 std::string ordered_by(const Choice& choice, bool has_forms);
 

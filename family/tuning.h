@@ -18,7 +18,8 @@ namespace haldgen::family {
 struct Choice {
   kernelgen::Ordering ordering;
   int seed = 0;
-  /// How nodes are paired in vectors of twice the width; none: they are not.
+  /// How nodes are paired in vectors of twice the width, or instructions of scalar code in vectors
+  /// of two lanes; none: they are not.
   std::optional<kernelgen::Pairs> pairs = {};
   /// Whether scalar kernels widen values through memory.
   bool through_memory = false;

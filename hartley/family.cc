@@ -38,8 +38,7 @@ family::Work work(int length, FloatType type) {
 family::Transforms transforms(int length, FloatType type, const family::Tuning& tuning) {
   const Element element = family::real_element(type);
   const family::Choice choice = tuning.of(names::export_name(kWord, element, length));
-  const kernelgen::Program program =
-      scheduled(program_of(design_of(length), type), choice.ordering);
+  const kernelgen::Program scalar = program_of(design_of(length), type);
 
   family::Transforms result;
   result.length = length;
@@ -47,11 +46,13 @@ family::Transforms transforms(int length, FloatType type, const family::Tuning& 
   result.element = element;
   result.title = "Hartley transform of length " + std::to_string(length);
   result.algorithm = algorithm(length, type);
-  result.operations = kernelgen::describe(kernelgen::tally(program), type);
+  result.operations = kernelgen::describe(kernelgen::tally(scalar), type);
   result.command = "hartley " + std::to_string(length) + " " + std::string(names::suffix(element));
   result.includes = {"family/contract.h"};
+  if (choice.pairs) result.includes.push_back("lanes/beside.h");
   result.scope = "hartley";
-  result.bodies = {{{"Kernel", length, kernelgen::Divides::both, element}, program, choice}};
+  result.bodies = {
+      {{"Kernel", length, kernelgen::Divides::both, element}, tuned(scalar, choice), choice}};
   result.functions = {{kWord, 0, {}, {}}};
   return result;
 }

@@ -122,7 +122,7 @@ std::vector<NamedConstant> named_constants(const Program& program, const Constan
   std::set<std::pair<double, FloatType>, std::greater<>> numbers;
   for (const Instruction& in : program.code) {
     if (in.op != Op::multiply) continue;
-    for (int l = 0; l < program.lanes; ++l) {
+    for (int l = 0; l < lanes_of(program, in); ++l) {
       const double number = std::abs(in.constant[at(l)]);
       if (!is_short(number)) numbers.emplace(number, in.wide ? FloatType::f64 : program.type);
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <map>
 #include <set>
 #include <stdexcept>
@@ -54,6 +55,8 @@ class Printer {
     return std::any_of(program_.code.begin(), program_.code.end(),
                        [](const Instruction& in) { return in.op == Op::scale; });
   }
+  /// Of scalar programs: whether the instruction makes two values, side by side.
+  bool is_pair(const Instruction& in) const { return scalar() && lanes_of(program_, in) == 2; }
   bool paired() const { return program_.memory == Memory::paired; }
   bool blocks() const {
     return program_.memory == Memory::blocks || paired() || program_.blockwise;
@@ -216,10 +219,18 @@ class Printer {
     } else if (paired()) {
       type = vector_of(in);
     } else if (scalar()) {
-      const bool in32 = f32() && !(in.wide && in.op != Op::narrow);
-      type = type_name(in32 ? FloatType::f32 : FloatType::f64);
+      type = is_pair(in) ? pair_type(in) : type_name(type_of(in));
     }
     line("const " + type + " " + name(index) + " = " + expression + ";");
+  }
+
+  /// Of the result of a scalar program's instruction, or of each of its lanes.
+  FloatType type_of(const Instruction& in) const {
+    const bool in32 = f32() && !(in.wide && in.op != Op::narrow);
+    return in32 ? FloatType::f32 : FloatType::f64;
+  }
+  std::string pair_type(const Instruction& in) const {
+    return type_of(in) == FloatType::f32 ? "lanes::FloatPair" : "lanes::DoublePair";
   }
 
   std::string constant(double number, FloatType type) const {
@@ -229,7 +240,14 @@ class Printer {
   }
 
   std::string constants(const Instruction& in) const {
-    if (scalar()) return constant(in.constant[0], in.wide ? FloatType::f64 : program_.type);
+    if (scalar()) {
+      const FloatType type = in.wide ? FloatType::f64 : program_.type;
+      const std::string first = constant(in.constant[0], type);
+      const bool same = std::signbit(in.constant[0]) == std::signbit(in.constant[1]) &&
+                        in.constant[0] == in.constant[1];
+      if (!is_pair(in) || same) return first;
+      return pair_type(in) + "{" + first + ", " + constant(in.constant[1], type) + "}";
+    }
     const bool repeated = blocks() && !paired();
     std::string text = repeated ? "lanes::repeated<V>(" : in_c() ? "vector(" : vector_of(in) + "{";
     for (int l = 0; l < lanes_of(program_, in); ++l) {
@@ -393,6 +411,39 @@ class Printer {
     }
   }
 
+  /// Whether the instruction is one that says in words of its own how two values are side by side.
+  bool print_beside(int index) {
+    const Instruction& in = program_.code[static_cast<std::size_t>(index)];
+    const std::string a = name(in.a);
+    const std::string lanes =
+        "<" + std::to_string(in.half[0]) + ", " + std::to_string(in.half[1]) + ">";
+    if (in_c() && is_pair(in)) throw std::logic_error("values side by side in C");
+    switch (in.op) {
+      case Op::join:
+        define(index, in.a == in.b ? "lanes::broadcast(" + a + ")"
+                                   : "lanes::beside(" + a + ", " + name(in.b) + ")");
+        return true;
+      case Op::merge:
+        define(index, in.a == in.b ? "lanes::rearranged" + lanes + "(" + a + ")"
+                                   : "lanes::beside" + lanes + "(" + a + ", " + name(in.b) + ")");
+        return true;
+      case Op::block:
+        define(index, "lanes::lane<" + std::to_string(in.half[0]) + ">(" + a + ")");
+        return true;
+      case Op::widen:
+        if (is_pair(in)) define(index, "lanes::widened_pair(" + a + ")");
+        return is_pair(in);
+      case Op::narrow:
+        if (is_pair(in)) define(index, "lanes::narrowed_pair(" + a + ")");
+        return is_pair(in);
+      case Op::scale:
+        if (is_pair(in) && in64(in)) define(index, "double{scale} * " + a);
+        return is_pair(in) && in64(in);
+      default:
+        return false;
+    }
+  }
+
   void print(int index) {
     const Instruction& in = program_.code[static_cast<std::size_t>(index)];
     const std::string a = name(in.a);
@@ -410,6 +461,7 @@ class Printer {
       if (in.op == Op::store) return line("io.template store" + slot(in) + "(" + a + ");");
     }
     if (blocks() && print_in_blocks(index)) return;
+    if (scalar() && print_beside(index)) return;
     switch (in.op) {
       case Op::load:
         return define(index, scalar() ? scalar_word("load") + "(" +

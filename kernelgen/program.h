@@ -52,7 +52,7 @@ struct Instruction {
   std::array<int, 2> address{};      ///< in floats from the base
   std::array<int, 2> half{};
   std::array<int, 2> cross{};
-  int lanes = 0;           ///< of its vector, where a program has vectors of two widths
+  int lanes = 0;           ///< of its vector, where a program has vectors of two widths or pairs
   bool wide = false;       ///< scalar programs of 32-bit elements: a 64-bit operation
   std::string stage = {};  ///< of the statement that it belongs to; none: whichever needs it
 };
@@ -74,7 +74,7 @@ enum class Memory { arrays, slots, elements, half_spectrum, blocks, paired };
 
 struct Program {
   FloatType type = FloatType::f64;
-  int lanes = 1;  ///< floats in a vector; 1 for scalar programs
+  int lanes = 1;  ///< floats in a vector; 1 for scalar programs, in which pairs say that they are
   std::vector<Instruction> code;
   Memory memory = Memory::arrays;
   /// Of scalar programs: in each lane of vectors, whose type V the code is a template over, runs

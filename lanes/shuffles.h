@@ -60,6 +60,12 @@ inline Float4 interleave_upper(Float4 a, Float4 b) {
   return __builtin_shufflevector(a, b, 2, 6, 3, 7);
 }
 
+/// The first two lanes in 64 bits, and two lanes narrowed, below zeros.
+inline Double2 widened_pair(Float4 a) { return Double2{a[0], a[1]}; }
+inline Float4 narrowed_pair(Double2 a) {
+  return Float4{static_cast<float>(a[0]), static_cast<float>(a[1]), 0, 0};
+}
+
 /// All lanes in the opposite order.
 inline Double2 reversed(Double2 a) { return exchange(a); }
 inline Float4 reversed(Float4 a) { return __builtin_shufflevector(a, a, 3, 2, 1, 0); }

@@ -6,6 +6,7 @@
 //   exchange(a), reversed(a)                  another order of the lanes
 //   gather<...>(a, b), interleave_lower(a, b), interleave_upper(a, b)
 //                                             lanes of two vectors
+//   widened_pair(a), narrowed_pair(a)         two floats as doubles, and back
 //   load_single, load_pair, store_single, store_upper
 //                                             two floats, half a vector, at any address
 //   Aligned, Anywhere, ByHalves               `load` and `store` of whole vectors

@@ -48,6 +48,10 @@ inline __m128 interleave_lower(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b
 inline __m128d interleave_upper(__m128d a, __m128d b) { return _mm_unpackhi_pd(a, b); }
 inline __m128 interleave_upper(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
 
+/// The first two lanes in 64 bits, and two lanes narrowed, below zeros.
+inline __m128d widened_pair(__m128 a) { return _mm_cvtps_pd(a); }
+inline __m128 narrowed_pair(__m128d a) { return _mm_cvtpd_ps(a); }
+
 /// All lanes in the opposite order.
 inline __m128d reversed(__m128d a) { return exchange(a); }
 inline __m128 reversed(__m128 a) {
